@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <stdexcept>
+
+// What goes wrong inside the program. The texts are English and for developers: a handler at the
+// edge catches the type and shows the French message that belongs to its command.
+class UsmiraError : public std::runtime_error
+{
+public:
+    explicit UsmiraError(const QString &text) : std::runtime_error(text.toStdString()) {}
+};
+
+// A call to the file system failed.
+class FileError : public UsmiraError
+{
+public:
+    enum class Operation { Read, Write };
+
+    FileError(Operation operation, const QString &path, const QString &systemText);
+
+    Operation operation() const { return m_operation; }
+    const QString &path() const { return m_path; }
+
+private:
+    Operation m_operation;
+    QString m_path;
+};
+
+// Bytes are not what their format asks for. Position: 0-based offset of the offending byte.
+class FormatError : public UsmiraError
+{
+public:
+    FormatError(qint64 position, const QString &expectation);
+
+    qint64 position() const { return m_position; }
+
+private:
+    qint64 m_position;
+};

@@ -1,0 +1,160 @@
+#include "platform/SafeFile.h"
+
+#include "platform/Errors.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace
+{
+QString lastSystemError()
+{
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
+
+[[noreturn]] void failWrite(const QString &path, const QString &why)
+{
+    throw FileError(FileError::Operation::Write, path, why);
+}
+
+QString checkedTarget(const QString &path, Links links)
+{
+    const QFileInfo info(path);
+    if (links == Links::Replace && info.isSymLink()) {
+        removeFile(path);
+        return path;
+    }
+    if (info.exists() && !info.isFile())
+        failWrite(path, QStringLiteral("not a regular file"));
+    return path;
+}
+
+// The file that a chain of links ends in, also when that file does not exist yet.
+QString resolvedTarget(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isSymLink() ? info.symLinkTarget() : path;
+}
+} // namespace
+
+SafeFile::SafeFile(const QString &path, Durability durability, Links links)
+    : m_file(checkedTarget(path, links)), m_durability(durability)
+{
+    m_file.setDirectWriteFallback(false);
+    if (!m_file.open(QIODevice::WriteOnly))
+        fail();
+}
+
+SafeFile::~SafeFile()
+{
+    m_file.cancelWriting();
+}
+
+void SafeFile::fail()
+{
+    m_file.cancelWriting();
+    failWrite(m_file.fileName(), m_file.errorString());
+}
+
+void SafeFile::write(QByteArrayView bytes)
+{
+    if (m_file.write(bytes.data(), bytes.size()) != bytes.size())
+        fail();
+}
+
+void SafeFile::commit()
+{
+    // QSaveFile ignores a sync that failed, so the sync is ours: a full disk may show only here.
+    if (!m_file.flush())
+        fail();
+    if (::fsync(m_file.handle()) != 0) {
+        const QString why = lastSystemError();
+        m_file.cancelWriting();
+        failWrite(m_file.fileName(), why);
+    }
+    if (!m_file.commit())
+        failWrite(m_file.fileName(), m_file.errorString());
+    if (m_durability == Durability::Full)
+        syncFolder(QFileInfo(resolvedTarget(m_file.fileName())).absolutePath());
+}
+
+void writeWholeFile(const QString &path, QByteArrayView bytes, Durability durability, Links links)
+{
+    SafeFile file(path, durability, links);
+    file.write(bytes);
+    file.commit();
+}
+
+QByteArray readWholeFile(const QString &path, qint64 limit)
+{
+    const auto fail = [&path](const QString &why) {
+        throw FileError(FileError::Operation::Read, path, why);
+    };
+    // Asked before opening, because opening a pipe would wait for its other end.
+    if (!QFileInfo(path).isFile())
+        fail(QStringLiteral("no regular file"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        fail(file.errorString());
+    if (file.size() > limit)
+        fail(QStringLiteral("longer than %1 bytes").arg(limit));
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        fail(file.errorString());
+    return bytes;
+}
+
+void removeFile(const QString &path)
+{
+    if (::unlink(QFile::encodeName(path).constData()) != 0 && errno != ENOENT)
+        failWrite(path, lastSystemError());
+}
+
+void moveIntoPlace(const QString &source, const QString &target)
+{
+    const QString resolved = resolvedTarget(target);
+    const QFileInfo info(resolved);
+    if (info.exists() && !info.isFile())
+        failWrite(target, QStringLiteral("not a regular file"));
+    if (info.exists())
+        QFile::setPermissions(source, info.permissions());
+    if (std::rename(QFile::encodeName(source).constData(),
+                    QFile::encodeName(resolved).constData()) == 0) {
+        syncFolder(info.absolutePath());
+        return;
+    }
+    if (errno != EXDEV)
+        failWrite(target, lastSystemError());
+    QFile from(source);
+    if (!from.open(QIODevice::ReadOnly))
+        throw FileError(FileError::Operation::Read, source, from.errorString());
+    SafeFile to(resolved, Durability::Full, Links::Follow);
+    while (!from.atEnd()) {
+        const QByteArray block = from.read(1 << 20);
+        if (from.error() != QFileDevice::NoError)
+            throw FileError(FileError::Operation::Read, source, from.errorString());
+        to.write(block);
+    }
+    to.commit();
+    from.close();
+    removeFile(source);
+}
+
+void syncFolder(const QString &folder)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        failWrite(folder, lastSystemError());
+    const int result = ::fsync(descriptor);
+    const QString why = lastSystemError();
+    const bool unsupported = errno == EINVAL || errno == ENOTSUP;
+    ::close(descriptor);
+    if (result != 0 && !unsupported)
+        failWrite(folder, why);
+}

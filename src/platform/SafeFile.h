@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QByteArray>
+#include <QSaveFile>
+#include <QString>
+
+// How much of a write must have reached the disk when the call returns.
+enum class Durability {
+    Full, // the bytes and the folder's entry
+    Data, // the bytes alone
+};
+
+// What a symbolic link of the target's name means.
+enum class Links {
+    Follow,  // the file that the link names is replaced, the link stays
+    Replace, // the link itself is replaced: in the working folder nothing leads elsewhere
+};
+
+// One file being written: the only way in which the program writes files. The target is replaced
+// whole by commit() or left untouched. Every failure throws FileError (Write) and leaves nothing
+// behind. Only regular files are replaced.
+class SafeFile
+{
+public:
+    SafeFile(const QString &path, Durability durability, Links links);
+    ~SafeFile();
+    SafeFile(const SafeFile &) = delete;
+    SafeFile &operator=(const SafeFile &) = delete;
+
+    void write(QByteArrayView bytes);
+    // Number of bytes written so far.
+    qint64 position() const { return m_file.pos(); }
+    void commit();
+
+private:
+    [[noreturn]] void fail();
+
+    QSaveFile m_file;
+    Durability m_durability;
+};
+
+void writeWholeFile(const QString &path, QByteArrayView bytes, Durability durability, Links links);
+
+// The whole of a regular file. Throws FileError (Read) when it cannot be read, is no regular file
+// or is longer than limit bytes.
+QByteArray readWholeFile(const QString &path, qint64 limit);
+
+// Removes a file or a link. A file that is not there is no error. Throws FileError (Write).
+void removeFile(const QString &path);
+
+// Puts the complete file source in the place of target (links followed, permissions of the target
+// kept) and removes source: by rename on one file system, else by a safe copy. On failure throws
+// FileError (Write), and both files are as they were.
+void moveIntoPlace(const QString &source, const QString &target);
+
+// Makes the entries of a folder durable. A system without such a call does nothing.
+void syncFolder(const QString &folder);
