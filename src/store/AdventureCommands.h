@@ -1,0 +1,70 @@
+#pragma once
+
+#include "platform/Prompts.h"
+#include "store/Variables.h"
+
+class RichTextBox;
+
+// What the commands ask of whoever shows the adventure: the main window, or a script without one.
+class AdventureView
+{
+public:
+    AdventureView() = default;
+    virtual ~AdventureView() = default;
+    AdventureView(const AdventureView &) = delete;
+    AdventureView &operator=(const AdventureView &) = delete;
+
+    virtual RichTextBox &editingBox() = 0;
+
+    // Shows paragraph n and makes it the current one. Throws FileError or FormatError, and stays on
+    // the paragraph that was shown, when n's text cannot be read.
+    virtual void LoadParg(int n) = 0;
+
+    // Another adventure has become the open one: title and lists start afresh.
+    virtual void adventureReplaced() = 0;
+
+    // Around long work: the caption stands in the place of the editing box meanwhile.
+    virtual void longWorkBegins(const QString &caption) = 0;
+    virtual void longWorkEnds() = 0;
+};
+
+// New, Open and Save, with the question about unsaved changes. Failures are told to the author in
+// the prescribed words; the return values say whether to go on.
+class AdventureCommands
+{
+public:
+    AdventureCommands(Variables &variables, Prompts &prompts, AdventureView &view);
+
+    Prompts::Answer AskToSave();
+
+    // The prelude of every command that leaves the adventure: saves the paragraph, asks about
+    // unsaved changes. False: stay (Cancel, or something could not be saved). After "Non" the
+    // adventure is in memory as it was last saved; who then does not leave it shows it again.
+    bool LeaveAdventure();
+
+    void New();
+    void Open();
+
+    // Creates the adventure at path, replacing what is there only once the new file is whole.
+    bool NewAdventure(const QString &path);
+
+    // Opens the file at path. On failure the adventure open before stays as it was.
+    bool OpenAdventure(const QString &path);
+
+    // Writes the adventure if anything is unsaved. False when it still is afterwards.
+    bool Save();
+
+private:
+    void discardChanges();
+    void showAgain();
+    void nameAdventure(const QString &path);
+    void showSavedParagraph();
+    void rebuildIndex();
+    bool writeAndSwap();
+    bool mayReplace();
+    void swapFailed();
+
+    Variables &m_variables;
+    Prompts &m_prompts;
+    AdventureView &m_view;
+};

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "store/Variables.h"
+
+// The adventure file, extension "usm". All numbers are big-endian, texts have one Windows-1252 byte
+// for each character, positions are 1-based. docs/format-usm.md has examples.
+//
+// Version 35, the only one written:
+//   u16 version = 35, u16 lowest, u16 highest, u16 current
+//   "TARG" u16 length, phrase
+//   "UNMX" one byte (0 or 1) for each number lowest..highest
+//   "SECT" u16 number, u32 length, RTF text, u16 length, reference list     once a paragraph
+//   "DONE"
+// Any other version (25 and below), read only:
+//   u16 version, u16 lowest, u16 highest, u16 current
+//   u8 length, phrase, padding to 31 bytes, 64 reserved bytes
+//   1000 flag bytes for 0..999, in version 25 only
+//   1001 u32 offsets: text n runs from offset[n] up to offset[n+1]
+
+// What an adventure file says, before any of it is taken over.
+struct AdventureContents {
+    int version = 0;
+    qint16 lowest = 1;
+    qint16 highest = 1;
+    qint16 current = 1;
+    QString targetPhrase;
+    std::array<quint8, 2002> written{};
+    std::array<qint32, 2001> sectionOffset{};
+    std::array<quint8, 2002> unmixable{};
+    std::array<QString, 2001> refIndex;
+    std::shared_ptr<OpenedFile> file;
+};
+
+inline constexpr int CurrentVersion = 35;
+
+// Reads a file of any version. Of a hostile file: unknown tags are passed over, a range that does
+// not fit the sections is widened to them. Throws FileError, or FormatError on an end before
+// "DONE", a length beyond the end, a 2-byte number of 32768 or more and a section above 2000.
+AdventureContents readAdventure(const std::shared_ptr<OpenedFile> &file);
+
+// Makes the contents the adventure's state: all arrays fresh, no working file, nothing modified.
+// Path, name and prefix stay as they are.
+void takeOver(Variables &variables, AdventureContents contents);
+
+// Writes the whole adventure to path, reads it back with readAdventure and compares numbers,
+// lengths and lists. Changes neither the state nor any other file. Throws FileError, or
+// FormatError when what was read back is not what was written.
+AdventureContents writeAdventure(const Variables &variables, const QString &path);

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+#include <array>
+#include <memory>
+
+class OpenedFile;
+
+// The state of the one open adventure, and the options. main owns the only instance; everything
+// else is handed a reference. Array bounds differ by one on purpose: Written and Unmixable accept
+// 2001, so that a loop may look one number past the last paragraph.
+struct Variables {
+    static constexpr int LastParagraph = 2000;
+
+    QString AdventureFileName; // without its folder
+    QString AdventurePath;     // full path
+    QString WorkingFolder;     // ends with the platform's separator
+    QString FilePrefix;        // of this adventure's working files
+    QString TargetPhrase = QStringLiteral(" au ");
+    qint16 LowestWritten = 1;
+    qint16 HighestWritten = 1;
+    qint16 CurrentParagraph = 1;
+    bool AdventureOpen = false;
+    bool ParagraphDirty = false;    // the box has changed since the paragraph was loaded or saved
+    bool AdventureModified = false; // a paragraph was saved since the adventure file was written
+    bool CurrentFormat = true;      // the adventure file has version 35
+
+    std::array<quint8, 2002> Written{};       // 1: the paragraph has text
+    std::array<quint8, 2001> Extracted{};     // 1: its working file holds its current text
+    std::array<qint32, 2001> SectionOffset{}; // 1-based position of its text in the adventure file
+    std::array<quint8, 2002> Unmixable{};     // 1: MasterMix leaves its number alone
+    std::array<QString, 2001> refIndex;       // its references, "0012/0340/"
+
+    // The adventure file as it was opened, kept open: texts are read from it even when another
+    // program has put a different file under its name. Null for an adventure never written.
+    std::shared_ptr<OpenedFile> AdventureFile;
+
+    bool optNDash = false;
+    bool optMDash = false;
+    bool optBullet = false;
+    qint16 optEllipsis = 0; // -1 or 0
+    bool optFrenchQuotes = false;
+    bool optLigatureAE = false;
+    bool optLigatureOE = false;
+    qint16 optNbsp = 0; // -1 or 0
+    bool optCtrlECentres = false;
+    qint16 showTabPanel = 0; // -1 or 0: the panel of indents and tab stops is shown
+    QString defaultFontName = QStringLiteral("Times New Roman");
+    qint16 defaultFontSize = 12; // points
+};
+
+// A paragraph number as file names, anchors and the reference index write it: "0026".
+QString fourDigits(int n);
