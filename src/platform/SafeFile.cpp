@@ -115,25 +115,14 @@ void removeFile(const QString &path)
         failWrite(path, lastSystemError());
 }
 
-void moveIntoPlace(const QString &source, const QString &target)
+void copyFile(const QString &source, const QString &target)
 {
-    const QString resolved = resolvedTarget(target);
-    const QFileInfo info(resolved);
-    if (info.exists() && !info.isFile())
-        failWrite(target, QStringLiteral("not a regular file"));
-    if (info.exists())
-        QFile::setPermissions(source, info.permissions());
-    if (std::rename(QFile::encodeName(source).constData(),
-                    QFile::encodeName(resolved).constData()) == 0) {
-        syncFolder(info.absolutePath());
-        return;
-    }
-    if (errno != EXDEV)
-        failWrite(target, lastSystemError());
+    if (!QFileInfo(source).isFile())
+        throw FileError(FileError::Operation::Read, source, QStringLiteral("no regular file"));
     QFile from(source);
     if (!from.open(QIODevice::ReadOnly))
         throw FileError(FileError::Operation::Read, source, from.errorString());
-    SafeFile to(resolved, Durability::Full, Links::Follow);
+    SafeFile to(target, Durability::Full, Links::Follow);
     while (!from.atEnd()) {
         const QByteArray block = from.read(1 << 20);
         if (from.error() != QFileDevice::NoError)
@@ -141,7 +130,28 @@ void moveIntoPlace(const QString &source, const QString &target)
         to.write(block);
     }
     to.commit();
-    from.close();
+}
+
+void moveIntoPlace(const QString &source, const QString &target)
+{
+    const QString resolved = resolvedTarget(target);
+    const QFileInfo info(resolved);
+    if (info.exists()) {
+        if (!info.isFile())
+            failWrite(target, QStringLiteral("not a regular file"));
+        // A rename would replace it all the same: a read-only file is meant to stay.
+        if (!info.isWritable())
+            failWrite(target, QStringLiteral("read-only"));
+        QFile::setPermissions(source, info.permissions());
+    }
+    if (std::rename(QFile::encodeName(source).constData(),
+                    QFile::encodeName(resolved).constData()) == 0) {
+        syncFolder(info.absolutePath());
+        return;
+    }
+    if (errno != EXDEV)
+        failWrite(target, lastSystemError());
+    copyFile(source, resolved);
     removeFile(source);
 }
 

@@ -53,5 +53,8 @@ void removeFile(const QString &path);
 // FileError (Write), and both files are as they were.
 void moveIntoPlace(const QString &source, const QString &target);
 
+// A safe copy of a regular file; a file of the target's name is replaced. Throws FileError.
+void copyFile(const QString &source, const QString &target);
+
 // Makes the entries of a folder durable. A system without such a call does nothing.
 void syncFolder(const QString &folder);

@@ -58,7 +58,7 @@ private:
     void discardChanges();
     void showAgain();
     void nameAdventure(const QString &path);
-    void showSavedParagraph();
+    void showCurrentParagraph();
     void rebuildIndex();
     bool writeAndSwap();
     bool mayReplace();

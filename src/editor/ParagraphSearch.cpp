@@ -1,0 +1,65 @@
+#include "editor/ParagraphSearch.h"
+
+#include "store/ReferenceIndex.h"
+
+namespace
+{
+std::optional<int> search(const Variables &variables, int from, int step, bool typed)
+{
+    for (int n = from + step; n >= 0 && n <= Variables::LastParagraph; n += step) {
+        if ((variables.Written.at(static_cast<std::size_t>(n)) == 1) == typed)
+            return n;
+    }
+    return std::nullopt;
+}
+} // namespace
+
+std::optional<int> nextTyped(const Variables &variables, int from)
+{
+    return search(variables, from, +1, true);
+}
+
+std::optional<int> previousTyped(const Variables &variables, int from)
+{
+    return search(variables, from, -1, true);
+}
+
+std::optional<int> nextEmpty(const Variables &variables, int from)
+{
+    return search(variables, from, +1, false);
+}
+
+std::optional<int> previousEmpty(const Variables &variables, int from)
+{
+    return search(variables, from, -1, false);
+}
+
+std::optional<int> firstFree(const Variables &variables, int from)
+{
+    std::array<bool, Variables::LastParagraph + 1> used{};
+    for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
+        const auto index = static_cast<std::size_t>(n);
+        if (variables.Written.at(index) == 0)
+            continue;
+        used.at(index) = true;
+        for (const int referred : referredParagraphs(variables.refIndex.at(index)))
+            used.at(static_cast<std::size_t>(referred)) = true;
+    }
+    int n = from;
+    for (int step = 0; step < Variables::LastParagraph; ++step) {
+        n = n >= Variables::LastParagraph ? 1 : n + 1;
+        if (!used.at(static_cast<std::size_t>(n)))
+            return n;
+    }
+    return std::nullopt;
+}
+
+int countWritten(const Variables &variables)
+{
+    int count = 0;
+    for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
+        if (n > 0 && variables.Written.at(static_cast<std::size_t>(n)) == 1)
+            ++count;
+    }
+    return count;
+}

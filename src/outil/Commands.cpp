@@ -1,0 +1,201 @@
+#include "outil/Commands.h"
+
+#include "editor/ParagraphSearch.h"
+#include "outil/StateReport.h"
+#include "platform/SafeFile.h"
+#include "richtext/RtfReader.h"
+#include "store/ParagraphStore.h"
+#include "store/ReferenceIndex.h"
+
+#include <QFileInfo>
+#include <algorithm>
+
+// How many arguments a command takes is read off its form.
+struct Commands::Entry {
+    QString name;
+    QString form;
+    QString purpose;
+    bool needsAdventure;
+    QByteArray (Commands::*run)(const QStringList &);
+};
+
+namespace
+{
+int paragraphNumber(const QString &word)
+{
+    bool ok = false;
+    const int n = word.toInt(&ok);
+    if (!ok || n < 0 || n > Variables::LastParagraph)
+        throw UsageError(QStringLiteral("numéro de paragraphe de 0 à 2000 attendu : ") + word);
+    return n;
+}
+
+QByteArray line(int n)
+{
+    return QByteArray::number(n) + '\n';
+}
+} // namespace
+
+const std::vector<Commands::Entry> &Commands::entries()
+{
+    const auto text = [](const char *utf8) { return QString::fromUtf8(utf8); };
+    static const std::vector<Entry> table{
+        {text("nouvelle"), text("FICHIER"), text("crée une aventure vide"), false,
+         &Commands::nouvelle},
+        {text("ouvrir"), text("FICHIER"), text("ouvre une aventure"), false, &Commands::ouvrir},
+        {text("enregistrer"), {}, text("enregistre l'aventure ouverte"), true,
+         &Commands::enregistrer},
+        {text("texte"), text("N FICHIER.rtf"), text("met un fichier RTF dans le paragraphe N"),
+         true, &Commands::texte},
+        {text("effacer"), text("N"), text("vide le paragraphe N"), true, &Commands::effacer},
+        {text("fixe"), text("N 0|1"), text("rend le paragraphe N libre (0) ou fixe (1)"), true,
+         &Commands::fixe},
+        {text("rtf"), text("N"), text("écrit le RTF du paragraphe N"), true, &Commands::rtf},
+        {text("texte-brut"), text("N"), text("écrit le texte du paragraphe N"), true,
+         &Commands::texteBrut},
+        {text("mene"), text("N"), text("écrit les numéros des paragraphes qui mènent au N"), true,
+         &Commands::mene},
+        {text("libre"), text("N"), text("écrit le premier numéro libre après N"), true,
+         &Commands::libre},
+        {text("etat"), {}, text("écrit l'état de l'aventure en JSON, sur une ligne"), true,
+         &Commands::etat},
+    };
+    return table;
+}
+
+Commands::Commands(Variables &variables, Prompts &prompts)
+    : m_variables(variables), m_prompts(prompts), m_view(variables),
+      m_adventure(variables, prompts, m_view)
+{
+}
+
+QByteArray Commands::run(const QStringList &words)
+{
+    if (words.isEmpty())
+        return {};
+    const auto entry = std::find_if(entries().begin(), entries().end(), [&](const Entry &e) {
+        return e.name == words.first();
+    });
+    if (entry == entries().end())
+        throw UsageError(QStringLiteral("commande inconnue : ") + words.first());
+    if (words.size() - 1 != entry->form.split(u' ', Qt::SkipEmptyParts).size())
+        throw UsageError(QStringLiteral("attendu : %1 %2").arg(entry->name, entry->form).trimmed());
+    if (entry->needsAdventure && !m_variables.AdventureOpen) {
+        m_prompts.message(QStringLiteral("Aucun Fichier Ouvert"), QStringLiteral("Usmira"),
+                          Prompts::Buttons::Ok);
+        return {};
+    }
+    return (this->*entry->run)(words.mid(1));
+}
+
+QString Commands::help()
+{
+    QString help;
+    for (const Entry &entry : entries())
+        help += QStringLiteral("  %1 %2\n").arg((entry.name + u' ' + entry.form).leftJustified(26),
+                                                entry.purpose);
+    return help;
+}
+
+void Commands::finish(bool save)
+{
+    if (!m_variables.AdventureOpen || !m_variables.AdventureModified)
+        return;
+    if (save)
+        m_adventure.Save();
+    else
+        DiscardWorkingFiles(m_variables);
+}
+
+QByteArray Commands::nouvelle(const QStringList &arguments)
+{
+    const QString &path = arguments.first();
+    if (!m_adventure.LeaveAdventure())
+        return {};
+    const QString question = QFileInfo(path).fileName() +
+                             QStringLiteral(" existe déjà. Voulez-vous le remplacer ?");
+    if (!QFileInfo::exists(path) ||
+        m_prompts.message(question, QStringLiteral("Nouvelle Aventure"),
+                          Prompts::Buttons::YesNo) == Prompts::Answer::Yes)
+        m_adventure.NewAdventure(path);
+    return {};
+}
+
+QByteArray Commands::ouvrir(const QStringList &arguments)
+{
+    if (m_adventure.LeaveAdventure())
+        m_adventure.OpenAdventure(arguments.first());
+    return {};
+}
+
+QByteArray Commands::enregistrer(const QStringList & /*arguments*/)
+{
+    m_adventure.Save();
+    return {};
+}
+
+void Commands::replaceParagraph(int n, const std::function<void(RichTextBox &)> &change)
+{
+    m_view.LoadParg(n);
+    change(m_view.editingBox());
+    m_variables.ParagraphDirty = true;
+    SaveCurParg(m_variables, m_view.editingBox());
+}
+
+QByteArray Commands::texte(const QStringList &arguments)
+{
+    replaceParagraph(paragraphNumber(arguments.first()),
+                     [&](RichTextBox &box) { box.loadFile(arguments.last()); });
+    return {};
+}
+
+QByteArray Commands::effacer(const QStringList &arguments)
+{
+    replaceParagraph(paragraphNumber(arguments.first()),
+                     [](RichTextBox &box) { box.setText(QString()); });
+    return {};
+}
+
+QByteArray Commands::fixe(const QStringList &arguments)
+{
+    const QString &value = arguments.last();
+    if (value != QStringLiteral("0") && value != QStringLiteral("1"))
+        throw UsageError(QStringLiteral("0 ou 1 attendu : ") + value);
+    const auto n = static_cast<std::size_t>(paragraphNumber(arguments.first()));
+    m_variables.Unmixable.at(n) = value == QStringLiteral("1") ? 1 : 0;
+    return {};
+}
+
+QByteArray Commands::rtf(const QStringList &arguments)
+{
+    return GetParagraphRtf(m_variables, paragraphNumber(arguments.first()));
+}
+
+QByteArray Commands::texteBrut(const QStringList &arguments)
+{
+    const QByteArray rtf = GetParagraphRtf(m_variables, paragraphNumber(arguments.first()));
+    return rtf.isEmpty() ? QByteArray() : rtfToPlainText(rtf).toUtf8() + "\r\n";
+}
+
+QByteArray Commands::mene(const QStringList &arguments)
+{
+    QByteArray lines;
+    const QList<int> incoming = incomingParagraphs(m_variables, paragraphNumber(arguments.first()));
+    for (const int n : incoming)
+        lines += line(n);
+    return lines;
+}
+
+QByteArray Commands::libre(const QStringList &arguments)
+{
+    if (const auto free = firstFree(m_variables, paragraphNumber(arguments.first())))
+        return line(*free);
+    m_prompts.message(QStringLiteral("Tous les paragraphes sont écrits ou réservés !"),
+                      QStringLiteral("Aïe !"), Prompts::Buttons::Ok);
+    return {};
+}
+
+QByteArray Commands::etat(const QStringList & /*arguments*/)
+{
+    return stateReport(m_variables);
+}

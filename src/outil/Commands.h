@@ -1,0 +1,50 @@
+#pragma once
+
+#include "outil/HeadlessView.h"
+#include "outil/Script.h"
+#include "store/AdventureCommands.h"
+
+#include <QByteArray>
+#include <QStringList>
+#include <functional>
+
+// The commands of scripts, over the classes that the windows use. Each returns what goes to
+// standard output.
+class Commands
+{
+public:
+    Commands(Variables &variables, Prompts &prompts);
+
+    // Runs one command given as its words. Throws UsageError on an unknown name or wrong arguments,
+    // FileError or FormatError on a failure that has no message yet.
+    QByteArray run(const QStringList &words);
+
+    // At the end of a script: what was not saved goes, and the author is told.
+    void finish(bool save);
+
+    // A line for each command: its form and what it does.
+    static QString help();
+
+private:
+    struct Entry;
+    static const std::vector<Entry> &entries();
+
+    QByteArray nouvelle(const QStringList &arguments);
+    QByteArray ouvrir(const QStringList &arguments);
+    QByteArray enregistrer(const QStringList &arguments);
+    QByteArray texte(const QStringList &arguments);
+    QByteArray effacer(const QStringList &arguments);
+    QByteArray fixe(const QStringList &arguments);
+    QByteArray rtf(const QStringList &arguments);
+    QByteArray texteBrut(const QStringList &arguments);
+    QByteArray mene(const QStringList &arguments);
+    QByteArray libre(const QStringList &arguments);
+    QByteArray etat(const QStringList &arguments);
+
+    void replaceParagraph(int n, const std::function<void(RichTextBox &)> &change);
+
+    Variables &m_variables;
+    Prompts &m_prompts;
+    HeadlessView m_view;
+    AdventureCommands m_adventure;
+};

@@ -1,0 +1,37 @@
+#include "outil/ScriptPrompts.h"
+
+ScriptPrompts::ScriptPrompts(QTextStream &errors, std::optional<Answer> answer)
+    : m_errors(errors), m_answer(answer)
+{
+}
+
+Prompts::Answer ScriptPrompts::message(const QString &text, const QString &title, Buttons buttons)
+{
+    const bool question = buttons != Buttons::Ok;
+    if (question && m_answer)
+        return *m_answer;
+    m_errors << title << QStringLiteral(" : ") << text << Qt::endl;
+    m_failed = true;
+    return buttons == Buttons::YesNoCancel ? Answer::Cancel
+           : question                      ? Answer::No
+                                           : Answer::Ok;
+}
+
+// Scripts name their files: no command of theirs opens a dialog.
+QString ScriptPrompts::openName(const QString & /*title*/, const QString & /*filter*/)
+{
+    beep();
+    return {};
+}
+
+QString ScriptPrompts::saveName(const QString & /*title*/, const QString & /*filter*/,
+                                const QString & /*defaultExtension*/)
+{
+    beep();
+    return {};
+}
+
+void ScriptPrompts::beep()
+{
+    m_failed = true;
+}

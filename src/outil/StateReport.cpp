@@ -1,0 +1,50 @@
+#include "outil/StateReport.h"
+
+#include "platform/OpenedFile.h"
+#include "richtext/RtfReader.h"
+#include "store/AdventureFile.h"
+#include "store/ParagraphStore.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtEndian>
+
+namespace
+{
+int fileVersion(const Variables &variables)
+{
+    if (!variables.AdventureFile)
+        return CurrentVersion;
+    return qFromBigEndian<quint16>(variables.AdventureFile->read(0, 2).constData());
+}
+
+QJsonObject paragraphReport(const Variables &variables, int n)
+{
+    const auto index = static_cast<std::size_t>(n);
+    const QByteArray rtf = GetParagraphRtf(variables, n);
+    return {{QStringLiteral("number"), n},
+            {QStringLiteral("written"), variables.Written.at(index) == 1},
+            {QStringLiteral("extracted"), variables.Extracted.at(index) == 1},
+            {QStringLiteral("fixed"), variables.Unmixable.at(index) == 1},
+            {QStringLiteral("refs"), variables.refIndex.at(index)},
+            {QStringLiteral("size"), rtf.size()},
+            {QStringLiteral("text"), rtf.isEmpty() ? QString() : rtfToPlainText(rtf)}};
+}
+} // namespace
+
+QByteArray stateReport(const Variables &variables)
+{
+    QJsonArray paragraphs;
+    for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n)
+        paragraphs.append(paragraphReport(variables, n));
+    const QJsonObject report{{QStringLiteral("file"), variables.AdventurePath},
+                             {QStringLiteral("version"), fileVersion(variables)},
+                             {QStringLiteral("lowest"), variables.LowestWritten},
+                             {QStringLiteral("highest"), variables.HighestWritten},
+                             {QStringLiteral("current"), variables.CurrentParagraph},
+                             {QStringLiteral("phrase"), variables.TargetPhrase},
+                             {QStringLiteral("modified"), variables.AdventureModified},
+                             {QStringLiteral("paragraphs"), paragraphs}};
+    return QJsonDocument(report).toJson(QJsonDocument::Compact) + '\n';
+}

@@ -1,0 +1,133 @@
+#include "outil/Commands.h"
+#include "outil/ScriptPrompts.h"
+#include "platform/Failures.h"
+#include "store/WorkingFolder.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QTextStream>
+#include <cstdio>
+
+namespace
+{
+enum Status { Done = 0, Failed = 1, BadUsage = 2 };
+
+QCommandLineOption option(const QString &name, const QString &purpose, const QString &value = {})
+{
+    return {name, purpose, value};
+}
+
+QString usage()
+{
+    return QStringLiteral(
+               "usmira-outil [OPTIONS] [FICHIER]\n"
+               "\n"
+               "Exécute des commandes sur une aventure, une par ligne, lues dans FICHIER ou sur "
+               "l'entrée standard.\n"
+               "Les arguments se mettent entre guillemets comme dans un shell ; # commence un "
+               "commentaire.\n"
+               "\n"
+               "  -e COMMANDE     exécute cette commande au lieu de lire un fichier (répétable)\n"
+               "  --dossier DIR   utilise un autre dossier de travail\n"
+               "  --oui           répond Oui à toutes les questions\n"
+               "  --non           répond Non à toutes les questions\n"
+               "  --aide          affiche cette aide\n"
+               "\n"
+               "Sans --oui ni --non, une question fait échouer la commande. À la fin, ce qui n'a "
+               "pas été enregistré\n"
+               "est abandonné, ou enregistré avec --oui. Statut : 0 réussi, 1 commande échouée, "
+               "2 mauvais usage.\n"
+               "\n"
+               "Commandes :\n") +
+           Commands::help();
+}
+
+QStringList scriptLines(const QCommandLineParser &parser)
+{
+    QStringList lines = parser.values(QStringLiteral("e"));
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1)
+        throw UsageError(QStringLiteral("un seul fichier de commandes attendu"));
+    if (files.isEmpty() && !lines.isEmpty())
+        return lines;
+    QFile file;
+    const bool opened = files.isEmpty()
+                            ? file.open(stdin, QIODevice::ReadOnly)
+                            : (file.setFileName(files.first()), file.open(QIODevice::ReadOnly));
+    if (!opened)
+        throw FileError(FileError::Operation::Read, file.fileName(), file.errorString());
+    return lines + QString::fromUtf8(file.readAll()).split(u'\n');
+}
+
+QString workingFolder(const QCommandLineParser &parser)
+{
+    const QString given = parser.value(QStringLiteral("dossier"));
+    if (given.isEmpty())
+        return findWorkingFolder(QCoreApplication::applicationDirPath());
+    return QDir(QDir(given).absolutePath()).path() + QDir::separator();
+}
+
+std::optional<Prompts::Answer> givenAnswer(const QCommandLineParser &parser)
+{
+    if (parser.isSet(QStringLiteral("oui")))
+        return Prompts::Answer::Yes;
+    if (parser.isSet(QStringLiteral("non")))
+        return Prompts::Answer::No;
+    return std::nullopt;
+}
+
+int runScript(const QCommandLineParser &parser, QTextStream &errors)
+{
+    Variables variables;
+    variables.WorkingFolder = workingFolder(parser);
+    prepareWorkingFolder(variables.WorkingFolder,
+                         findBundledDocuments(QCoreApplication::applicationDirPath()));
+    ScriptPrompts prompts(errors, givenAnswer(parser));
+    Commands commands(variables, prompts);
+    QFile output;
+    output.open(stdout, QIODevice::WriteOnly);
+    const QStringList lines = scriptLines(parser);
+    for (const QString &line : lines) {
+        reportingFailures(prompts, [&] {
+            output.write(commands.run(splitCommand(line)));
+            return true;
+        });
+        output.flush();
+        if (prompts.hasFailed())
+            break;
+    }
+    commands.finish(parser.isSet(QStringLiteral("oui")) && !prompts.hasFailed());
+    return prompts.hasFailed() ? Failed : Done;
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // No command needs a screen.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Usmira"));
+    QTextStream errors(stderr);
+    QCommandLineParser parser;
+    parser.addOptions({option(QStringLiteral("e"), {}, QStringLiteral("COMMANDE")),
+                       option(QStringLiteral("dossier"), {}, QStringLiteral("DIR")),
+                       option(QStringLiteral("oui"), {}), option(QStringLiteral("non"), {}),
+                       option(QStringLiteral("aide"), {})});
+    try {
+        if (!parser.parse(QCoreApplication::arguments()))
+            throw UsageError(parser.errorText());
+        if (parser.isSet(QStringLiteral("aide"))) {
+            QTextStream(stdout) << usage();
+            return Done;
+        }
+        return runScript(parser, errors);
+    } catch (const UsageError &error) {
+        errors << error.what() << Qt::endl << QStringLiteral("Voir : usmira-outil --aide") << Qt::endl;
+        return BadUsage;
+    } catch (const UsmiraError &error) {
+        errors << error.what() << Qt::endl;
+        return Failed;
+    }
+}

@@ -1,0 +1,251 @@
+#include "store/AdventureCommands.h"
+
+#include "platform/Failures.h"
+#include "platform/OpenedFile.h"
+#include "platform/SafeFile.h"
+#include "richtext/RichTextBox.h"
+#include "store/AdventureFile.h"
+#include "store/LongWork.h"
+#include "store/ParagraphStore.h"
+#include "store/ReferenceIndex.h"
+
+#include <QFileInfo>
+
+namespace
+{
+QString adventureFilter()
+{
+    return QStringLiteral("Fichiers Usmira (*.usm)|*.usm");
+}
+
+// "Le Loup (autre version).usm" beside "Le Loup.usm", numbered when that is taken.
+QString otherVersionPath(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString stem = info.path() + u'/' + info.completeBaseName();
+    const QString suffix = info.suffix().isEmpty() ? QString() : u'.' + info.suffix();
+    QString backup = stem + QStringLiteral(" (autre version)") + suffix;
+    for (int k = 2; QFileInfo::exists(backup); ++k)
+        backup = stem + QStringLiteral(" (autre version %1)").arg(k) + suffix;
+    return backup;
+}
+
+// A placeholder claims the name of a new adventure. A file that is there already stays until the
+// swap.
+void claim(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        writeWholeFile(path, "Nothing yet", Durability::Data, Links::Follow);
+    else if (!info.isFile() || !info.isWritable())
+        throw FileError(FileError::Operation::Write, path, QStringLiteral("cannot be replaced"));
+}
+} // namespace
+
+AdventureCommands::AdventureCommands(Variables &variables, Prompts &prompts, AdventureView &view)
+    : m_variables(variables), m_prompts(prompts), m_view(view)
+{
+}
+
+Prompts::Answer AdventureCommands::AskToSave()
+{
+    return m_prompts.message(
+        QStringLiteral("ATTENTION : Vous n'avez pas enregistré l'aventure ") +
+            m_variables.AdventureFileName +
+            QStringLiteral(". Voulez-vous le faire? Sinon, vous perdrez tous les changements!"),
+        QStringLiteral("Rappel amical"), Prompts::Buttons::YesNoCancel);
+}
+
+bool AdventureCommands::LeaveAdventure()
+{
+    if (!m_variables.AdventureOpen)
+        return true;
+    return reportingFailures(m_prompts, [this] {
+        SaveCurParg(m_variables, m_view.editingBox());
+        if (!m_variables.AdventureModified)
+            return true;
+        switch (AskToSave()) {
+        case Prompts::Answer::Yes:
+            return Save();
+        case Prompts::Answer::No:
+            discardChanges();
+            return true;
+        default:
+            return false;
+        }
+    });
+}
+
+// Back to the adventure as it was last saved. When that can no longer be read, the author is told
+// and the changes go all the same: "Non" must always be a way out.
+void AdventureCommands::discardChanges()
+{
+    AdventureContents saved;
+    saved.version = CurrentVersion;
+    saved.targetPhrase = m_variables.TargetPhrase;
+    const bool readable = reportingFailures(m_prompts, [&] {
+        if (m_variables.AdventureFile)
+            saved = readAdventure(m_variables.AdventureFile);
+        return true;
+    });
+    DiscardWorkingFiles(m_variables);
+    m_variables.AdventureModified = false;
+    if (!readable)
+        return;
+    takeOver(m_variables, std::move(saved));
+    if (!m_variables.CurrentFormat)
+        RebuildReferenceIndex(m_variables);
+}
+
+// After a command that left the adventure but opened no other.
+void AdventureCommands::showAgain()
+{
+    if (m_variables.AdventureOpen)
+        showCurrentParagraph();
+}
+
+void AdventureCommands::New()
+{
+    if (!LeaveAdventure())
+        return;
+    const QString path = m_prompts.saveName(QStringLiteral("Nouvelle Aventure"), adventureFilter(),
+                                            QStringLiteral("usm"));
+    if (path.isEmpty() || !NewAdventure(path))
+        showAgain();
+}
+
+void AdventureCommands::Open()
+{
+    if (!LeaveAdventure())
+        return;
+    const QString path = m_prompts.openName(QStringLiteral("Ouvrir une Aventure"), adventureFilter());
+    if (path.isEmpty() || !OpenAdventure(path))
+        showAgain();
+}
+
+bool AdventureCommands::NewAdventure(const QString &path)
+{
+    return reportingFailures(m_prompts, [&] {
+        claim(path);
+        AdventureContents empty;
+        empty.version = CurrentVersion;
+        empty.targetPhrase = QStringLiteral(" au ");
+        takeOver(m_variables, std::move(empty));
+        m_variables.AdventureModified = true;
+        nameAdventure(path);
+        Save();
+        m_view.LoadParg(1);
+        return true;
+    });
+}
+
+bool AdventureCommands::OpenAdventure(const QString &path)
+{
+    return reportingFailures(m_prompts, [&] {
+        takeOver(m_variables, readAdventure(std::make_shared<OpenedFile>(path)));
+        nameAdventure(path);
+        if (!m_variables.CurrentFormat)
+            rebuildIndex();
+        showCurrentParagraph();
+        return true;
+    });
+}
+
+void AdventureCommands::nameAdventure(const QString &path)
+{
+    m_variables.AdventurePath = QFileInfo(path).absoluteFilePath();
+    m_variables.AdventureFileName = QFileInfo(path).fileName();
+    m_variables.FilePrefix = filePrefixOf(m_variables.AdventureFileName);
+    m_view.adventureReplaced();
+}
+
+void AdventureCommands::rebuildIndex()
+{
+    const LongWork work(m_view, QStringLiteral("Graphing..."));
+    RebuildReferenceIndex(m_variables);
+}
+
+// A damaged current paragraph is reported, and the next number that can be shown stands in for it:
+// a box that shows one paragraph while another is current would overwrite that one.
+void AdventureCommands::showCurrentParagraph()
+{
+    const int current = m_variables.CurrentParagraph;
+    const auto show = [this](int n) {
+        m_view.LoadParg(n);
+        return true;
+    };
+    if (reportingFailures(m_prompts, [&] { return show(current); }))
+        return;
+    for (int n = current + 1; n <= current + Variables::LastParagraph; ++n) {
+        try {
+            show(n % (Variables::LastParagraph + 1));
+            return;
+        } catch (const UsmiraError &) {
+            continue;
+        }
+    }
+}
+
+bool AdventureCommands::Save()
+{
+    if (!m_variables.AdventureOpen)
+        return true;
+    return reportingFailures(m_prompts, [this] {
+        SaveCurParg(m_variables, m_view.editingBox());
+        return !m_variables.AdventureModified || writeAndSwap();
+    });
+}
+
+// Nothing is deleted before the new file is in place, and nothing in memory changes before either:
+// after a failure the next attempt finds all it needs.
+bool AdventureCommands::writeAndSwap()
+{
+    const LongWork work(m_view, QStringLiteral("Saving..."));
+    const QString temporary =
+        m_variables.WorkingFolder + QStringLiteral("Usmira Temporary Save File.xyz");
+    AdventureContents saved = writeAdventure(m_variables, temporary);
+    try {
+        if (!mayReplace()) {
+            swapFailed();
+            return false;
+        }
+        moveIntoPlace(temporary, m_variables.AdventurePath);
+        saved.file = std::make_shared<OpenedFile>(m_variables.AdventurePath);
+    } catch (const FileError &) {
+        swapFailed();
+        return false;
+    }
+    m_variables.SectionOffset = saved.sectionOffset;
+    m_variables.AdventureFile = saved.file;
+    m_variables.CurrentFormat = true;
+    DiscardWorkingFiles(m_variables);
+    m_variables.AdventureModified = false;
+    return true;
+}
+
+// Asks when the adventure on disk is no longer the one that was opened, and keeps a copy of it.
+bool AdventureCommands::mayReplace()
+{
+    const QString path = m_variables.AdventurePath;
+    if (!m_variables.AdventureFile || !QFileInfo::exists(path) ||
+        m_variables.AdventureFile->isStillAt(path))
+        return true;
+    const QString backup = otherVersionPath(path);
+    const Prompts::Answer answer = m_prompts.message(
+        QStringLiteral("Un autre programme a modifié l'aventure ") + m_variables.AdventureFileName +
+            QStringLiteral(" depuis son ouverture. Voulez-vous la remplacer par la vôtre ? L'autre "
+                           "version sera gardée sous le nom ") +
+            QFileInfo(backup).fileName() + QStringLiteral("."),
+        QStringLiteral("Attention !"), Prompts::Buttons::YesNo);
+    if (answer != Prompts::Answer::Yes)
+        return false;
+    copyFile(path, backup);
+    return true;
+}
+
+void AdventureCommands::swapFailed()
+{
+    m_prompts.message(
+        QStringLiteral("Fichier enregistré, incapable d'échanger avec l'original."),
+        QStringLiteral("BUG"), Prompts::Buttons::Ok);
+}

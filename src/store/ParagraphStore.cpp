@@ -1,0 +1,98 @@
+#include "store/ParagraphStore.h"
+
+#include "platform/OpenedFile.h"
+#include "platform/SafeFile.h"
+#include "richtext/RichTextBox.h"
+#include "store/ReferenceIndex.h"
+
+#include <QtEndian>
+#include <algorithm>
+
+namespace
+{
+// No paragraph is near this; a working file that is has been replaced by something else.
+constexpr qint64 LargestText = 32 * 1024 * 1024;
+
+// In the older files text n ends where text n + 1 begins.
+qint64 textLength(const Variables &variables, std::size_t n)
+{
+    if (!variables.CurrentFormat)
+        return qint64{variables.SectionOffset.at(n + 1)} - variables.SectionOffset.at(n);
+    const QByteArray length =
+        variables.AdventureFile->read(qint64{variables.SectionOffset.at(n)} - 5, 4);
+    return qFromBigEndian<quint32>(length.constData());
+}
+
+void saveText(Variables &variables, RichTextBox &box, std::size_t n)
+{
+    const auto number = static_cast<qint16>(n);
+    writeWholeFile(workingFilePath(variables, number), box.rtf(), Durability::Data, Links::Replace);
+    variables.Written.at(n) = 1;
+    variables.Extracted.at(n) = 1;
+    variables.HighestWritten = std::max(variables.HighestWritten, number);
+    variables.LowestWritten = std::min(variables.LowestWritten, number);
+}
+
+void dropText(Variables &variables, std::size_t n)
+{
+    if (variables.Extracted.at(n) == 1)
+        removeFile(workingFilePath(variables, static_cast<int>(n)));
+    variables.Extracted.at(n) = 0;
+    variables.Written.at(n) = 0;
+}
+} // namespace
+
+QString filePrefixOf(const QString &adventureFileName)
+{
+    QString prefix = adventureFileName.left(1);
+    for (qsizetype i = 1; i < adventureFileName.size(); ++i) {
+        const QChar before = adventureFileName.at(i - 1);
+        if (before == u'\'' || before == u' ' || before == u'-')
+            prefix += adventureFileName.at(i);
+    }
+    return prefix + u'-';
+}
+
+QString workingFilePath(const Variables &variables, int n)
+{
+    return variables.WorkingFolder + variables.FilePrefix + fourDigits(n) +
+           QStringLiteral(".rtf");
+}
+
+QByteArray GetParagraphRtf(const Variables &variables, int n)
+{
+    const auto index = static_cast<std::size_t>(n);
+    if (variables.Extracted.at(index) == 1)
+        return readWholeFile(workingFilePath(variables, n), LargestText);
+    if (variables.Written.at(index) == 0 || !variables.AdventureFile)
+        return {};
+    const qint64 length = textLength(variables, index);
+    return variables.AdventureFile->read(qint64{variables.SectionOffset.at(index)} - 1, length);
+}
+
+void SaveCurParg(Variables &variables, RichTextBox &box)
+{
+    if (!variables.ParagraphDirty)
+        return;
+    const auto current = static_cast<std::size_t>(variables.CurrentParagraph);
+    const QString text = box.text();
+    if (text.isEmpty())
+        dropText(variables, current);
+    else
+        saveText(variables, box, current);
+    variables.AdventureModified = true;
+    variables.ParagraphDirty = false;
+    ScanReferences(variables, text, variables.CurrentParagraph);
+    box.select(0, 0);
+}
+
+void DiscardWorkingFiles(Variables &variables)
+{
+    for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
+        auto &extracted = variables.Extracted.at(static_cast<std::size_t>(n));
+        if (extracted == 0)
+            continue;
+        removeFile(workingFilePath(variables, n));
+        extracted = 0;
+    }
+}

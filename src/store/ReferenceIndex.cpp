@@ -1,0 +1,106 @@
+#include "store/ReferenceIndex.h"
+
+#include "platform/Errors.h"
+#include "platform/LenientNumbers.h"
+#include "richtext/RtfReader.h"
+#include "store/ParagraphStore.h"
+
+namespace
+{
+// A reference's number is read from this many characters, no more: required, since authors rely on
+// what follows never joining a number.
+constexpr qsizetype NumberCharacters = 5;
+constexpr qsizetype EntryLength = 5; // "0026/"
+
+double numberAt(QStringView text, qsizetype position)
+{
+    return lenientNumber(text.mid(position, NumberCharacters));
+}
+
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+} // namespace
+
+QList<Reference> findReferences(QStringView text, const QString &phrase)
+{
+    QList<Reference> references;
+    if (phrase.isEmpty())
+        return references;
+    qsizetype found = text.indexOf(phrase, 0, Qt::CaseInsensitive);
+    while (found >= 0) {
+        const qsizetype behind = found + phrase.size();
+        const double number = numberAt(text, behind);
+        if (number >= 1 && number <= Variables::LastParagraph)
+            references.append({behind, number});
+        found = text.indexOf(phrase, behind, Qt::CaseInsensitive);
+    }
+    return references;
+}
+
+void ScanReferences(Variables &variables, QStringView text, int n)
+{
+    QString entry;
+    const QList<Reference> references = findReferences(text, variables.TargetPhrase);
+    for (const Reference &reference : references)
+        entry += fourDigits(roundHalfAway(reference.number)) + u'/';
+    variables.refIndex.at(static_cast<std::size_t>(n)) = entry;
+}
+
+void RebuildReferenceIndex(Variables &variables)
+{
+    for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
+        if (variables.Written.at(static_cast<std::size_t>(n)) == 0)
+            continue;
+        QString text;
+        try {
+            text = rtfToPlainText(GetParagraphRtf(variables, n));
+        } catch (const UsmiraError &) {
+            text.clear();
+        }
+        ScanReferences(variables, text, n);
+    }
+}
+
+QList<int> referredParagraphs(const QString &indexEntry)
+{
+    QList<int> numbers;
+    for (qsizetype at = 0; at + EntryLength <= indexEntry.size(); at += EntryLength) {
+        bool ok = false;
+        const int number = QStringView(indexEntry).mid(at, EntryLength - 1).toInt(&ok);
+        if (ok && number >= 0 && number <= Variables::LastParagraph)
+            numbers.append(number);
+    }
+    return numbers;
+}
+
+QList<int> incomingParagraphs(const Variables &variables, int n)
+{
+    QList<int> incoming;
+    const QString key = fourDigits(n);
+    for (int from = variables.LowestWritten; from <= variables.HighestWritten; ++from) {
+        const auto index = static_cast<std::size_t>(from);
+        if (variables.Written.at(index) == 1 && variables.refIndex.at(index).contains(key))
+            incoming.append(from);
+    }
+    return incoming;
+}
+
+int numberAround(QStringView text, qsizetype caret)
+{
+    if (caret < 0 || caret >= text.size())
+        return 0;
+    qsizetype before = caret;
+    while (before > 0 && isDigit(text.at(before)))
+        --before;
+    return roundHalfEven(numberAt(text, before + 1));
+}
+
+QString PadNumber(int n)
+{
+    if (n < 0 || n > 999)
+        return n < 0 ? u'-' + fourDigits(-n) : fourDigits(n);
+    const int spaces = n < 10 ? 5 : n < 100 ? 3 : 1;
+    return QString(spaces, u' ') + QString::number(n);
+}

@@ -1,0 +1,58 @@
+#include "store/WorkingFolder.h"
+
+#include "platform/Errors.h"
+#include "platform/SafeFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace
+{
+QStringList bundledNames()
+{
+    return {QStringLiteral("Copyright.rtf"),
+            QStringLiteral("Aide Française.rtf"),
+            QStringLiteral("English Help.rtf"),
+            QStringLiteral("Début du Fichier Unique.txt"),
+            QStringLiteral("Numéros de Paragraphes.txt"),
+            QStringLiteral("Début de Chaque Paragraphe.txt"),
+            QStringLiteral("Fin de Chaque Paragraphe.txt")};
+}
+
+QString workingFolderIn(const QString &folder)
+{
+    return QDir::toNativeSeparators(QDir(folder).filePath(QStringLiteral("Dossier Usmira"))) +
+           QDir::separator();
+}
+} // namespace
+
+QString findWorkingFolder(const QString &programFolder)
+{
+    const QString beside = workingFolderIn(programFolder);
+    const QFileInfo info(beside);
+    if (info.isDir() && info.isWritable())
+        return beside;
+    return workingFolderIn(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+}
+
+QString findBundledDocuments(const QString &programFolder)
+{
+    const QString installed = QDir(programFolder).filePath(QStringLiteral("../share/usmira"));
+    return QFileInfo(installed).isDir() ? installed : QStringLiteral(USMIRA_RESOURCES);
+}
+
+void prepareWorkingFolder(const QString &workingFolder, const QString &bundledDocuments)
+{
+    if (QFileInfo::exists(workingFolder))
+        return;
+    QDir().mkpath(workingFolder);
+    const QStringList names = bundledNames();
+    for (const QString &name : names) {
+        try {
+            copyFile(QDir(bundledDocuments).filePath(name), workingFolder + name);
+        } catch (const UsmiraError &) {
+            continue;
+        }
+    }
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+// The folder "Dossier Usmira": working files, settings, welcome text, help and code snippets.
+
+// The one beside the program when it exists and can be written, else the one in the user's data
+// folder. Ends with the platform's separator; nothing is created.
+QString findWorkingFolder(const QString &programFolder);
+
+// Where the bundled documents lie for a program in programFolder: installed, or in the source tree.
+QString findBundledDocuments(const QString &programFolder);
+
+// Creates the folder when it is not there, with copies of the bundled documents; one that the
+// author has removed since does not come back. Failures are ignored: the program starts without.
+void prepareWorkingFolder(const QString &workingFolder, const QString &bundledDocuments);
