@@ -2,7 +2,6 @@
 
 #include "store/Variables.h"
 
-#include <QRect>
 
 // The settings file, six lines of comma-separated fields ended by CR LF:
 //   optNDash,optMDash,optBullet,optEllipsis

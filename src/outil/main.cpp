@@ -127,7 +127,8 @@ int main(int argc, char *argv[])
         errors << error.what() << Qt::endl << QStringLiteral("Voir : usmira-outil --aide") << Qt::endl;
         return BadUsage;
     } catch (const UsmiraError &error) {
-        errors << error.what() << Qt::endl;
+        ScriptPrompts prompts(errors, std::nullopt);
+        reportFailure(prompts, error);
         return Failed;
     }
 }

@@ -1,0 +1,166 @@
+#include "support/AdventureBuilder.h"
+
+#include "richtext/HiddenBox.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+#include <QtEndian>
+#include <algorithm>
+
+namespace
+{
+QByteArray u16(int n)
+{
+    const quint16 big = qToBigEndian(static_cast<quint16>(n));
+    return QByteArray(reinterpret_cast<const char *>(&big), 2);
+}
+
+QByteArray u32(qsizetype n)
+{
+    const quint32 big = qToBigEndian(static_cast<quint32>(n));
+    return QByteArray(reinterpret_cast<const char *>(&big), 4);
+}
+
+// What the index should hold for a text, for " au " and plain numbers.
+QByteArray listOf(const QString &text)
+{
+    static const QRegularExpression reference(QStringLiteral(" au (\\d{1,4})\\b"),
+                                              QRegularExpression::CaseInsensitiveOption);
+    QByteArray list;
+    for (auto match = reference.globalMatch(text); match.hasNext();)
+        list += match.next().captured(1).rightJustified(4, u'0').toLatin1() + '/';
+    return list;
+}
+} // namespace
+
+QByteArray rtfOf(const QString &text)
+{
+    HiddenBox box;
+    box.setText(text);
+    return box.rtf();
+}
+
+AdventureBuilder::AdventureBuilder(const QStringList &lines)
+{
+    for (const QString &line : lines) {
+        const qsizetype colon = line.indexOf(u':');
+        QString number = line.left(colon);
+        const bool fixed = number.endsWith(u'!');
+        if (fixed)
+            number.chop(1);
+        const QString text = line.mid(colon + 2);
+        m_paragraphs.append({number.toInt(), rtfOf(text), listOf(text), fixed});
+    }
+    if (!m_paragraphs.isEmpty()) {
+        m_lowest = m_paragraphs.first().number;
+        m_highest = m_paragraphs.last().number;
+        m_current = m_lowest;
+    }
+}
+
+AdventureBuilder &AdventureBuilder::current(int n)
+{
+    m_current = n;
+    return *this;
+}
+
+AdventureBuilder &AdventureBuilder::phrase(const QByteArray &windows1252)
+{
+    m_phrase = windows1252;
+    return *this;
+}
+
+AdventureBuilder &AdventureBuilder::range(int lowest, int highest)
+{
+    m_lowest = lowest;
+    m_highest = highest;
+    return *this;
+}
+
+AdventureBuilder &AdventureBuilder::rawText(int n, const QByteArray &bytes)
+{
+    paragraph(n).text = bytes;
+    return *this;
+}
+
+AdventureBuilder &AdventureBuilder::list(int n, const QByteArray &list)
+{
+    paragraph(n).list = list;
+    return *this;
+}
+
+AdventureBuilder::Paragraph &AdventureBuilder::paragraph(int n)
+{
+    return *std::find_if(m_paragraphs.begin(), m_paragraphs.end(),
+                         [n](const Paragraph &p) { return p.number == n; });
+}
+
+QByteArray AdventureBuilder::header(int version) const
+{
+    return u16(version) + u16(m_lowest) + u16(m_highest) + u16(m_current);
+}
+
+char AdventureBuilder::flag(int n) const
+{
+    return std::any_of(m_paragraphs.begin(), m_paragraphs.end(),
+                       [n](const Paragraph &p) { return p.number == n && p.fixed; })
+               ? '\1'
+               : '\0';
+}
+
+QByteArray AdventureBuilder::bytes() const
+{
+    QByteArray bytes = header(35) + "TARG" + u16(static_cast<int>(m_phrase.size())) + m_phrase;
+    bytes += "UNMX";
+    for (int n = m_lowest; n <= m_highest; ++n)
+        bytes += flag(n);
+    for (const Paragraph &p : m_paragraphs)
+        bytes += "SECT" + u16(p.number) + u32(p.text.size()) + p.text +
+                 u16(static_cast<int>(p.list.size())) + p.list;
+    return bytes + "DONE";
+}
+
+QByteArray AdventureBuilder::oldBytes(int version) const
+{
+    QByteArray bytes = header(version) + static_cast<char>(m_phrase.size()) + m_phrase;
+    bytes += QByteArray(31 - m_phrase.size() + 64, '\0');
+    for (int n = 0; version == 25 && n < 1000; ++n)
+        bytes += flag(n);
+    qsizetype offset = bytes.size() + qsizetype{1001} * 4 + 1;
+    QByteArray texts;
+    auto next = m_paragraphs.begin();
+    for (int n = 0; n <= 1000; ++n) {
+        bytes += u32(offset + texts.size());
+        if (next != m_paragraphs.end() && next->number == n)
+            texts += (next++)->text;
+    }
+    return bytes + texts;
+}
+
+TestAdventure::TestAdventure()
+{
+    QVERIFY(m_folder.isValid());
+    variables.WorkingFolder = m_folder.filePath(QStringLiteral("Dossier Usmira")) + u'/';
+    QVERIFY(QDir().mkpath(variables.WorkingFolder));
+}
+
+QString TestAdventure::file(const QString &name, const QByteArray &bytes) const
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        QTest::qFail("the test's own file could not be written", __FILE__, __LINE__);
+    return file.fileName();
+}
+
+QByteArray TestAdventure::content(const QString &name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList TestAdventure::workingFiles() const
+{
+    return QDir(variables.WorkingFolder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+}

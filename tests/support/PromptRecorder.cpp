@@ -1,0 +1,66 @@
+#include "support/PromptRecorder.h"
+
+#include <QTest>
+
+namespace
+{
+void complain(const QString &what)
+{
+    QTest::qFail(qPrintable(what), __FILE__, __LINE__);
+}
+} // namespace
+
+PromptRecorder::~PromptRecorder()
+{
+    for (const Box &box : m_boxes)
+        complain(QStringLiteral("this box never came: ") + box.text);
+    for (const FileDialog &dialog : m_fileDialogs)
+        complain(QStringLiteral("this file dialog never came: ") + dialog.title);
+}
+
+void PromptRecorder::expect(const QString &text, const QString &title, Buttons buttons,
+                            Answer answer)
+{
+    m_boxes.append({text, title, buttons, answer});
+}
+
+void PromptRecorder::expectFileDialog(const QString &title, const QString &name)
+{
+    m_fileDialogs.append({title, name});
+}
+
+Prompts::Answer PromptRecorder::message(const QString &text, const QString &title, Buttons buttons)
+{
+    if (m_boxes.isEmpty()) {
+        complain(QStringLiteral("nobody expected \"%1\": %2").arg(title, text));
+        return buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+    }
+    const Box box = m_boxes.takeFirst();
+    if (box.text != text || box.title != title || box.buttons != buttons)
+        complain(QStringLiteral("expected \"%1\": %2\n   but got \"%3\": %4")
+                     .arg(box.title, box.text, title, text));
+    return box.answer;
+}
+
+QString PromptRecorder::openName(const QString &title, const QString & /*filter*/)
+{
+    return fileDialog(title);
+}
+
+QString PromptRecorder::saveName(const QString &title, const QString & /*filter*/,
+                                 const QString & /*defaultExtension*/)
+{
+    return fileDialog(title);
+}
+
+QString PromptRecorder::fileDialog(const QString &title)
+{
+    if (m_fileDialogs.isEmpty()) {
+        complain(QStringLiteral("nobody expected the file dialog ") + title);
+        return {};
+    }
+    const FileDialog dialog = m_fileDialogs.takeFirst();
+    if (dialog.title != title)
+        complain(QStringLiteral("expected the file dialog %1 but got %2").arg(dialog.title, title));
+    return dialog.name;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/Prompts.h"
+
+#include <QList>
+#include <QStringList>
+
+// Prompts that tests answer beforehand. Every box must have been expected with its text and is
+// answered as told; one that nobody expected fails the test, and so does an expected one that
+// never came, when the recorder goes.
+class PromptRecorder : public Prompts
+{
+public:
+    ~PromptRecorder() override;
+
+    void expect(const QString &text, const QString &title, Buttons buttons = Buttons::Ok,
+                Answer answer = Answer::Ok);
+    // The next file dialog, open or save, gives this name; an empty one means that it is cancelled.
+    void expectFileDialog(const QString &title, const QString &name);
+
+    int beeps() const { return m_beeps; }
+
+    Answer message(const QString &text, const QString &title, Buttons buttons) override;
+    QString openName(const QString &title, const QString &filter) override;
+    QString saveName(const QString &title, const QString &filter,
+                     const QString &defaultExtension) override;
+    void beep() override { ++m_beeps; }
+
+private:
+    struct Box {
+        QString text;
+        QString title;
+        Buttons buttons;
+        Answer answer;
+    };
+    struct FileDialog {
+        QString title;
+        QString name;
+    };
+    QString fileDialog(const QString &title);
+
+    QList<Box> m_boxes;
+    QList<FileDialog> m_fileDialogs;
+    int m_beeps = 0;
+};
