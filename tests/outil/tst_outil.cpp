@@ -1,0 +1,149 @@
+#include "outil/Script.h"
+#include "support/AdventureBuilder.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTest>
+
+namespace
+{
+struct Outcome {
+    int status;
+    QByteArray output;
+    QString errors;
+};
+
+Outcome run(const TestAdventure &adventure, const QStringList &arguments,
+            const QByteArray &input = {})
+{
+    QProcess process;
+    process.start(QStringLiteral(USMIRA_OUTIL),
+                  QStringList{QStringLiteral("--dossier"), adventure.variables.WorkingFolder} +
+                      arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished())
+        QTest::qFail("usmira-outil did not end", __FILE__, __LINE__);
+    return {process.exitCode(), process.readAllStandardOutput(),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+} // namespace
+
+class tst_outil : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void splitsWordsAsAShellDoes_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QStringList>("words");
+        const auto row = [](const char *name, const QString &line, const QStringList &words) {
+            QTest::newRow(name) << line << words;
+        };
+        row("blanks", QStringLiteral("  rtf \t 12 "), {QStringLiteral("rtf"), QStringLiteral("12")});
+        row("double quotes", QStringLiteral("a \"b \\\"c\\\\\" d"),
+            {QStringLiteral("a"), QStringLiteral("b \"c\\"), QStringLiteral("d")});
+        row("single quotes", QStringLiteral("'a \\b'c"), {QStringLiteral("a \\bc")});
+        row("empty word", QStringLiteral("a ''"), {QStringLiteral("a"), QString()});
+        row("backslash", QStringLiteral("Le\\ Loup"), {QStringLiteral("Le Loup")});
+        row("comment", QStringLiteral("a b#c # d"), {QStringLiteral("a"), QStringLiteral("b#c")});
+    }
+    void splitsWordsAsAShellDoes()
+    {
+        QFETCH(QString, line);
+        QTEST(splitCommand(line), "words");
+    }
+
+    void aScriptMakesAndReadsAnAdventure()
+    {
+        TestAdventure adventure;
+        adventure.file(QStringLiteral("t.rtf"), rtfOf(QStringLiteral("Va au 2 ou au 9")));
+        const QByteArray script = "nouvelle '" + adventure.path(QStringLiteral("Le Loup.usm")).toUtf8() +
+                                  "'\ntexte 5 '" + adventure.path(QStringLiteral("t.rtf")).toUtf8() +
+                                  "'\ntexte 7 '" + adventure.path(QStringLiteral("t.rtf")).toUtf8() +
+                                  "'\neffacer 7\nfixe 5 1\nenregistrer\nmene 9\nlibre 8\n"
+                                  "texte-brut 5\netat\n";
+        const Outcome outcome = run(adventure, {}, script);
+        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(outcome.status, 0);
+        const QList<QByteArray> lines = outcome.output.split('\n');
+        QCOMPARE(lines.at(0), QByteArray("5"));
+        QCOMPARE(lines.at(1), QByteArray("10"));
+        QCOMPARE(lines.at(2), QByteArray("Va au 2 ou au 9\r"));
+        const QJsonObject state = QJsonDocument::fromJson(lines.at(3)).object();
+        QCOMPARE(state[QStringLiteral("version")].toInt(), 35);
+        QCOMPARE(state[QStringLiteral("modified")].toBool(true), false);
+        QCOMPARE(state[QStringLiteral("paragraphs")].toArray().size(), 7);
+        const QJsonObject five = state[QStringLiteral("paragraphs")].toArray().at(4).toObject();
+        QCOMPARE(five[QStringLiteral("refs")].toString(), QStringLiteral("0002/0009/"));
+        QVERIFY(five[QStringLiteral("fixed")].toBool() && five[QStringLiteral("written")].toBool());
+        const QStringList left = adventure.workingFiles();
+        QVERIFY2(left.isEmpty(), qPrintable(left.join(u' ')));
+    }
+
+    void failuresAndBadUsageHaveTheirStatus_data()
+    {
+        QTest::addColumn<QStringList>("commands");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("message");
+        const auto row = [](const char *name, const QStringList &commands, int status,
+                            const QString &message) {
+            QTest::newRow(name) << commands << status << message;
+        };
+        row("no adventure", {QStringLiteral("etat")}, 1, QStringLiteral("Aucun Fichier Ouvert"));
+        row("no such file", {QStringLiteral("ouvrir /nowhere.usm")}, 1,
+            QStringLiteral("Erreur de lecture de fichier."));
+        row("unknown", {QStringLiteral("danser")}, 2, QStringLiteral("commande inconnue"));
+        row("missing argument", {QStringLiteral("ouvrir")}, 2, QStringLiteral("FICHIER"));
+        row("no paragraph", {QStringLiteral("ouvrir @"), QStringLiteral("rtf 2001")}, 2,
+            QStringLiteral("de 0 à 2000"));
+        row("unanswered question",
+            {QStringLiteral("ouvrir @"), QStringLiteral("effacer 1"), QStringLiteral("ouvrir @")},
+            1, QStringLiteral("Rappel amical"));
+        row("existing file", {QStringLiteral("nouvelle @")}, 1, QStringLiteral("existe déjà"));
+    }
+    void failuresAndBadUsageHaveTheirStatus()
+    {
+        TestAdventure adventure;
+        const QByteArray bytes = AdventureBuilder({QStringLiteral("1: Fin")}).bytes();
+        const QString path = adventure.file(QStringLiteral("a.usm"), bytes);
+        QFETCH(QStringList, commands);
+        QStringList arguments;
+        for (QString command : commands)
+            arguments << QStringLiteral("-e") << command.replace(u'@', path);
+        const Outcome outcome = run(adventure, arguments);
+        QTEST(outcome.status, "status");
+        QFETCH(QString, message);
+        QVERIFY2(outcome.errors.contains(message), qPrintable(outcome.errors));
+        QCOMPARE(adventure.content(QStringLiteral("a.usm")), bytes);
+        QVERIFY(adventure.workingFiles().isEmpty());
+    }
+
+    void answersDecideWhatBecomesOfTheChanges_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("--oui") << QStringLiteral("--oui") << true;
+        QTest::newRow("--non") << QStringLiteral("--non") << false;
+    }
+    void answersDecideWhatBecomesOfTheChanges()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, saved);
+        TestAdventure adventure;
+        const QByteArray bytes = AdventureBuilder({QStringLiteral("1: Fin")}).bytes();
+        const QString path = adventure.file(QStringLiteral("a.usm"), bytes);
+        const QString open = QStringLiteral("ouvrir ") + path;
+        const Outcome outcome = run(adventure, {answer, QStringLiteral("-e"), open,
+                                                QStringLiteral("-e"), QStringLiteral("effacer 1"),
+                                                QStringLiteral("-e"), open});
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(adventure.content(QStringLiteral("a.usm")) != bytes, saved);
+    }
+};
+
+QTEST_MAIN(tst_outil)
+#include "tst_outil.moc"
