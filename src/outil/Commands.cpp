@@ -3,7 +3,7 @@
 #include "editor/ParagraphSearch.h"
 #include "outil/StateReport.h"
 #include "platform/SafeFile.h"
-#include "richtext/RtfReader.h"
+#include "richtext/RtfPlainText.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
 

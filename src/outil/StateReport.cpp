@@ -1,7 +1,7 @@
 #include "outil/StateReport.h"
 
 #include "platform/OpenedFile.h"
-#include "richtext/RtfReader.h"
+#include "richtext/RtfPlainText.h"
 #include "store/AdventureFile.h"
 #include "store/ParagraphStore.h"
 

@@ -105,8 +105,9 @@ int runScript(const QCommandLineParser &parser, QTextStream &errors)
 
 int main(int argc, char *argv[])
 {
-    // No command needs a screen.
+    // No command needs a screen, and standard error is for the commands' own messages.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QGuiApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Usmira"));
     QTextStream errors(stderr);

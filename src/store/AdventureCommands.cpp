@@ -227,7 +227,7 @@ bool AdventureCommands::writeAndSwap()
 bool AdventureCommands::mayReplace()
 {
     const QString path = m_variables.AdventurePath;
-    if (!m_variables.AdventureFile || !QFileInfo::exists(path) ||
+    if (!m_variables.AdventureFile || !QFileInfo(path).isFile() ||
         m_variables.AdventureFile->isStillAt(path))
         return true;
     const QString backup = otherVersionPath(path);

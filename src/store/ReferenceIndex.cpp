@@ -2,7 +2,7 @@
 
 #include "platform/Errors.h"
 #include "platform/LenientNumbers.h"
-#include "richtext/RtfReader.h"
+#include "richtext/RtfPlainText.h"
 #include "store/ParagraphStore.h"
 
 namespace

@@ -85,10 +85,9 @@ private Q_SLOTS:
         QVERIFY(::mkfifo(qPrintable(path(QStringLiteral("pipe"))), 0600) == 0);
         QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
         for (const auto &name : {QStringLiteral("pipe"), QStringLiteral("folder")}) {
-            QVERIFY_EXCEPTION_THROWN(readWholeFile(path(name), 1000), FileError);
-            QVERIFY_EXCEPTION_THROWN(OpenedFile(path(name)), FileError);
-            QVERIFY_EXCEPTION_THROWN(
-                writeWholeFile(path(name), "x", Durability::Data, Links::Follow), FileError);
+            QVERIFY_THROWS_EXCEPTION(FileError, readWholeFile(path(name), 1000));
+            QVERIFY_THROWS_EXCEPTION(FileError, OpenedFile(path(name)));
+            QVERIFY_THROWS_EXCEPTION(FileError, writeWholeFile(path(name), "x", Durability::Data, Links::Follow));
         }
     }
 
@@ -96,8 +95,7 @@ private Q_SLOTS:
     {
         const QString source = written(QStringLiteral("new"), "new");
         const QString target = written(QStringLiteral("old"), "old");
-        QVERIFY_EXCEPTION_THROWN(moveIntoPlace(source, path(QStringLiteral("none/old"))),
-                                 FileError);
+        QVERIFY_THROWS_EXCEPTION(FileError, moveIntoPlace(source, path(QStringLiteral("none/old"))));
         QCOMPARE(content(QStringLiteral("new")), QByteArray("new"));
         QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
         moveIntoPlace(source, target);
@@ -115,8 +113,8 @@ private Q_SLOTS:
         QCOMPARE(opened.read(1, 3), QByteArray("irs"));
         QFile::remove(path(QStringLiteral("a")));
         QCOMPARE(opened.read(0, 5), QByteArray("first"));
-        QVERIFY_EXCEPTION_THROWN(opened.read(3, 3), FileError);
-        QVERIFY_EXCEPTION_THROWN(opened.read(-1, 1), FileError);
+        QVERIFY_THROWS_EXCEPTION(FileError, opened.read(3, 3));
+        QVERIFY_THROWS_EXCEPTION(FileError, opened.read(-1, 1));
     }
 
     void openedFileRefusesBytesThatChangedUnderIt()
@@ -126,7 +124,7 @@ private Q_SLOTS:
         QVERIFY(intruder.open(QIODevice::Append));
         intruder.write("!");
         intruder.close();
-        QVERIFY_EXCEPTION_THROWN(opened.read(0, 5), FileError);
+        QVERIFY_THROWS_EXCEPTION(FileError, opened.read(0, 5));
     }
 };
 

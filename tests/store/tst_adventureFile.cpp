@@ -135,7 +135,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, bytes);
         TestAdventure adventure;
-        QVERIFY_EXCEPTION_THROWN(read(adventure, bytes), UsmiraError);
+        QVERIFY_THROWS_EXCEPTION(UsmiraError, read(adventure, bytes));
     }
 
     void oddHeadersAreRepaired_data()
@@ -186,7 +186,7 @@ private Q_SLOTS:
         takeOver(adventure.variables, read(adventure, bytes));
         QCOMPARE(adventure.variables.Written[499], quint8{0});
         QCOMPARE(GetParagraphRtf(adventure.variables, 12), rtfOf(QStringLiteral("Été au 3")));
-        QVERIFY_EXCEPTION_THROWN(GetParagraphRtf(adventure.variables, 999), FileError);
+        QVERIFY_THROWS_EXCEPTION(FileError, GetParagraphRtf(adventure.variables, 999));
     }
 
     void longListsAreCutToWholeEntries()

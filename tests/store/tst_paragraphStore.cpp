@@ -108,7 +108,7 @@ private Q_SLOTS:
         box.setText(QStringLiteral("précieux"));
         v.CurrentParagraph = 20;
         v.ParagraphDirty = true;
-        QVERIFY_EXCEPTION_THROWN(SaveCurParg(v, box), FileError);
+        QVERIFY_THROWS_EXCEPTION(FileError, SaveCurParg(v, box));
         QVERIFY(v.ParagraphDirty && !v.AdventureModified);
         QVERIFY(v.Written[20] == 0 && v.HighestWritten == 9);
         QCOMPARE(box.text(), QStringLiteral("précieux"));
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QVERIFY(intruder.open(QIODevice::ReadWrite));
         intruder.write(QByteArray(5000, 'y'));
         intruder.close();
-        QVERIFY_EXCEPTION_THROWN(GetParagraphRtf(v, 5), FileError);
+        QVERIFY_THROWS_EXCEPTION(FileError, GetParagraphRtf(v, 5));
     }
 
     void aMissingWorkingFileIsAnErrorAndNotTheOldText()
@@ -138,7 +138,7 @@ private Q_SLOTS:
         HiddenBox box;
         type(adventure.variables, box, 5, QStringLiteral("neuf"));
         QVERIFY(QFile::remove(workingFilePath(adventure.variables, 5)));
-        QVERIFY_EXCEPTION_THROWN(GetParagraphRtf(adventure.variables, 5), FileError);
+        QVERIFY_THROWS_EXCEPTION(FileError, GetParagraphRtf(adventure.variables, 5));
     }
 
     void discardingRemovesTheWorkingFilesOfThisAdventureOnly()

@@ -1,0 +1,15 @@
+# Makes the bundled texts anew and compares them, byte by byte, with those in the source tree.
+file(REMOVE_RECURSE ${WORK})
+execute_process(COMMAND ${TOOL} ${RESOURCES}/sources ${WORK} COMMAND_ERROR_IS_FATAL ANY)
+file(GLOB_RECURSE made RELATIVE ${WORK} ${WORK}/*.rtf ${WORK}/*.usm)
+list(LENGTH made count)
+if(NOT count EQUAL 4)
+    message(FATAL_ERROR "4 files expected, ${count} made")
+endif()
+foreach(file IN LISTS made)
+    execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${WORK}/${file} ${RESOURCES}/${file}
+                    RESULT_VARIABLE different)
+    if(different)
+        message(FATAL_ERROR "${file} is not what its source gives: run usmira-textes")
+    endif()
+endforeach()
