@@ -2,11 +2,14 @@
 
 #include <QByteArray>
 #include <QColor>
+#include <QFont>
 #include <QList>
 #include <QString>
 #include <QTextCursor>
 #include <optional>
 
+class QTextBlockFormat;
+class QTextCharFormat;
 class QTextDocument;
 
 // A rich text with a selection: the one interface through which the program reads and changes the
@@ -16,6 +19,9 @@ class QTextDocument;
 // Positions and lengths are 0-based character counts of text(), in which a paragraph break counts
 // as the two characters CR LF. A position inside such a pair is taken as the position before it, so
 // that no operation covers half of a break. Positions outside the text are clamped to it.
+//
+// Text that enters is cleaned: every kind of line break is a paragraph break, control characters
+// and placeholders of pictures are left out, half surrogates become U+FFFD.
 //
 // A selection attribute that has several values within the selection is empty (mixed). With an
 // empty selection the character attributes are those of what would be typed next.
@@ -28,21 +34,28 @@ public:
         bool matchCase = false;
     };
 
-    RichTextBox() = default;
+    RichTextBox();
     virtual ~RichTextBox() = default;
     RichTextBox(const RichTextBox &) = delete;
     RichTextBox &operator=(const RichTextBox &) = delete;
 
-    // The whole text. Setting it drops all formatting: the text gets the base font.
+    // The whole text. Setting it drops all formatting, gives the text the base font, clears the
+    // undo list and puts the caret at the start.
     QString text() const;
     void setText(const QString &text);
 
     // The whole document as RTF. Setting it replaces everything and clears the undo list; empty
-    // bytes give an empty text. Throws FormatError, and changes nothing, when the bytes are no RTF.
+    // bytes give an empty text. The caret goes to the start. Throws FormatError, and changes
+    // nothing, when the bytes are no RTF.
     QByteArray rtf() const;
     void setRtf(const QByteArray &rtf);
 
-    // RTF files. Throw FileError, or FormatError on loading; a failure changes nothing.
+    // True while setText, setRtf or loadFile is putting in a new text, so that a listener of the
+    // document can tell it from changes by the user or to the selection.
+    bool isLoading() const { return m_loading; }
+
+    // RTF files. Throw FileError, or FormatError on loading; a failure changes nothing. A file is
+    // replaced whole and durably, and where a link leads.
     void loadFile(const QString &path);
     void saveFile(const QString &path) const;
 
@@ -54,6 +67,8 @@ public:
     // caret behind the new text.
     QString selText() const;
     void setSelText(const QString &text);
+    // RTF of the selected characters. Replacing the selection by RTF keeps the paragraph format of
+    // the text behind it. Throws FormatError, and changes nothing, when the bytes are no RTF.
     QByteArray selRtf() const;
     void setSelRtf(const QByteArray &rtf);
 
@@ -77,20 +92,22 @@ public:
     std::optional<double> selIndent() const;        // left indent, centimetres
     std::optional<double> selHangingIndent() const; // first line relative to the left indent
     std::optional<double> selRightIndent() const;
-    std::optional<QList<double>> selTabs() const; // tab stops in centimetres, in stored order
+    std::optional<QList<double>> selTabs() const; // tab stops in centimetres, ascending
     void setSelAlignment(Alignment alignment);
     void setSelBullet(bool on);
     void setSelIndent(double centimetres);
     void setSelHangingIndent(double centimetres);
     void setSelRightIndent(double centimetres);
-    void setSelTabs(const QList<double> &centimetres); // at most 64 are kept
+    void setSelTabs(const QList<double> &centimetres); // 64 at most are kept, sorted
 
     // Finds needle at or after start and selects it. Returns its position, or -1 and leaves the
     // selection alone. An empty needle is never found.
     int find(const QString &needle, int start, FindOptions options);
 
-    // The font of texts that name none, and of what is typed into an empty text.
+    // The font of texts that name none, and of what is typed into an empty text. Times New Roman,
+    // 12 points, when it was never set.
     void setBaseFont(const QString &name, double points);
+    const QFont &baseFont() const { return m_baseFont; }
 
     // The document under the box, for painting and printing. Change it through the box alone.
     virtual QTextDocument *document() const = 0;
@@ -98,4 +115,17 @@ public:
 protected:
     virtual QTextCursor cursor() const = 0;
     virtual void setCursor(const QTextCursor &cursor) = 0;
+    // What shows the document has to take a new base font over.
+    virtual void baseFontChanged(const QFont &font);
+
+private:
+    class Loading;
+
+    std::optional<bool> selHas(bool (*has)(const QTextCharFormat &)) const;
+    std::optional<double> selDistance(double (*distance)(const QTextBlockFormat &)) const;
+    void mergeChars(const QTextCharFormat &format);
+    void mergeParagraphs(const QTextBlockFormat &format);
+
+    QFont m_baseFont;
+    bool m_loading = false;
 };

@@ -1,0 +1,197 @@
+#include "richtext/RichTextBox.h"
+
+#include "platform/SafeFile.h"
+#include "richtext/DocumentBuilder.h"
+#include "richtext/RtfReader.h"
+#include "richtext/RtfWriter.h"
+#include "richtext/SelectionFormats.h"
+#include "richtext/TextCleaning.h"
+#include "richtext/TextPositions.h"
+
+#include <QTextDocument>
+#include <algorithm>
+
+// Replacing the whole text: listeners are told that it is no edit, nothing goes into the undo list
+// and the list is cleared.
+class RichTextBox::Loading
+{
+public:
+    explicit Loading(RichTextBox &box) : m_box(box), m_undo(box.document()->isUndoRedoEnabled())
+    {
+        m_box.m_loading = true;
+        m_box.document()->setUndoRedoEnabled(false);
+        m_box.document()->clear();
+    }
+    ~Loading()
+    {
+        m_box.document()->setUndoRedoEnabled(m_undo);
+        m_box.document()->setModified(false);
+        m_box.select(0, 0);
+        m_box.m_loading = false;
+    }
+    Loading(const Loading &) = delete;
+    Loading &operator=(const Loading &) = delete;
+
+private:
+    RichTextBox &m_box;
+    bool m_undo;
+};
+
+namespace
+{
+bool isWordCharacter(QChar c)
+{
+    return c.isLetterOrNumber() || c == u'_';
+}
+
+bool isWholeWord(const QString &text, qsizetype start, qsizetype length)
+{
+    const qsizetype end = start + length;
+    return (start == 0 || !isWordCharacter(text.at(start - 1))) &&
+           (end == text.size() || !isWordCharacter(text.at(end)));
+}
+
+QString withCrLf(QString text)
+{
+    return text.replace(QChar(QChar::ParagraphSeparator), QLatin1String("\r\n"));
+}
+} // namespace
+
+RichTextBox::RichTextBox() : m_baseFont(QStringLiteral("Times New Roman"))
+{
+    m_baseFont.setPointSizeF(CharState::DefaultHalfPoints / 2.0);
+}
+
+QString RichTextBox::text() const
+{
+    return withCrLf(document()->toRawText());
+}
+
+void RichTextBox::setText(const QString &text)
+{
+    const Loading loading(*this);
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    const QTextCharFormat format = CharState::plain(m_baseFont).toFormat(m_baseFont);
+    cursor.setBlockCharFormat(format);
+    cursor.insertText(cleanedText(text), format);
+    cursor.endEditBlock();
+}
+
+QByteArray RichTextBox::rtf() const
+{
+    return writeRtf(*document(), m_baseFont);
+}
+
+void RichTextBox::setRtf(const QByteArray &rtf)
+{
+    if (rtf.isEmpty()) {
+        setText(QString());
+        return;
+    }
+    RtfReader reader(rtf);
+    const Loading loading(*this);
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    DocumentBuilder builder(cursor, m_baseFont);
+    reader.read(builder);
+    builder.finish();
+    cursor.endEditBlock();
+}
+
+void RichTextBox::loadFile(const QString &path)
+{
+    setRtf(readWholeFile(path, RtfReader::MaxBytes));
+}
+
+void RichTextBox::saveFile(const QString &path) const
+{
+    writeWholeFile(path, rtf(), Durability::Full, Links::Follow);
+}
+
+int RichTextBox::selStart() const
+{
+    return TextPositions::toText(*document(), cursor().selectionStart());
+}
+
+int RichTextBox::selLength() const
+{
+    return TextPositions::toText(*document(), cursor().selectionEnd()) - selStart();
+}
+
+void RichTextBox::select(int start, int length)
+{
+    const int textLength = TextPositions::textLength(*document());
+    const int first = std::clamp(start, 0, textLength);
+    const int behind = first + std::clamp(length, 0, textLength - first);
+    QTextCursor selection(document());
+    selection.setPosition(TextPositions::toDocument(*document(), first));
+    selection.setPosition(TextPositions::toDocument(*document(), behind), QTextCursor::KeepAnchor);
+    setCursor(selection);
+}
+
+QString RichTextBox::selText() const
+{
+    return withCrLf(cursor().selectedText());
+}
+
+void RichTextBox::setSelText(const QString &text)
+{
+    QTextCursor selection = cursor();
+    const QTextCharFormat format = SelectionFormats::firstCharFormat(selection);
+    selection.beginEditBlock();
+    selection.removeSelectedText();
+    selection.insertText(cleanedText(text), format);
+    selection.endEditBlock();
+    setCursor(selection);
+}
+
+QByteArray RichTextBox::selRtf() const
+{
+    const QTextCursor selection = cursor();
+    return writeRtf(*document(), m_baseFont, selection.selectionStart(), selection.selectionEnd());
+}
+
+void RichTextBox::setSelRtf(const QByteArray &rtf)
+{
+    if (rtf.isEmpty()) {
+        setSelText(QString());
+        return;
+    }
+    RtfReader reader(rtf);
+    QTextCursor selection = cursor();
+    selection.beginEditBlock();
+    selection.removeSelectedText();
+    DocumentBuilder builder(selection, m_baseFont);
+    reader.read(builder);
+    const QTextCursor behind = builder.finish();
+    selection.endEditBlock();
+    setCursor(behind);
+}
+
+int RichTextBox::find(const QString &needle, int start, FindOptions options)
+{
+    if (needle.isEmpty())
+        return -1;
+    const QString whole = text();
+    const auto sensitivity = options.matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    qsizetype found = whole.indexOf(needle, std::max(0, start), sensitivity);
+    while (found >= 0 && options.wholeWord && !isWholeWord(whole, found, needle.size()))
+        found = whole.indexOf(needle, found + 1, sensitivity);
+    if (found < 0)
+        return -1;
+    select(static_cast<int>(found), static_cast<int>(needle.size()));
+    return static_cast<int>(found);
+}
+
+void RichTextBox::setBaseFont(const QString &name, double points)
+{
+    m_baseFont = QFont(name);
+    m_baseFont.setPointSizeF(points > 0 ? points : CharState::DefaultHalfPoints / 2.0);
+    baseFontChanged(m_baseFont);
+}
+
+void RichTextBox::baseFontChanged(const QFont &font)
+{
+    document()->setDefaultFont(font);
+}

@@ -1,0 +1,497 @@
+#include "richtext/RtfReader.h"
+
+#include "platform/Errors.h"
+#include "richtext/RtfListLabel.h"
+#include "richtext/TextCleaning.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace
+{
+QByteArrayView withoutByteOrderMark(QByteArrayView rtf)
+{
+    return rtf.startsWith("\xef\xbb\xbf") ? rtf.sliced(3) : rtf;
+}
+
+bool isOn(const RtfToken &token)
+{
+    return !token.hasNumber || token.number != 0;
+}
+
+int bounded(int twips)
+{
+    return std::clamp(twips, -ParagraphState::MaxTwips, ParagraphState::MaxTwips);
+}
+} // namespace
+
+RtfReader::RtfReader(QByteArrayView rtf) : m_tokens(withoutByteOrderMark(rtf))
+{
+    if (!withoutByteOrderMark(rtf).startsWith("{\\rtf"))
+        throw FormatError(0, QStringLiteral("{\\rtf"));
+    if (rtf.size() > MaxBytes)
+        throw FormatError(MaxBytes, QStringLiteral("the end of the text"));
+    m_states.emplace_back();
+}
+
+void RtfReader::read(RtfHandler &handler)
+{
+    m_handler = &handler;
+    m_tokens.next(); // the opening brace of the whole
+    while (readToken())
+        continue;
+    finish();
+}
+
+bool RtfReader::readToken()
+{
+    const RtfToken token = m_tokens.next();
+    if (m_fallbackLeft > 0 && skipsAsFallback(token))
+        return true;
+    switch (token.kind) {
+    case RtfToken::Kind::End:
+        return false;
+    case RtfToken::Kind::GroupOpen:
+        openGroup();
+        break;
+    case RtfToken::Kind::GroupClose:
+        return closeGroup();
+    case RtfToken::Kind::Word:
+        word(token);
+        break;
+    case RtfToken::Kind::Symbol:
+        symbol(token.byte);
+        break;
+    case RtfToken::Kind::Hex:
+        m_bytes += token.byte;
+        break;
+    case RtfToken::Kind::Text:
+        text(token.bytes);
+        break;
+    case RtfToken::Kind::Binary:
+        break;
+    }
+    return true;
+}
+
+// True when the token belongs whole to the fallback of a \u.
+bool RtfReader::skipsAsFallback(const RtfToken &token)
+{
+    switch (token.kind) {
+    case RtfToken::Kind::End:
+    case RtfToken::Kind::GroupOpen:
+    case RtfToken::Kind::GroupClose:
+        m_fallbackLeft = 0;
+        return false;
+    case RtfToken::Kind::Text: {
+        const qsizetype taken = std::min<qsizetype>(m_fallbackLeft, token.bytes.size());
+        m_fallbackLeft -= static_cast<int>(taken);
+        text(token.bytes.sliced(taken));
+        return true;
+    }
+    default:
+        --m_fallbackLeft;
+        return true;
+    }
+}
+
+void RtfReader::openGroup()
+{
+    flush();
+    m_starred = false;
+    if (static_cast<int>(m_states.size()) >= MaxDepth)
+        ++m_flatDepth;
+    else
+        m_states.push_back(state());
+}
+
+// False at the end of the whole.
+bool RtfReader::closeGroup()
+{
+    flush();
+    if (m_flatDepth > 0) {
+        --m_flatDepth;
+        return true;
+    }
+    const Content closed = state().content;
+    if (m_states.size() == 1)
+        return false;
+    m_states.pop_back();
+    if (closed == Content::Fonts && state().content == Content::Body) {
+        m_fonts.endEntry();
+        selectFont(m_defaultFont);
+    }
+    return true;
+}
+
+// Leaves the group that was just opened. The whole is never left, since a word out of place must
+// not take the text with it.
+void RtfReader::skipGroup()
+{
+    flush();
+    if (m_states.size() == 1)
+        return;
+    m_tokens.skipGroup();
+    m_fallbackLeft = 0;
+    closeGroup();
+}
+
+void RtfReader::word(const RtfToken &token)
+{
+    const bool starred = std::exchange(m_starred, false);
+    const RtfWord *known = findRtfWord(token.bytes);
+    if (known == nullptr) {
+        if (starred)
+            skipGroup();
+        return;
+    }
+    if (textWord(*known, token))
+        return;
+    flush();
+    if (charWord(*known, token) || paragraphWord(*known, token) || tableWord(*known, token))
+        return;
+    groupWord(*known);
+}
+
+bool RtfReader::textWord(const RtfWord &word, const RtfToken &token)
+{
+    switch (word.action) {
+    case RtfAction::Character:
+        character(static_cast<char16_t>(word.value));
+        return true;
+    case RtfAction::Unicode:
+        unicode(token.number);
+        return true;
+    case RtfAction::FallbackLength:
+        state().fallback = std::max(0, token.number);
+        return true;
+    case RtfAction::ParagraphEnd:
+        flush();
+        endParagraph();
+        return true;
+    case RtfAction::BreakIfText:
+        flush();
+        if (m_paragraphHasText)
+            endParagraph();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool RtfReader::charWord(const RtfWord &word, const RtfToken &token)
+{
+    State &now = state();
+    switch (word.action) {
+    case RtfAction::Plain:
+        now.chars = CharState();
+        now.hidden = false;
+        selectFont(m_defaultFont);
+        return true;
+    case RtfAction::Bold:
+        now.chars.bold = isOn(token);
+        return true;
+    case RtfAction::Italic:
+        now.chars.italic = isOn(token);
+        return true;
+    case RtfAction::Underline:
+        now.chars.underline = isOn(token);
+        return true;
+    case RtfAction::NoUnderline:
+        now.chars.underline = false;
+        return true;
+    case RtfAction::Strike:
+        now.chars.strike = isOn(token);
+        return true;
+    case RtfAction::Hidden:
+        now.hidden = isOn(token);
+        return true;
+    case RtfAction::Size:
+        if (token.number > 0)
+            now.chars.halfPoints = std::clamp(token.number, 2, CharState::MaxHalfPoints);
+        return true;
+    case RtfAction::Colour:
+        now.chars.colour = m_colours.colour(token.number);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool RtfReader::paragraphWord(const RtfWord &word, const RtfToken &token)
+{
+    static constexpr std::array alignments = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+    ParagraphState &now = state().paragraph;
+    switch (word.action) {
+    case RtfAction::Pard:
+        now = ParagraphState();
+        return true;
+    case RtfAction::Align:
+        now.alignment = alignments.at(static_cast<std::size_t>(word.value));
+        return true;
+    case RtfAction::Left:
+        now.left = bounded(token.number);
+        return true;
+    case RtfAction::First:
+        now.first = bounded(token.number);
+        return true;
+    case RtfAction::Right:
+        now.right = bounded(token.number);
+        return true;
+    case RtfAction::Tab:
+        now.addTab(token.number);
+        return true;
+    case RtfAction::List:
+        now.bullet = token.number > 0;
+        return true;
+    case RtfAction::BulletLevel:
+    case RtfAction::NumberLevel:
+        // The definition stands in a group of its own and counts for the text around it.
+        if (state().content == Content::OldList && m_states.size() > 1)
+            m_states[m_states.size() - 2].paragraph.bullet = word.action == RtfAction::BulletLevel;
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool RtfReader::tableWord(const RtfWord &word, const RtfToken &token)
+{
+    const bool inFonts = state().content == Content::Fonts;
+    switch (word.action) {
+    case RtfAction::Font:
+        if (inFonts)
+            m_fonts.startEntry(token.number);
+        else
+            selectFont(token.number);
+        return true;
+    case RtfAction::Charset:
+        if (inFonts)
+            m_fonts.setPage(CodePage::fromFontCharset(token.number));
+        return true;
+    case RtfAction::FontPage:
+        if (inFonts && token.number > 0)
+            m_fonts.setPage(token.number);
+        return true;
+    case RtfAction::Red:
+        m_colours.setRed(token.number);
+        return true;
+    case RtfAction::Green:
+        m_colours.setGreen(token.number);
+        return true;
+    case RtfAction::Blue:
+        m_colours.setBlue(token.number);
+        return true;
+    case RtfAction::AnsiPage:
+        m_documentPage = word.value;
+        return true;
+    case RtfAction::AnsiPageNumber:
+        if (token.number > 0)
+            m_documentPage = token.number;
+        return true;
+    case RtfAction::DefaultFont:
+        m_defaultFont = token.number;
+        return true;
+    default:
+        return false;
+    }
+}
+
+void RtfReader::groupWord(const RtfWord &word)
+{
+    switch (word.action) {
+    case RtfAction::Skip:
+        skipGroup();
+        break;
+    case RtfAction::FontTable:
+        enter(Content::Fonts);
+        break;
+    case RtfAction::ColourTable:
+        enter(Content::Colours);
+        break;
+    case RtfAction::OldList:
+        enter(Content::OldList);
+        break;
+    case RtfAction::UnicodePair:
+        enter(Content::PlainPair);
+        break;
+    case RtfAction::UnicodeText:
+        enter(Content::Body);
+        break;
+    case RtfAction::ListLabel:
+        listLabel();
+        break;
+    default:
+        break;
+    }
+}
+
+// A group too deep for a state of its own cannot hold another kind of content, so it is left out.
+void RtfReader::enter(Content content)
+{
+    if (m_flatDepth > 0)
+        skipGroup();
+    else if (m_states.size() > 1)
+        state().content = content;
+}
+
+void RtfReader::listLabel()
+{
+    const RtfListLabel label = rtfListLabel(m_tokens);
+    m_bulletLabel = m_bulletLabel || label == RtfListLabel::Bullet;
+    m_numberLabel = m_numberLabel || label == RtfListLabel::Number;
+    if (label == RtfListLabel::Bullet)
+        skipGroup();
+}
+
+void RtfReader::symbol(char c)
+{
+    switch (c) {
+    case '*':
+        m_starred = true;
+        break;
+    case '~':
+        character(0x00a0);
+        break;
+    case '-':
+        character(0x00ad);
+        break;
+    case '_':
+        character(0x2011);
+        break;
+    case '\\':
+    case '{':
+    case '}':
+        text(QByteArrayView(&c, 1));
+        break;
+    case '\t':
+        character(u'\t');
+        break;
+    default:
+        break;
+    }
+}
+
+void RtfReader::text(QByteArrayView bytes)
+{
+    m_starred = false;
+    if (state().content == Content::Body)
+        m_bytes.append(bytes);
+    else
+        tableText(bytes);
+}
+
+// The semicolon ends the entries of both tables.
+void RtfReader::tableText(QByteArrayView bytes)
+{
+    const Content content = state().content;
+    if (content != Content::Fonts && content != Content::Colours)
+        return;
+    for (const char c : bytes) {
+        if (c != ';') {
+            m_bytes += c;
+            continue;
+        }
+        flush();
+        if (content == Content::Fonts)
+            m_fonts.endEntry();
+        else
+            m_colours.endEntry();
+    }
+}
+
+void RtfReader::selectFont(int number)
+{
+    const RtfFont font = m_fonts.font(number);
+    state().chars.family = font.name;
+    state().page = font.page;
+}
+
+void RtfReader::character(char16_t c)
+{
+    decodeBytes();
+    m_text += QChar(c);
+}
+
+void RtfReader::unicode(int code)
+{
+    decodeBytes();
+    // The number is a signed 16-bit one.
+    const int unit = code < 0 ? code + 0x10000 : code;
+    const bool valid = unit >= 0 && unit <= 0xffff;
+    m_text += valid ? QChar(static_cast<char16_t>(unit)) : QChar(QChar::ReplacementCharacter);
+    m_fallbackLeft = state().fallback;
+}
+
+void RtfReader::decodeBytes()
+{
+    if (m_bytes.isEmpty())
+        return;
+    const bool inFonts = state().content == Content::Fonts;
+    const int page = inFonts ? m_fonts.page() : state().page;
+    m_text += m_codePage.decode(m_bytes, page != 0 ? page : m_documentPage);
+    m_bytes.clear();
+}
+
+void RtfReader::flush()
+{
+    decodeBytes();
+    if (m_text.isEmpty())
+        return;
+    // The other half of a character may follow in another group.
+    const bool half = m_text.back().isHighSurrogate();
+    const QString text = cleanedText(QStringView(m_text).chopped(half ? 1 : 0));
+    m_text = half ? m_text.right(1) : QString();
+    if (state().content == Content::Fonts)
+        m_fonts.addToName(text);
+    else if (state().content == Content::Body && !state().hidden)
+        emitText(text);
+}
+
+void RtfReader::emitText(QStringView text)
+{
+    while (!text.isEmpty()) {
+        const qsizetype end = text.indexOf(u'\n');
+        const QStringView part = end < 0 ? text : text.first(end);
+        if (!part.isEmpty()) {
+            m_handler->text(part, state().chars);
+            m_paragraphHasText = true;
+            m_last = state();
+        }
+        if (end < 0)
+            return;
+        endParagraph();
+        text = text.sliced(end + 1);
+    }
+}
+
+void RtfReader::endParagraph()
+{
+    if (state().content != Content::Body || state().hidden)
+        return;
+    if (!m_text.isEmpty())
+        emitText(cleanedText(std::exchange(m_text, QString())));
+    ParagraphState paragraph = state().paragraph;
+    paragraph.bullet = !m_numberLabel && (paragraph.bullet || m_bulletLabel);
+    paragraph.settleBullet();
+    m_handler->paragraphEnd(paragraph, state().chars);
+    m_anyParagraph = true;
+    m_paragraphHasText = false;
+    m_bulletLabel = false;
+    m_numberLabel = false;
+}
+
+void RtfReader::finish()
+{
+    flush();
+    state().content = Content::Body;
+    state().hidden = false;
+    if (!m_text.isEmpty())
+        emitText(cleanedText(std::exchange(m_text, QString())));
+    if (m_paragraphHasText)
+        state() = m_last;
+    else if (m_anyParagraph)
+        return;
+    endParagraph();
+}

@@ -1,0 +1,237 @@
+#include "richtext/RtfWriter.h"
+
+#include "richtext/CodePage.h"
+#include "richtext/TextCleaning.h"
+#include "richtext/TextStates.h"
+
+#include <QHash>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <algorithm>
+#include <optional>
+
+namespace
+{
+QByteArray number(int value)
+{
+    return QByteArray::number(value);
+}
+
+bool isAsciiText(QChar c)
+{
+    return c >= u' ' && c < QChar(0x7f) && c != u'{' && c != u'}' && c != u'\\';
+}
+
+// A character outside 7 bits, and those that mean something to a reader.
+QByteArray escaped(QChar c)
+{
+    if (const std::optional<uchar> byte = windows1252Byte(c)) {
+        const char bytes[] = {static_cast<char>(*byte)};
+        return "\\'" + QByteArrayView(bytes, 1).toByteArray().toHex();
+    }
+    return "\\u" + number(static_cast<qint16>(c.unicode())) + " ?";
+}
+
+// Assigns numbers in the order of first use.
+template <typename Key> class Numbering
+{
+public:
+    int of(const Key &key)
+    {
+        const auto found = m_numbers.constFind(key);
+        if (found != m_numbers.constEnd())
+            return *found;
+        m_keys.append(key);
+        return *m_numbers.insert(key, static_cast<int>(m_keys.size()) - 1);
+    }
+    const QList<Key> &keys() const { return m_keys; }
+
+private:
+    QHash<Key, int> m_numbers;
+    QList<Key> m_keys;
+};
+
+class Writer
+{
+public:
+    explicit Writer(const QFont &base) : m_base(base) { m_colours.of(qRgb(0, 0, 0)); }
+
+    void writeBody(const QTextDocument &document, int from, int to);
+    QByteArray wholeText() const;
+
+private:
+    void writeBlock(const QTextBlock &block, int from, int to);
+    void startParagraph(const ParagraphState &state);
+    void writeText(const QString &text, const CharState &state);
+    void writeChar(QChar c, const CharState &state);
+    void writeCharState(const CharState &state);
+    QByteArray header() const;
+
+    QFont m_base;
+    QByteArray m_body;
+    Numbering<QString> m_fonts;
+    Numbering<QRgb> m_colours;
+    bool m_anyBullet = false;
+    std::optional<ParagraphState> m_paragraph;
+    std::optional<CharState> m_chars; // in force at this place, empty when none was written
+    // A \u run has closed bold, italic and underline for the HTML export, which goes by the words
+    // of each run; plain characters must open them again.
+    bool m_stylesClosed = false;
+};
+
+void Writer::writeBody(const QTextDocument &document, int from, int to)
+{
+    const QTextBlock last = document.findBlock(to);
+    for (QTextBlock block = document.findBlock(from); block.isValid(); block = block.next()) {
+        writeBlock(block, std::max(from, block.position()),
+                   std::min(to, block.position() + block.length() - 1));
+        if (block == last)
+            break;
+    }
+    m_body += "\r\n\\par }";
+}
+
+void Writer::writeBlock(const QTextBlock &block, int from, int to)
+{
+    ParagraphState state = ParagraphState::of(block);
+    state.settleBullet();
+    m_anyBullet = m_anyBullet || state.bullet;
+    const bool wholeIsEmpty = from == to && !m_paragraph && block.next() == QTextBlock();
+    startParagraph(state);
+    if (from == to) {
+        writeCharState(wholeIsEmpty && block.blockNumber() == 0
+                           ? CharState::plain(m_base)
+                           : CharState::of(block.charFormat(), m_base));
+        return;
+    }
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        const int start = std::max(from, fragment.position());
+        const int end = std::min(to, fragment.position() + fragment.length());
+        if (start < end)
+            writeText(fragment.text().mid(start - fragment.position(), end - start),
+                      CharState::of(fragment.charFormat(), m_base));
+    }
+}
+
+void Writer::startParagraph(const ParagraphState &state)
+{
+    m_body += m_paragraph ? "\r\n\\par " : "\\deflang1036";
+    if (m_paragraph == state)
+        return;
+    m_paragraph = state;
+    m_chars.reset();
+    m_body += "\\pard";
+    if (state.alignment == Qt::AlignHCenter)
+        m_body += "\\qc";
+    else if (state.alignment == Qt::AlignRight)
+        m_body += "\\qr";
+    const int bullet = state.bullet ? ParagraphState::BulletTwips : 0;
+    if (state.left + bullet != 0)
+        m_body += "\\li" + number(state.left + bullet);
+    if (state.first - bullet != 0)
+        m_body += "\\fi" + number(state.first - bullet);
+    if (state.right != 0)
+        m_body += "\\ri" + number(state.right);
+    for (const int tab : state.tabs)
+        m_body += "\\tx" + number(tab);
+    m_body += state.bullet ? "\\ls1 " : " ";
+}
+
+void Writer::writeText(const QString &text, const CharState &state)
+{
+    for (const QChar c : cleanedText(text)) {
+        if (m_chars != state)
+            writeCharState(state);
+        writeChar(c, state);
+    }
+}
+
+void Writer::writeChar(QChar c, const CharState &state)
+{
+    if (c == u'\t') {
+        m_body += "\\tab ";
+        return;
+    }
+    if (c == u'\n') {
+        m_body += "\r\n\\par ";
+        return;
+    }
+    const bool hasByte = windows1252Byte(c).has_value();
+    if (hasByte && m_stylesClosed)
+        writeCharState(state);
+    if (isAsciiText(c))
+        m_body += c.toLatin1();
+    else if (c == QChar(QChar::Nbsp))
+        m_body += "\\~";
+    else
+        m_body += escaped(c);
+    m_stylesClosed = !hasByte && (state.bold || state.italic || state.underline);
+}
+
+void Writer::writeCharState(const CharState &state)
+{
+    m_stylesClosed = false;
+    m_chars = state;
+    m_body += "\\plain\\f" + number(m_fonts.of(state.family));
+    m_body += "\\fs" + number(state.halfPoints);
+    if (state.colour)
+        m_body += "\\cf" + number(m_colours.of(*state.colour));
+    if (state.bold)
+        m_body += "\\b";
+    if (state.italic)
+        m_body += "\\i";
+    if (state.underline)
+        m_body += "\\ul";
+    if (state.strike)
+        m_body += "\\strike";
+    m_body += ' ';
+}
+
+QByteArray escapedFontName(const QString &name)
+{
+    QByteArray bytes;
+    for (const QChar c : cleanedText(name).remove(u'\n').remove(u'\t')) {
+        if (isAsciiText(c) && c != u';')
+            bytes += c.toLatin1();
+        else
+            bytes += escaped(c);
+    }
+    return bytes;
+}
+
+QByteArray Writer::header() const
+{
+    QByteArray header = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deftab720{\\fonttbl";
+    for (int i = 0; i < m_fonts.keys().size(); ++i)
+        header += "{\\f" + number(i) + "\\fnil " + escapedFontName(m_fonts.keys().at(i)) + ";}";
+    header += "}\r\n{\\colortbl";
+    for (const QRgb colour : m_colours.keys())
+        header += "\\red" + number(qRed(colour)) + "\\green" + number(qGreen(colour)) + "\\blue" +
+                  number(qBlue(colour)) + ";";
+    header += "}\r\n";
+    if (m_anyBullet)
+        header += "{\\*\\listtable{\\list\\listtemplateid1\\listsimple1{\\listlevel\\levelnfc23"
+                  "\\leveljc0\\levelfollow0\\levelstartat1{\\leveltext\\'01\\'95;}{\\levelnumbers;}"
+                  "\\fi-360\\li360}{\\listname ;}\\listid1}}\r\n"
+                  "{\\*\\listoverridetable{\\listoverride\\listid1\\listoverridecount0\\ls1}}\r\n";
+    return header;
+}
+
+QByteArray Writer::wholeText() const
+{
+    return header() + m_body;
+}
+} // namespace
+
+QByteArray writeRtf(const QTextDocument &document, const QFont &base)
+{
+    return writeRtf(document, base, 0, document.characterCount() - 1);
+}
+
+QByteArray writeRtf(const QTextDocument &document, const QFont &base, int from, int to)
+{
+    Writer writer(base);
+    writer.writeBody(document, from, to);
+    return writer.wholeText();
+}
