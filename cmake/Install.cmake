@@ -1,0 +1,10 @@
+# Puts the program where a desktop finds it. The targets install themselves beside their sources.
+set(usmira_data ${CMAKE_INSTALL_DATADIR}/usmira)
+set(desktop ${PROJECT_SOURCE_DIR}/resources/desktop)
+
+install(DIRECTORY resources/documents/ DESTINATION ${usmira_data})
+install(DIRECTORY resources/samples/ DESTINATION ${usmira_data}/samples)
+install(FILES ${desktop}/usmira.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${desktop}/usmira.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES ${desktop}/usmira.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
+install(FILES README.md LISEZMOI.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
