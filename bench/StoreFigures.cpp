@@ -49,16 +49,16 @@ void printReading(Editor &editor, const QString &path)
                 medianMilliseconds(Runs, nothing, [&] { editor.commands.OpenAdventure(path); }),
                 QStringLiteral("ms"));
     printFigure(QStringLiteral("fetch one paragraph"),
-                1000 * medianMilliseconds(Runs, nothing,
-                                          [&] {
-                                              for (int n = 1; n <= BigAdventure::Paragraphs; ++n)
-                                                  GetParagraphRtf(editor.variables, n);
-                                          }) /
+                1000 *
+                    medianMilliseconds(Runs, nothing,
+                                       [&] {
+                                           for (int n = 1; n <= BigAdventure::Paragraphs; ++n)
+                                               GetParagraphRtf(editor.variables, n);
+                                       }) /
                     BigAdventure::Paragraphs,
                 QStringLiteral("us"));
     printFigure(QStringLiteral("rebuild the index of 2000 paragraphs"),
-                medianMilliseconds(Runs, nothing,
-                                   [&] { RebuildReferenceIndex(editor.variables); }),
+                medianMilliseconds(Runs, nothing, [&] { RebuildReferenceIndex(editor.variables); }),
                 QStringLiteral("ms"));
 }
 
@@ -95,8 +95,7 @@ void printSaves(Editor &editor, const QString &path)
             SaveRuns, [&] { editor.touch(count); }, [&] { editor.commands.Save(); });
         const QString name = QStringLiteral("save with %1 working files").arg(count);
         printFigure(name, time, QStringLiteral("ms"));
-        printFigure(name + QStringLiteral(" over one file"), time / plain,
-                    QStringLiteral("ratio"));
+        printFigure(name + QStringLiteral(" over one file"), time / plain, QStringLiteral("ratio"));
     }
 }
 } // namespace

@@ -117,11 +117,11 @@ void printWindowFigures(const QString &path, const QString &folder)
         printShowing(editor);
     }
     QByteArray ignored;
-    printFigure(QStringLiteral("start to first paint"),
-                medianMilliseconds(
-                    Runs, [] {},
-                    [&] { runChild(QStringLiteral("--first-paint"), path, folder, ignored); }),
-                QStringLiteral("ms"));
+    printFigure(
+        QStringLiteral("start to first paint"),
+        medianMilliseconds(
+            Runs, [] {}, [&] { runChild(QStringLiteral("--first-paint"), path, folder, ignored); }),
+        QStringLiteral("ms"));
     const double empty = childFigure(QStringLiteral("--memory-of-an-empty-edit"), path, folder);
     const double editor = childFigure(QStringLiteral("--memory"), path, folder);
     printFigure(QStringLiteral("memory of an empty QTextEdit window"), empty, QStringLiteral("MB"));

@@ -2,18 +2,28 @@
 
 #include "BigAdventure.h"
 #include "StoreFigures.h"
+#include "WindowFigures.h"
+#include "app/Desktop.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
+#include <optional>
 
 int main(int argc, char *argv[])
 {
     if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    std::optional<Desktop> desktop; // an empty window does without
+    if (arguments.value(1) != QStringLiteral("--memory-of-an-empty-edit"))
+        desktop.emplace(application);
+    if (arguments.size() == 4 && runAsChild(arguments.at(1), arguments.at(2), arguments.at(3)))
+        return 0;
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("Grande Aventure.usm"));
     BigAdventure::make(path);
     printStoreFigures(path, folder.path());
+    printWindowFigures(path, folder.path());
     return 0;
 }

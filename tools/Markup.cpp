@@ -14,11 +14,16 @@ constexpr double SubtitleSize = 14;
 QRgb colorNamed(const QString &name)
 {
     static const QMap<QString, QRgb> colors{
-        {QStringLiteral("noir"), qRgb(0, 0, 0)},       {QStringLiteral("bleu"), qRgb(0, 0, 255)},
-        {QStringLiteral("cyan"), qRgb(0, 255, 255)},   {QStringLiteral("gris"), qRgb(128, 128, 128)},
-        {QStringLiteral("vert"), qRgb(0, 255, 0)},     {QStringLiteral("magenta"), qRgb(255, 0, 255)},
-        {QStringLiteral("orange"), qRgb(255, 128, 0)}, {QStringLiteral("violet"), qRgb(204, 0, 255)},
-        {QStringLiteral("rouge"), qRgb(255, 0, 0)},    {QStringLiteral("jaune"), qRgb(255, 255, 0)},
+        {QStringLiteral("noir"), qRgb(0, 0, 0)},
+        {QStringLiteral("bleu"), qRgb(0, 0, 255)},
+        {QStringLiteral("cyan"), qRgb(0, 255, 255)},
+        {QStringLiteral("gris"), qRgb(128, 128, 128)},
+        {QStringLiteral("vert"), qRgb(0, 255, 0)},
+        {QStringLiteral("magenta"), qRgb(255, 0, 255)},
+        {QStringLiteral("orange"), qRgb(255, 128, 0)},
+        {QStringLiteral("violet"), qRgb(204, 0, 255)},
+        {QStringLiteral("rouge"), qRgb(255, 0, 0)},
+        {QStringLiteral("jaune"), qRgb(255, 255, 0)},
     };
     const auto found = colors.find(name);
     if (found == colors.end())
@@ -90,9 +95,7 @@ private:
 
     void takeOne()
     {
-        if (takeIf(QStringLiteral("\\")))
-            takeCharacter();
-        else if (takeIf(QStringLiteral("**")))
+        if (takeIf(QStringLiteral("**")))
             toggle(&Style::bold);
         else if (takeIf(QStringLiteral("__")))
             toggle(&Style::underline);
@@ -104,8 +107,10 @@ private:
             setColor(colorNamed(takeColorName()));
         else if (takeIf(QStringLiteral("}")))
             setColor(qRgb(0, 0, 0));
-        else
+        else {
+            takeIf(QStringLiteral("\\")); // the next character stands for itself
             takeCharacter();
+        }
     }
 
     QString takeColorName()

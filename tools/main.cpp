@@ -42,7 +42,7 @@ public:
         m_variables.LowestWritten = Variables::LastParagraph;
     }
 
-    QString make(const QStringList &lines, const QString &folder)
+    void make(const QStringList &lines, const QString &folder)
     {
         QString title;
         for (const QString &line : lines) {
@@ -55,9 +55,7 @@ public:
         }
         end();
         m_variables.CurrentParagraph = m_variables.LowestWritten;
-        const QString path = folder + u'/' + title + QStringLiteral(".usm");
-        writeAdventure(m_variables, path);
-        return path;
+        writeAdventure(m_variables, folder + u'/' + title + QStringLiteral(".usm"));
     }
 
 private:

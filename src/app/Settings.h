@@ -2,7 +2,6 @@
 
 #include "store/Variables.h"
 
-
 // The settings file, six lines of comma-separated fields ended by CR LF:
 //   optNDash,optMDash,optBullet,optEllipsis
 //   optFrenchQuotes,optLigatureAE,optLigatureOE,optNbsp
@@ -25,5 +24,4 @@ struct WindowGeometry {
 void readSettings(const QString &path, Variables &variables, WindowGeometry &geometry);
 
 // Throws FileError.
-void writeSettings(const QString &path, const Variables &variables,
-                   const WindowGeometry &geometry);
+void writeSettings(const QString &path, const Variables &variables, const WindowGeometry &geometry);

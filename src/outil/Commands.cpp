@@ -43,7 +43,10 @@ const std::vector<Commands::Entry> &Commands::entries()
         {text("nouvelle"), text("FICHIER"), text("crée une aventure vide"), false,
          &Commands::nouvelle},
         {text("ouvrir"), text("FICHIER"), text("ouvre une aventure"), false, &Commands::ouvrir},
-        {text("enregistrer"), {}, text("enregistre l'aventure ouverte"), true,
+        {text("enregistrer"),
+         {},
+         text("enregistre l'aventure ouverte"),
+         true,
          &Commands::enregistrer},
         {text("texte"), text("N FICHIER.rtf"), text("met un fichier RTF dans le paragraphe N"),
          true, &Commands::texte},
@@ -57,7 +60,10 @@ const std::vector<Commands::Entry> &Commands::entries()
          &Commands::mene},
         {text("libre"), text("N"), text("écrit le premier numéro libre après N"), true,
          &Commands::libre},
-        {text("etat"), {}, text("écrit l'état de l'aventure en JSON, sur une ligne"), true,
+        {text("etat"),
+         {},
+         text("écrit l'état de l'aventure en JSON, sur une ligne"),
+         true,
          &Commands::etat},
     };
     return table;
@@ -73,9 +79,8 @@ QByteArray Commands::run(const QStringList &words)
 {
     if (words.isEmpty())
         return {};
-    const auto entry = std::find_if(entries().begin(), entries().end(), [&](const Entry &e) {
-        return e.name == words.first();
-    });
+    const auto entry = std::find_if(entries().begin(), entries().end(),
+                                    [&](const Entry &e) { return e.name == words.first(); });
     if (entry == entries().end())
         throw UsageError(QStringLiteral("commande inconnue : ") + words.first());
     if (words.size() - 1 != entry->form.split(u' ', Qt::SkipEmptyParts).size())
@@ -92,8 +97,8 @@ QString Commands::help()
 {
     QString help;
     for (const Entry &entry : entries())
-        help += QStringLiteral("  %1 %2\n").arg((entry.name + u' ' + entry.form).leftJustified(26),
-                                                entry.purpose);
+        help += QStringLiteral("  %1 %2\n")
+                    .arg((entry.name + u' ' + entry.form).leftJustified(26), entry.purpose);
     return help;
 }
 
@@ -112,11 +117,11 @@ QByteArray Commands::nouvelle(const QStringList &arguments)
     const QString &path = arguments.first();
     if (!m_adventure.LeaveAdventure())
         return {};
-    const QString question = QFileInfo(path).fileName() +
-                             QStringLiteral(" existe déjà. Voulez-vous le remplacer ?");
+    const QString question =
+        QFileInfo(path).fileName() + QStringLiteral(" existe déjà. Voulez-vous le remplacer ?");
     if (!QFileInfo::exists(path) ||
-        m_prompts.message(question, QStringLiteral("Nouvelle Aventure"),
-                          Prompts::Buttons::YesNo) == Prompts::Answer::Yes)
+        m_prompts.message(question, QStringLiteral("Nouvelle Aventure"), Prompts::Buttons::YesNo) ==
+            Prompts::Answer::Yes)
         m_adventure.NewAdventure(path);
     return {};
 }

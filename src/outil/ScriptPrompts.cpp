@@ -12,9 +12,7 @@ Prompts::Answer ScriptPrompts::message(const QString &text, const QString &title
         return *m_answer;
     m_errors << title << QStringLiteral(" : ") << text << Qt::endl;
     m_failed = true;
-    return buttons == Buttons::YesNoCancel ? Answer::Cancel
-           : question                      ? Answer::No
-                                           : Answer::Ok;
+    return buttons == Buttons::YesNoCancel ? Answer::Cancel : question ? Answer::No : Answer::Ok;
 }
 
 // Scripts name their files: no command of theirs opens a dialog.

@@ -125,7 +125,8 @@ int main(int argc, char *argv[])
         }
         return runScript(parser, errors);
     } catch (const UsageError &error) {
-        errors << error.what() << Qt::endl << QStringLiteral("Voir : usmira-outil --aide") << Qt::endl;
+        errors << error.what() << Qt::endl
+               << QStringLiteral("Voir : usmira-outil --aide") << Qt::endl;
         return BadUsage;
     } catch (const UsmiraError &error) {
         ScriptPrompts prompts(errors, std::nullopt);

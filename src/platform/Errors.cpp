@@ -1,10 +1,10 @@
 #include "platform/Errors.h"
 
 FileError::FileError(Operation operation, const QString &path, const QString &systemText)
-    : UsmiraError(QStringLiteral("%1 \"%2\": %3")
-                      .arg(operation == Operation::Read ? QStringLiteral("read")
-                                                        : QStringLiteral("write"),
-                           path, systemText)),
+    : UsmiraError(
+          QStringLiteral("%1 \"%2\": %3")
+              .arg(operation == Operation::Read ? QStringLiteral("read") : QStringLiteral("write"),
+                   path, systemText)),
       m_operation(operation), m_path(path)
 {
 }

@@ -118,7 +118,8 @@ void AdventureCommands::Open()
 {
     if (!LeaveAdventure())
         return;
-    const QString path = m_prompts.openName(QStringLiteral("Ouvrir une Aventure"), adventureFilter());
+    const QString path =
+        m_prompts.openName(QStringLiteral("Ouvrir une Aventure"), adventureFilter());
     if (path.isEmpty() || !OpenAdventure(path))
         showAgain();
 }
@@ -245,7 +246,6 @@ bool AdventureCommands::mayReplace()
 
 void AdventureCommands::swapFailed()
 {
-    m_prompts.message(
-        QStringLiteral("Fichier enregistré, incapable d'échanger avec l'original."),
-        QStringLiteral("BUG"), Prompts::Buttons::Ok);
+    m_prompts.message(QStringLiteral("Fichier enregistré, incapable d'échanger avec l'original."),
+                      QStringLiteral("BUG"), Prompts::Buttons::Ok);
 }

@@ -100,10 +100,10 @@ qint32 writeSection(ByteWriter &out, const Variables &variables, int n)
 void compare(const AdventureContents &read, const Variables &variables,
              const std::array<qint32, 2001> &offsets, qint64 size)
 {
-    bool same = read.lowest == variables.LowestWritten && read.highest == variables.HighestWritten &&
-                read.current == variables.CurrentParagraph &&
-                read.targetPhrase == variables.TargetPhrase && read.sectionOffset == offsets &&
-                read.file->size() == size;
+    bool same =
+        read.lowest == variables.LowestWritten && read.highest == variables.HighestWritten &&
+        read.current == variables.CurrentParagraph && read.targetPhrase == variables.TargetPhrase &&
+        read.sectionOffset == offsets && read.file->size() == size;
     for (std::size_t n = 0; same && n < offsets.size(); ++n) {
         const bool inRange = offsets.at(n) != 0;
         same = (read.written.at(n) == 1) == inRange &&

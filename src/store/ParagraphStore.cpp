@@ -55,8 +55,7 @@ QString filePrefixOf(const QString &adventureFileName)
 
 QString workingFilePath(const Variables &variables, int n)
 {
-    return variables.WorkingFolder + variables.FilePrefix + fourDigits(n) +
-           QStringLiteral(".rtf");
+    return variables.WorkingFolder + variables.FilePrefix + fourDigits(n) + QStringLiteral(".rtf");
 }
 
 QByteArray GetParagraphRtf(const Variables &variables, int n)

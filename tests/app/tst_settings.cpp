@@ -12,9 +12,10 @@ private Q_SLOTS:
     {
         TestAdventure folder;
         writeSettings(folder.path(QStringLiteral("s")), Variables(), {16200, 10800, -30, 0});
-        QCOMPARE(folder.content(QStringLiteral("s")),
-                 QByteArray("#FALSE#,#FALSE#,#FALSE#,0\r\n#FALSE#,#FALSE#,#FALSE#,0\r\n#FALSE#,0\r\n"
-                            "16200,10800,-30,0\r\n\"Times New Roman\"\r\n12\r\n"));
+        QCOMPARE(
+            folder.content(QStringLiteral("s")),
+            QByteArray("#FALSE#,#FALSE#,#FALSE#,0\r\n#FALSE#,#FALSE#,#FALSE#,0\r\n#FALSE#,0\r\n"
+                       "16200,10800,-30,0\r\n\"Times New Roman\"\r\n12\r\n"));
     }
 
     void whatIsWrittenIsReadBack()
@@ -50,7 +51,8 @@ private Q_SLOTS:
             QStringLiteral("100 1 Times New Roman 12 200x300+5+6"));
         row("nonsense numbers", "#TRUE#\n\n\n-5,1e9,3,4\n\"\"\n0\n",
             QStringLiteral("100 0 Times New Roman 12 100x50+5+6"));
-        row("endless", QByteArray(100000, 'x'), QStringLiteral("000 0 Times New Roman 12 100x50+5+6"));
+        row("endless", QByteArray(100000, 'x'),
+            QStringLiteral("000 0 Times New Roman 12 100x50+5+6"));
         row("font and size", "\n\n\n\n\"Arial\"\n9\n", QStringLiteral("000 0 Arial 9 100x50+5+6"));
     }
     void whatCannotBeReadKeepsItsDefaultToTheEndOfItsLine()

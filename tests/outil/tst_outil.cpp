@@ -43,7 +43,8 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QString &line, const QStringList &words) {
             QTest::newRow(name) << line << words;
         };
-        row("blanks", QStringLiteral("  rtf \t 12 "), {QStringLiteral("rtf"), QStringLiteral("12")});
+        row("blanks", QStringLiteral("  rtf \t 12 "),
+            {QStringLiteral("rtf"), QStringLiteral("12")});
         row("double quotes", QStringLiteral("a \"b \\\"c\\\\\" d"),
             {QStringLiteral("a"), QStringLiteral("b \"c\\"), QStringLiteral("d")});
         row("single quotes", QStringLiteral("'a \\b'c"), {QStringLiteral("a \\bc")});
@@ -61,11 +62,12 @@ private Q_SLOTS:
     {
         TestAdventure adventure;
         adventure.file(QStringLiteral("t.rtf"), rtfOf(QStringLiteral("Va au 2 ou au 9")));
-        const QByteArray script = "nouvelle '" + adventure.path(QStringLiteral("Le Loup.usm")).toUtf8() +
-                                  "'\ntexte 5 '" + adventure.path(QStringLiteral("t.rtf")).toUtf8() +
-                                  "'\ntexte 7 '" + adventure.path(QStringLiteral("t.rtf")).toUtf8() +
-                                  "'\neffacer 7\nfixe 5 1\nenregistrer\nmene 9\nlibre 8\n"
-                                  "texte-brut 5\netat\n";
+        const QByteArray script =
+            "nouvelle '" + adventure.path(QStringLiteral("Le Loup.usm")).toUtf8() + "'\ntexte 5 '" +
+            adventure.path(QStringLiteral("t.rtf")).toUtf8() + "'\ntexte 7 '" +
+            adventure.path(QStringLiteral("t.rtf")).toUtf8() +
+            "'\neffacer 7\nfixe 5 1\nenregistrer\nmene 9\nlibre 8\n"
+            "texte-brut 5\netat\n";
         const Outcome outcome = run(adventure, {}, script);
         QCOMPARE(outcome.errors, QString());
         QCOMPARE(outcome.status, 0);
@@ -137,9 +139,9 @@ private Q_SLOTS:
         const QByteArray bytes = AdventureBuilder({QStringLiteral("1: Fin")}).bytes();
         const QString path = adventure.file(QStringLiteral("a.usm"), bytes);
         const QString open = QStringLiteral("ouvrir ") + path;
-        const Outcome outcome = run(adventure, {answer, QStringLiteral("-e"), open,
-                                                QStringLiteral("-e"), QStringLiteral("effacer 1"),
-                                                QStringLiteral("-e"), open});
+        const Outcome outcome =
+            run(adventure, {answer, QStringLiteral("-e"), open, QStringLiteral("-e"),
+                            QStringLiteral("effacer 1"), QStringLiteral("-e"), open});
         QCOMPARE(outcome.status, 0);
         QCOMPARE(adventure.content(QStringLiteral("a.usm")) != bytes, saved);
     }

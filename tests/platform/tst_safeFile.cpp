@@ -26,8 +26,8 @@ class tst_safeFile : public QObject
     QByteArray content(const QString &name) const { return readWholeFile(path(name), 1000); }
     QStringList names() const
     {
-        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::System |
-                                                QDir::NoDotAndDotDot);
+        return QDir(m_folder->path())
+            .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
     }
 
 private Q_SLOTS:
@@ -87,7 +87,8 @@ private Q_SLOTS:
         for (const auto &name : {QStringLiteral("pipe"), QStringLiteral("folder")}) {
             QVERIFY_THROWS_EXCEPTION(FileError, readWholeFile(path(name), 1000));
             QVERIFY_THROWS_EXCEPTION(FileError, OpenedFile(path(name)));
-            QVERIFY_THROWS_EXCEPTION(FileError, writeWholeFile(path(name), "x", Durability::Data, Links::Follow));
+            QVERIFY_THROWS_EXCEPTION(
+                FileError, writeWholeFile(path(name), "x", Durability::Data, Links::Follow));
         }
     }
 
@@ -95,7 +96,8 @@ private Q_SLOTS:
     {
         const QString source = written(QStringLiteral("new"), "new");
         const QString target = written(QStringLiteral("old"), "old");
-        QVERIFY_THROWS_EXCEPTION(FileError, moveIntoPlace(source, path(QStringLiteral("none/old"))));
+        QVERIFY_THROWS_EXCEPTION(FileError,
+                                 moveIntoPlace(source, path(QStringLiteral("none/old"))));
         QCOMPARE(content(QStringLiteral("new")), QByteArray("new"));
         QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
         moveIntoPlace(source, target);

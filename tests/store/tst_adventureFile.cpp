@@ -12,8 +12,8 @@ class tst_adventureFile : public QObject
 
     static AdventureContents read(const TestAdventure &adventure, const QByteArray &bytes)
     {
-        return readAdventure(std::make_shared<OpenedFile>(
-            adventure.file(QStringLiteral("a.usm"), bytes)));
+        return readAdventure(
+            std::make_shared<OpenedFile>(adventure.file(QStringLiteral("a.usm"), bytes)));
     }
     static QList<int> writtenIn(const std::array<quint8, 2002> &written)
     {
@@ -163,8 +163,7 @@ private Q_SLOTS:
         QByteArray bytes = AdventureBuilder({QStringLiteral("3: ancien")}).bytes();
         QByteArray second = AdventureBuilder({QStringLiteral("3: nouveau")}).bytes();
         bytes.chop(4);
-        takeOver(adventure.variables,
-                 read(adventure, bytes + second.mid(second.indexOf("SECT"))));
+        takeOver(adventure.variables, read(adventure, bytes + second.mid(second.indexOf("SECT"))));
         QCOMPARE(GetParagraphRtf(adventure.variables, 3), rtfOf(QStringLiteral("nouveau")));
     }
 
@@ -181,7 +180,7 @@ private Q_SLOTS:
         TestAdventure adventure;
         QByteArray bytes = small().oldBytes(24);
         const qsizetype offsets = 8 + 96;
-        bytes.replace(offsets + 4 * 500, 4, QByteArray("\x00\x00\x00\x01", 4)); // 499 falls
+        bytes.replace(offsets + 4 * 500, 4, QByteArray("\x00\x00\x00\x01", 4));  // 499 falls
         bytes.replace(offsets + 4 * 1000, 4, QByteArray("\xFF\xFF\xFF\xFF", 4)); // 999 is far
         takeOver(adventure.variables, read(adventure, bytes));
         QCOMPARE(adventure.variables.Written[499], quint8{0});

@@ -1,7 +1,7 @@
-#include "store/ReferenceIndex.h"
-#include "store/AdventureFile.h"
-#include "support/AdventureBuilder.h"
 #include "platform/OpenedFile.h"
+#include "store/AdventureFile.h"
+#include "store/ReferenceIndex.h"
+#include "support/AdventureBuilder.h"
 
 #include <QTest>
 
