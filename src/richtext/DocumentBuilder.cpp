@@ -12,8 +12,14 @@ QTextListFormat bulletListFormat()
 }
 
 DocumentBuilder::DocumentBuilder(const QTextCursor &cursor, const QFont &base)
+    : DocumentBuilder(cursor, base, cursor.blockFormat())
+{
+}
+
+DocumentBuilder::DocumentBuilder(const QTextCursor &cursor, const QFont &base,
+                                 const QTextBlockFormat &formatBehind)
     : m_cursor(cursor), m_base(base), m_takesLastFormat(cursor.block().length() == 1),
-      m_formatBehind(cursor.blockFormat()), m_format(m_formatState.toFormat(base)),
+      m_formatBehind(formatBehind), m_format(m_formatState.toFormat(base)),
       m_blockState(ParagraphState::of(cursor.block()))
 {
 }

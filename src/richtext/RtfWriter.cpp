@@ -96,12 +96,13 @@ void Writer::writeBlock(const QTextBlock &block, int from, int to)
     ParagraphState state = ParagraphState::of(block);
     state.settleBullet();
     m_anyBullet = m_anyBullet || state.bullet;
-    const bool wholeIsEmpty = from == to && !m_paragraph && block.next() == QTextBlock();
+    const bool isOnly = block.length() == 1 && block.document()->blockCount() == 1;
     startParagraph(state);
     if (from == to) {
-        writeCharState(wholeIsEmpty && block.blockNumber() == 0
-                           ? CharState::plain(m_base)
-                           : CharState::of(block.charFormat(), m_base));
+        const CharState chars =
+            isOnly ? CharState::plain(m_base) : CharState::of(block.charFormat(), m_base);
+        if (m_chars != chars)
+            writeCharState(chars);
         return;
     }
     for (auto it = block.begin(); !it.atEnd(); ++it) {
