@@ -120,7 +120,7 @@ void Flattener::endParagraph()
 QByteArray rtfOf(const QMimeData &data)
 {
     for (const char *type : rtfTypes) {
-        const QByteArray rtf = data.data(QString::fromLatin1(type));
+        QByteArray rtf = data.data(QString::fromLatin1(type));
         if (!rtf.isEmpty())
             return rtf;
     }

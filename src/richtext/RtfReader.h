@@ -17,7 +17,7 @@
 class RtfReader
 {
 public:
-    static constexpr qsizetype MaxBytes = 32 * 1024 * 1024;
+    static constexpr qsizetype MaxBytes = 32LL * 1024 * 1024;
     static constexpr int MaxDepth = 1000;
 
     // Throws FormatError when the bytes do not begin with {\rtf, a byte order mark aside, or are

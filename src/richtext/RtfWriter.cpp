@@ -141,7 +141,8 @@ void Writer::startParagraph(const ParagraphState &state)
 
 void Writer::writeText(const QString &text, const CharState &state)
 {
-    for (const QChar c : cleanedText(text)) {
+    const QString cleaned = cleanedText(text);
+    for (const QChar c : cleaned) {
         if (m_chars != state)
             writeCharState(state);
         writeChar(c, state);
@@ -192,7 +193,8 @@ void Writer::writeCharState(const CharState &state)
 QByteArray escapedFontName(const QString &name)
 {
     QByteArray bytes;
-    for (const QChar c : cleanedText(name).remove(u'\n').remove(u'\t')) {
+    const QString oneLine = cleanedText(name).remove(u'\n').remove(u'\t');
+    for (const QChar c : oneLine) {
         if (isAsciiText(c) && c != u';')
             bytes += c.toLatin1();
         else
