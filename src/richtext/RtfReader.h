@@ -1,8 +1,9 @@
 #pragma once
 
-#include "richtext/CodePage.h"
 #include "richtext/RtfHandler.h"
+#include "richtext/RtfState.h"
 #include "richtext/RtfTables.h"
+#include "richtext/RtfText.h"
 #include "richtext/RtfTokenizer.h"
 #include "richtext/RtfWords.h"
 
@@ -27,18 +28,9 @@ public:
     void read(RtfHandler &handler);
 
 private:
-    enum class Content { Body, Fonts, Colours, OldList, PlainPair };
+    using Content = RtfState::Content;
 
-    struct State {
-        CharState chars;
-        ParagraphState paragraph;
-        int page = 0; // of the font; 0: the document's
-        int fallback = 1;
-        bool hidden = false;
-        Content content = Content::Body;
-    };
-
-    State &state() { return m_states.back(); }
+    RtfState &state() { return m_states.back(); }
     bool readToken();
     void openGroup();
     bool closeGroup();
@@ -47,9 +39,8 @@ private:
 
     void word(const RtfToken &token);
     bool textWord(const RtfWord &word, const RtfToken &token);
-    bool charWord(const RtfWord &word, const RtfToken &token);
-    bool paragraphWord(const RtfWord &word, const RtfToken &token);
     bool tableWord(const RtfWord &word, const RtfToken &token);
+    bool headerWord(const RtfWord &word, const RtfToken &token);
     void groupWord(const RtfWord &word);
     void symbol(char c);
     void text(QByteArrayView bytes);
@@ -58,9 +49,8 @@ private:
     void selectFont(int number);
     void enter(Content content);
     void listLabel();
-    void character(char16_t c);
+    int page() const;
     void unicode(int code);
-    void decodeBytes();
     void flush();
     void emitText(QStringView text);
     void endParagraph();
@@ -68,18 +58,16 @@ private:
 
     RtfTokenizer m_tokens;
     RtfHandler *m_handler = nullptr;
-    CodePage m_codePage;
     RtfFontTable m_fonts;
     RtfColourTable m_colours;
-    std::vector<State> m_states;
-    State m_last; // at the last text: what a paragraph without an end has
+    std::vector<RtfState> m_states;
+    RtfState m_last; // at the last text: what a paragraph without an end has
     int m_flatDepth = 0;
     int m_documentPage = CodePage::Windows1252;
     int m_defaultFont = 0;
     int m_fallbackLeft = 0;
     bool m_starred = false; // the group began with \*
-    QByteArray m_bytes;     // text not yet decoded, all of one code page
-    QString m_text;         // decoded text not yet handed on, all of one state
+    RtfText m_text;         // not yet handed on, all of one formatting
     bool m_paragraphHasText = false;
     bool m_anyParagraph = false;
     bool m_bulletLabel = false;
