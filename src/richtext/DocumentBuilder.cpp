@@ -3,6 +3,13 @@
 #include <QTextDocument>
 #include <QTextList>
 
+namespace
+{
+// A list marks all its items as changed for each one that joins. Bullets look the same in whatever
+// list they are, so long runs of them are cut into several.
+constexpr int longestList = 64;
+} // namespace
+
 QTextListFormat bulletListFormat()
 {
     QTextListFormat format;
@@ -51,9 +58,15 @@ void DocumentBuilder::startParagraph()
     if (!m_ended)
         return;
     applyEnd();
-    m_cursor.insertBlock(m_takesLastFormat ? m_cursor.blockFormat() : m_formatBehind,
-                         format(m_endChars));
-    if (!m_takesLastFormat)
+    QTextBlockFormat next = m_takesLastFormat ? m_cursor.blockFormat() : m_formatBehind;
+    const bool listIsFull =
+        m_takesLastFormat && m_list != nullptr && m_list->count() >= longestList;
+    if (listIsFull) {
+        next.setObjectIndex(-1);
+        m_list = nullptr;
+    }
+    m_cursor.insertBlock(next, format(m_endChars));
+    if (listIsFull || !m_takesLastFormat)
         m_blockState = ParagraphState::of(m_cursor.block());
     m_ended = false;
 }

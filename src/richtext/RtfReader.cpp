@@ -1,7 +1,6 @@
 #include "richtext/RtfReader.h"
 
 #include "platform/Errors.h"
-#include "richtext/RtfListLabel.h"
 
 #include <algorithm>
 #include <array>
@@ -26,11 +25,15 @@ RtfReader::RtfReader(QByteArrayView rtf) : m_tokens(withoutByteOrderMark(rtf))
 
 void RtfReader::read(RtfHandler &handler)
 {
-    m_handler = &handler;
+    RtfParagraphs paragraphs(handler);
+    m_paragraphs = &paragraphs;
     m_tokens.next(); // the opening brace of the whole
     while (readToken())
         continue;
-    finish();
+    flush();
+    paragraphs.addText(m_text.takeLast(), state());
+    paragraphs.finish(state());
+    m_paragraphs = nullptr;
 }
 
 bool RtfReader::readToken()
@@ -162,7 +165,7 @@ bool RtfReader::textWord(const RtfWord &word, const RtfToken &token)
         return true;
     case RtfAction::BreakIfText:
         flush();
-        if (m_paragraphHasText)
+        if (m_paragraphs->hasText())
             endParagraph();
         return true;
     default:
@@ -272,11 +275,14 @@ void RtfReader::enter(Content content)
         state().content = content;
 }
 
+// Labels within a label that is kept are not looked at again: each look goes to the end of a group.
 void RtfReader::listLabel()
 {
+    if (m_states.size() == 1 || state().inLabel)
+        return;
+    state().inLabel = true;
     const RtfListLabel label = rtfListLabel(m_tokens);
-    m_bulletLabel = m_bulletLabel || label == RtfListLabel::Bullet;
-    m_numberLabel = m_numberLabel || label == RtfListLabel::Number;
+    m_paragraphs->addLabel(label);
     if (label == RtfListLabel::Bullet)
         skipGroup();
 }
@@ -370,50 +376,13 @@ void RtfReader::flush()
     if (state().content == Content::Fonts)
         m_fonts.addToName(text);
     else if (state().content == Content::Body && !state().hidden)
-        emitText(text);
-}
-
-void RtfReader::emitText(QStringView text)
-{
-    while (!text.isEmpty()) {
-        const qsizetype end = text.indexOf(u'\n');
-        const QStringView part = end < 0 ? text : text.first(end);
-        if (!part.isEmpty()) {
-            m_handler->text(part, state().chars);
-            m_paragraphHasText = true;
-            m_last = state();
-        }
-        if (end < 0)
-            return;
-        endParagraph();
-        text = text.sliced(end + 1);
-    }
+        m_paragraphs->addText(text, state());
 }
 
 void RtfReader::endParagraph()
 {
     if (state().content != Content::Body || state().hidden)
         return;
-    emitText(m_text.takeLast());
-    ParagraphState paragraph = state().paragraph;
-    paragraph.bullet = !m_numberLabel && (paragraph.bullet || m_bulletLabel);
-    paragraph.settleBullet();
-    m_handler->paragraphEnd(paragraph, state().chars);
-    m_anyParagraph = true;
-    m_paragraphHasText = false;
-    m_bulletLabel = false;
-    m_numberLabel = false;
-}
-
-void RtfReader::finish()
-{
-    flush();
-    state().content = Content::Body;
-    state().hidden = false;
-    emitText(m_text.takeLast());
-    if (m_paragraphHasText)
-        state() = m_last;
-    else if (m_anyParagraph)
-        return;
-    endParagraph();
+    m_paragraphs->addText(m_text.takeLast(), state());
+    m_paragraphs->end(state());
 }

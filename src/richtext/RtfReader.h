@@ -1,6 +1,6 @@
 #pragma once
 
-#include "richtext/RtfHandler.h"
+#include "richtext/RtfParagraphs.h"
 #include "richtext/RtfState.h"
 #include "richtext/RtfTables.h"
 #include "richtext/RtfText.h"
@@ -25,6 +25,7 @@ public:
     // more than MaxBytes. The bytes must outlive the reader.
     explicit RtfReader(QByteArrayView rtf);
 
+    // Once only: the text is read as it goes.
     void read(RtfHandler &handler);
 
 private:
@@ -52,24 +53,17 @@ private:
     int page() const;
     void unicode(int code);
     void flush();
-    void emitText(QStringView text);
     void endParagraph();
-    void finish();
 
     RtfTokenizer m_tokens;
-    RtfHandler *m_handler = nullptr;
+    RtfParagraphs *m_paragraphs = nullptr; // of the reading that is going on
     RtfFontTable m_fonts;
     RtfColourTable m_colours;
     std::vector<RtfState> m_states;
-    RtfState m_last; // at the last text: what a paragraph without an end has
     int m_flatDepth = 0;
     int m_documentPage = CodePage::Windows1252;
     int m_defaultFont = 0;
     int m_fallbackLeft = 0;
     bool m_starred = false; // the group began with \*
     RtfText m_text;         // not yet handed on, all of one formatting
-    bool m_paragraphHasText = false;
-    bool m_anyParagraph = false;
-    bool m_bulletLabel = false;
-    bool m_numberLabel = false;
 };

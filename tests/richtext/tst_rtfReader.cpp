@@ -4,6 +4,8 @@
 #include "richtext/RtfReader.h"
 
 #include <QTest>
+#include <QTextBlock>
+#include <QTextList>
 
 namespace
 {
@@ -79,6 +81,7 @@ private Q_SLOTS:
     void notRtfIsRefused();
     void deepNestingKeepsText();
     void fontTableIsBounded();
+    void longListsAreCut();
     void everyPrefixIsReadOrRefused();
 };
 
@@ -130,6 +133,7 @@ void TestRtfReader::bodyGivesText_data()
     row("surplus brace ends the text", "a}b", QStringLiteral("a"));
     row("number label is text", "{\\listtext 1.\\tab}\\ls1 a", QStringLiteral("1.\ta"));
     row("bullet label is none", "{\\listtext\\'95\\tab}\\ls1 a", QString(u'a'));
+    row("label within a label", "{\\listtext 1.{\\listtext\\'95} }a", QStringLiteral("1.• a"));
     row("items in a label", "{\\listtext a\\par}{\\listtext b\\par}", QStringLiteral("a\r\nb"));
     row("double byte", "\\f2 \\'93\\'fa{\\f2 \\'83A}", QStringLiteral("日ア"));
     row("font page", "\\f1 \\'cf\\f0 \\'e9", QStringLiteral("Пé"));
@@ -261,6 +265,21 @@ void TestRtfReader::fontTableIsBounded()
         table += "{\\f" + QByteArray::number(i) + " F" + QByteArray::number(i) + ";}";
     const QByteArray rtf = "{\\rtf1{\\fonttbl" + table + "}\\f4095 a\\f4096 b}";
     QCOMPARE(recorded(rtf), QStringLiteral("[a F4095][b]"));
+}
+
+// A list takes time for all its items whenever one joins, so that a file of bullets only would
+// take the square of its length.
+void TestRtfReader::longListsAreCut()
+{
+    QByteArray body;
+    for (int i = 0; i < 1000; ++i)
+        body += "a\\par ";
+    HiddenBox box;
+    box.setRtf("{\\rtf1\\ls1 " + body + "}");
+    QCOMPARE(box.document()->blockCount(), 1000);
+    const QTextDocument &document = *box.document();
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        QVERIFY(block.textList() != nullptr && block.textList()->count() <= 64);
 }
 
 void TestRtfReader::everyPrefixIsReadOrRefused()
