@@ -115,7 +115,10 @@ QString CodePage::decode(QByteArrayView bytes, int page)
         return fromWindows1252(bytes);
     auto found = m_decoders.find(page);
     if (found == m_decoders.end())
-        found = m_decoders.try_emplace(page, converterName(page).constData()).first;
+        found =
+            m_decoders
+                .try_emplace(page, converterName(page).constData(), QStringDecoder::Flag::Stateless)
+                .first;
     QStringDecoder &decoder = found->second;
     if (!decoder.isValid())
         return fromWindows1252(bytes);

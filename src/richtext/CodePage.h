@@ -28,7 +28,8 @@ public:
     // The page that goes with the \fcharset of a font; 0 when the document's own page applies.
     static int fromFontCharset(int charset);
 
-    // An unknown page is read as Windows-1252. Bytes that mean nothing in the page become U+FFFD.
+    // An unknown page is read as Windows-1252. Bytes that mean nothing in the page become U+FFFD; a
+    // character cut in two at the end is left out.
     QString decode(QByteArrayView bytes, int page);
 
 private:

@@ -3,6 +3,13 @@
 #include <QTextDocument>
 #include <QTextList>
 
+namespace
+{
+// A list marks all its items as changed for each one that joins. Bullets look the same in whatever
+// list they are, so long runs of them are cut into several.
+constexpr int longestList = 64;
+} // namespace
+
 QTextListFormat bulletListFormat()
 {
     QTextListFormat format;
@@ -12,8 +19,14 @@ QTextListFormat bulletListFormat()
 }
 
 DocumentBuilder::DocumentBuilder(const QTextCursor &cursor, const QFont &base)
+    : DocumentBuilder(cursor, base, cursor.blockFormat())
+{
+}
+
+DocumentBuilder::DocumentBuilder(const QTextCursor &cursor, const QFont &base,
+                                 const QTextBlockFormat &formatBehind)
     : m_cursor(cursor), m_base(base), m_takesLastFormat(cursor.block().length() == 1),
-      m_formatBehind(cursor.blockFormat()), m_format(m_formatState.toFormat(base)),
+      m_formatBehind(formatBehind), m_format(m_formatState.toFormat(base)),
       m_blockState(ParagraphState::of(cursor.block()))
 {
 }
@@ -45,9 +58,15 @@ void DocumentBuilder::startParagraph()
     if (!m_ended)
         return;
     applyEnd();
-    m_cursor.insertBlock(m_takesLastFormat ? m_cursor.blockFormat() : m_formatBehind,
-                         format(m_endChars));
-    if (!m_takesLastFormat)
+    QTextBlockFormat next = m_takesLastFormat ? m_cursor.blockFormat() : m_formatBehind;
+    const bool listIsFull =
+        m_takesLastFormat && m_list != nullptr && m_list->count() >= longestList;
+    if (listIsFull) {
+        next.setObjectIndex(-1);
+        m_list = nullptr;
+    }
+    m_cursor.insertBlock(next, format(m_endChars));
+    if (listIsFull || !m_takesLastFormat)
         m_blockState = ParagraphState::of(m_cursor.block());
     m_ended = false;
 }

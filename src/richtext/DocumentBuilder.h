@@ -14,6 +14,9 @@ class DocumentBuilder : public RtfHandler
 {
 public:
     DocumentBuilder(const QTextCursor &cursor, const QFont &base);
+    // formatBehind: what the text behind the cursor gets, if it gets a paragraph of its own.
+    DocumentBuilder(const QTextCursor &cursor, const QFont &base,
+                    const QTextBlockFormat &formatBehind);
 
     void text(QStringView text, const CharState &state) override;
     void paragraphEnd(const ParagraphState &state, const CharState &chars) override;

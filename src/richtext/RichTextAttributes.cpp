@@ -242,8 +242,10 @@ void RichTextBox::setSelRightIndent(double centimetres)
 void RichTextBox::setSelTabs(const QList<double> &centimetres)
 {
     ParagraphState sorted;
-    for (const double position : centimetres)
-        sorted.addTab(twipsOfCentimetres(position));
+    for (const double position : centimetres) {
+        if (position * Twips::PerCentimetre <= ParagraphState::MaxTwips)
+            sorted.addTab(twipsOfCentimetres(position));
+    }
     QList<QTextOption::Tab> tabs;
     for (const int tab : sorted.tabs)
         tabs.append(QTextOption::Tab(pixelsOfTwips(tab), QTextOption::LeftTab));

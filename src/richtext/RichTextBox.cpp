@@ -8,6 +8,7 @@
 #include "richtext/TextCleaning.h"
 #include "richtext/TextPositions.h"
 
+#include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
 
@@ -160,9 +161,11 @@ void RichTextBox::setSelRtf(const QByteArray &rtf)
     }
     RtfReader reader(rtf);
     QTextCursor selection = cursor();
+    const QTextBlock last = document()->findBlock(selection.selectionEnd());
+    const QTextBlockFormat formatBehind = last.blockFormat();
     selection.beginEditBlock();
     selection.removeSelectedText();
-    DocumentBuilder builder(selection, m_baseFont);
+    DocumentBuilder builder(selection, m_baseFont, formatBehind);
     reader.read(builder);
     const QTextCursor behind = builder.finish();
     selection.endEditBlock();

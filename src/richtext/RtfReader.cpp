@@ -1,8 +1,6 @@
 #include "richtext/RtfReader.h"
 
 #include "platform/Errors.h"
-#include "richtext/RtfListLabel.h"
-#include "richtext/TextCleaning.h"
 
 #include <algorithm>
 #include <array>
@@ -13,16 +11,6 @@ namespace
 QByteArrayView withoutByteOrderMark(QByteArrayView rtf)
 {
     return rtf.startsWith("\xef\xbb\xbf") ? rtf.sliced(3) : rtf;
-}
-
-bool isOn(const RtfToken &token)
-{
-    return !token.hasNumber || token.number != 0;
-}
-
-int bounded(int twips)
-{
-    return std::clamp(twips, -ParagraphState::MaxTwips, ParagraphState::MaxTwips);
 }
 } // namespace
 
@@ -37,11 +25,15 @@ RtfReader::RtfReader(QByteArrayView rtf) : m_tokens(withoutByteOrderMark(rtf))
 
 void RtfReader::read(RtfHandler &handler)
 {
-    m_handler = &handler;
+    RtfParagraphs paragraphs(handler);
+    m_paragraphs = &paragraphs;
     m_tokens.next(); // the opening brace of the whole
     while (readToken())
         continue;
-    finish();
+    flush();
+    paragraphs.addText(m_text.takeLast(), state());
+    paragraphs.finish(state());
+    m_paragraphs = nullptr;
 }
 
 bool RtfReader::readToken()
@@ -64,7 +56,7 @@ bool RtfReader::readToken()
         symbol(token.byte);
         break;
     case RtfToken::Kind::Hex:
-        m_bytes += token.byte;
+        m_text.addByte(token.byte);
         break;
     case RtfToken::Kind::Text:
         text(token.bytes);
@@ -149,16 +141,17 @@ void RtfReader::word(const RtfToken &token)
     if (textWord(*known, token))
         return;
     flush();
-    if (charWord(*known, token) || paragraphWord(*known, token) || tableWord(*known, token))
-        return;
-    groupWord(*known);
+    RtfState &now = state();
+    if (!now.takeCharWord(*known, token) && !now.takeParagraphWord(*known, token) &&
+        !tableWord(*known, token) && !headerWord(*known, token))
+        groupWord(*known);
 }
 
 bool RtfReader::textWord(const RtfWord &word, const RtfToken &token)
 {
     switch (word.action) {
     case RtfAction::Character:
-        character(static_cast<char16_t>(word.value));
+        m_text.addCharacter(QChar(word.value), page());
         return true;
     case RtfAction::Unicode:
         unicode(token.number);
@@ -172,84 +165,8 @@ bool RtfReader::textWord(const RtfWord &word, const RtfToken &token)
         return true;
     case RtfAction::BreakIfText:
         flush();
-        if (m_paragraphHasText)
+        if (m_paragraphs->hasText())
             endParagraph();
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool RtfReader::charWord(const RtfWord &word, const RtfToken &token)
-{
-    State &now = state();
-    switch (word.action) {
-    case RtfAction::Plain:
-        now.chars = CharState();
-        now.hidden = false;
-        selectFont(m_defaultFont);
-        return true;
-    case RtfAction::Bold:
-        now.chars.bold = isOn(token);
-        return true;
-    case RtfAction::Italic:
-        now.chars.italic = isOn(token);
-        return true;
-    case RtfAction::Underline:
-        now.chars.underline = isOn(token);
-        return true;
-    case RtfAction::NoUnderline:
-        now.chars.underline = false;
-        return true;
-    case RtfAction::Strike:
-        now.chars.strike = isOn(token);
-        return true;
-    case RtfAction::Hidden:
-        now.hidden = isOn(token);
-        return true;
-    case RtfAction::Size:
-        if (token.number > 0)
-            now.chars.halfPoints = std::clamp(token.number, 2, CharState::MaxHalfPoints);
-        return true;
-    case RtfAction::Colour:
-        now.chars.colour = m_colours.colour(token.number);
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool RtfReader::paragraphWord(const RtfWord &word, const RtfToken &token)
-{
-    static constexpr std::array alignments = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
-    ParagraphState &now = state().paragraph;
-    switch (word.action) {
-    case RtfAction::Pard:
-        now = ParagraphState();
-        return true;
-    case RtfAction::Align:
-        now.alignment = alignments.at(static_cast<std::size_t>(word.value));
-        return true;
-    case RtfAction::Left:
-        now.left = bounded(token.number);
-        return true;
-    case RtfAction::First:
-        now.first = bounded(token.number);
-        return true;
-    case RtfAction::Right:
-        now.right = bounded(token.number);
-        return true;
-    case RtfAction::Tab:
-        now.addTab(token.number);
-        return true;
-    case RtfAction::List:
-        now.bullet = token.number > 0;
-        return true;
-    case RtfAction::BulletLevel:
-    case RtfAction::NumberLevel:
-        // The definition stands in a group of its own and counts for the text around it.
-        if (state().content == Content::OldList && m_states.size() > 1)
-            m_states[m_states.size() - 2].paragraph.bullet = word.action == RtfAction::BulletLevel;
         return true;
     default:
         return false;
@@ -274,6 +191,28 @@ bool RtfReader::tableWord(const RtfWord &word, const RtfToken &token)
         if (inFonts && token.number > 0)
             m_fonts.setPage(token.number);
         return true;
+    case RtfAction::Plain:
+        state().chars = CharState();
+        state().hidden = false;
+        selectFont(m_defaultFont);
+        return true;
+    case RtfAction::Colour:
+        state().chars.colour = m_colours.colour(token.number);
+        return true;
+    case RtfAction::BulletLevel:
+    case RtfAction::NumberLevel:
+        // The definition stands in a group of its own and counts for the text around it.
+        if (state().content == Content::OldList && m_states.size() > 1)
+            m_states[m_states.size() - 2].paragraph.bullet = word.action == RtfAction::BulletLevel;
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool RtfReader::headerWord(const RtfWord &word, const RtfToken &token)
+{
+    switch (word.action) {
     case RtfAction::Red:
         m_colours.setRed(token.number);
         return true;
@@ -336,11 +275,14 @@ void RtfReader::enter(Content content)
         state().content = content;
 }
 
+// Labels within a label that is kept are not looked at again: each look goes to the end of a group.
 void RtfReader::listLabel()
 {
+    if (m_states.size() == 1 || state().inLabel)
+        return;
+    state().inLabel = true;
     const RtfListLabel label = rtfListLabel(m_tokens);
-    m_bulletLabel = m_bulletLabel || label == RtfListLabel::Bullet;
-    m_numberLabel = m_numberLabel || label == RtfListLabel::Number;
+    m_paragraphs->addLabel(label);
     if (label == RtfListLabel::Bullet)
         skipGroup();
 }
@@ -352,13 +294,13 @@ void RtfReader::symbol(char c)
         m_starred = true;
         break;
     case '~':
-        character(0x00a0);
+        m_text.addCharacter(QChar(0x00a0), page());
         break;
     case '-':
-        character(0x00ad);
+        m_text.addCharacter(QChar(0x00ad), page());
         break;
     case '_':
-        character(0x2011);
+        m_text.addCharacter(QChar(0x2011), page());
         break;
     case '\\':
     case '{':
@@ -366,7 +308,7 @@ void RtfReader::symbol(char c)
         text(QByteArrayView(&c, 1));
         break;
     case '\t':
-        character(u'\t');
+        m_text.addCharacter(QChar(u'\t'), page());
         break;
     default:
         break;
@@ -377,7 +319,7 @@ void RtfReader::text(QByteArrayView bytes)
 {
     m_starred = false;
     if (state().content == Content::Body)
-        m_bytes.append(bytes);
+        m_text.addBytes(bytes);
     else
         tableText(bytes);
 }
@@ -390,7 +332,7 @@ void RtfReader::tableText(QByteArrayView bytes)
         return;
     for (const char c : bytes) {
         if (c != ';') {
-            m_bytes += c;
+            m_text.addByte(c);
             continue;
         }
         flush();
@@ -408,90 +350,39 @@ void RtfReader::selectFont(int number)
     state().page = font.page;
 }
 
-void RtfReader::character(char16_t c)
+// The code page of the bytes that come here.
+int RtfReader::page() const
 {
-    decodeBytes();
-    m_text += QChar(c);
+    const bool inFonts = m_states.back().content == Content::Fonts;
+    const int page = inFonts ? m_fonts.page() : m_states.back().page;
+    return page != 0 ? page : m_documentPage;
 }
 
 void RtfReader::unicode(int code)
 {
-    decodeBytes();
     // The number is a signed 16-bit one.
     const int unit = code < 0 ? code + 0x10000 : code;
     const bool valid = unit >= 0 && unit <= 0xffff;
-    m_text += valid ? QChar(static_cast<char16_t>(unit)) : QChar(QChar::ReplacementCharacter);
+    m_text.addCharacter(valid ? QChar(unit) : QChar(QChar::ReplacementCharacter), page());
     m_fallbackLeft = state().fallback;
 }
 
-void RtfReader::decodeBytes()
-{
-    if (m_bytes.isEmpty())
-        return;
-    const bool inFonts = state().content == Content::Fonts;
-    const int page = inFonts ? m_fonts.page() : state().page;
-    m_text += m_codePage.decode(m_bytes, page != 0 ? page : m_documentPage);
-    m_bytes.clear();
-}
-
+// Hands on what was collected, before the formatting changes.
 void RtfReader::flush()
 {
-    decodeBytes();
-    if (m_text.isEmpty())
+    const QString text = m_text.take(page());
+    if (text.isEmpty())
         return;
-    // The other half of a character may follow in another group.
-    const bool half = m_text.back().isHighSurrogate();
-    const QString text = cleanedText(QStringView(m_text).chopped(half ? 1 : 0));
-    m_text = half ? m_text.right(1) : QString();
     if (state().content == Content::Fonts)
         m_fonts.addToName(text);
     else if (state().content == Content::Body && !state().hidden)
-        emitText(text);
-}
-
-void RtfReader::emitText(QStringView text)
-{
-    while (!text.isEmpty()) {
-        const qsizetype end = text.indexOf(u'\n');
-        const QStringView part = end < 0 ? text : text.first(end);
-        if (!part.isEmpty()) {
-            m_handler->text(part, state().chars);
-            m_paragraphHasText = true;
-            m_last = state();
-        }
-        if (end < 0)
-            return;
-        endParagraph();
-        text = text.sliced(end + 1);
-    }
+        m_paragraphs->addText(text, state());
 }
 
 void RtfReader::endParagraph()
 {
     if (state().content != Content::Body || state().hidden)
         return;
-    if (!m_text.isEmpty())
-        emitText(cleanedText(std::exchange(m_text, QString())));
-    ParagraphState paragraph = state().paragraph;
-    paragraph.bullet = !m_numberLabel && (paragraph.bullet || m_bulletLabel);
-    paragraph.settleBullet();
-    m_handler->paragraphEnd(paragraph, state().chars);
-    m_anyParagraph = true;
-    m_paragraphHasText = false;
-    m_bulletLabel = false;
-    m_numberLabel = false;
-}
-
-void RtfReader::finish()
-{
-    flush();
-    state().content = Content::Body;
-    state().hidden = false;
-    if (!m_text.isEmpty())
-        emitText(cleanedText(std::exchange(m_text, QString())));
-    if (m_paragraphHasText)
-        state() = m_last;
-    else if (m_anyParagraph)
-        return;
-    endParagraph();
+    m_paragraphs->addText(m_text.takeLast(), state());
+    m_paragraphs->end(state());
 }

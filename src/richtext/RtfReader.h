@@ -1,8 +1,9 @@
 #pragma once
 
-#include "richtext/CodePage.h"
-#include "richtext/RtfHandler.h"
+#include "richtext/RtfParagraphs.h"
+#include "richtext/RtfState.h"
 #include "richtext/RtfTables.h"
+#include "richtext/RtfText.h"
 #include "richtext/RtfTokenizer.h"
 #include "richtext/RtfWords.h"
 
@@ -17,28 +18,20 @@
 class RtfReader
 {
 public:
-    static constexpr qsizetype MaxBytes = 32 * 1024 * 1024;
+    static constexpr qsizetype MaxBytes = 32LL * 1024 * 1024;
     static constexpr int MaxDepth = 1000;
 
     // Throws FormatError when the bytes do not begin with {\rtf, a byte order mark aside, or are
     // more than MaxBytes. The bytes must outlive the reader.
     explicit RtfReader(QByteArrayView rtf);
 
+    // Once only: the text is read as it goes.
     void read(RtfHandler &handler);
 
 private:
-    enum class Content { Body, Fonts, Colours, OldList, PlainPair };
+    using Content = RtfState::Content;
 
-    struct State {
-        CharState chars;
-        ParagraphState paragraph;
-        int page = 0; // of the font; 0: the document's
-        int fallback = 1;
-        bool hidden = false;
-        Content content = Content::Body;
-    };
-
-    State &state() { return m_states.back(); }
+    RtfState &state() { return m_states.back(); }
     bool readToken();
     void openGroup();
     bool closeGroup();
@@ -47,9 +40,8 @@ private:
 
     void word(const RtfToken &token);
     bool textWord(const RtfWord &word, const RtfToken &token);
-    bool charWord(const RtfWord &word, const RtfToken &token);
-    bool paragraphWord(const RtfWord &word, const RtfToken &token);
     bool tableWord(const RtfWord &word, const RtfToken &token);
+    bool headerWord(const RtfWord &word, const RtfToken &token);
     void groupWord(const RtfWord &word);
     void symbol(char c);
     void text(QByteArrayView bytes);
@@ -58,30 +50,20 @@ private:
     void selectFont(int number);
     void enter(Content content);
     void listLabel();
-    void character(char16_t c);
+    int page() const;
     void unicode(int code);
-    void decodeBytes();
     void flush();
-    void emitText(QStringView text);
     void endParagraph();
-    void finish();
 
     RtfTokenizer m_tokens;
-    RtfHandler *m_handler = nullptr;
-    CodePage m_codePage;
+    RtfParagraphs *m_paragraphs = nullptr; // of the reading that is going on
     RtfFontTable m_fonts;
     RtfColourTable m_colours;
-    std::vector<State> m_states;
-    State m_last; // at the last text: what a paragraph without an end has
+    std::vector<RtfState> m_states;
     int m_flatDepth = 0;
     int m_documentPage = CodePage::Windows1252;
     int m_defaultFont = 0;
     int m_fallbackLeft = 0;
     bool m_starred = false; // the group began with \*
-    QByteArray m_bytes;     // text not yet decoded, all of one code page
-    QString m_text;         // decoded text not yet handed on, all of one state
-    bool m_paragraphHasText = false;
-    bool m_anyParagraph = false;
-    bool m_bulletLabel = false;
-    bool m_numberLabel = false;
+    RtfText m_text;         // not yet handed on, all of one formatting
 };

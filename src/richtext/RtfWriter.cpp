@@ -96,12 +96,13 @@ void Writer::writeBlock(const QTextBlock &block, int from, int to)
     ParagraphState state = ParagraphState::of(block);
     state.settleBullet();
     m_anyBullet = m_anyBullet || state.bullet;
-    const bool wholeIsEmpty = from == to && !m_paragraph && block.next() == QTextBlock();
+    const bool isOnly = block.length() == 1 && block.document()->blockCount() == 1;
     startParagraph(state);
     if (from == to) {
-        writeCharState(wholeIsEmpty && block.blockNumber() == 0
-                           ? CharState::plain(m_base)
-                           : CharState::of(block.charFormat(), m_base));
+        const CharState chars =
+            isOnly ? CharState::plain(m_base) : CharState::of(block.charFormat(), m_base);
+        if (m_chars != chars)
+            writeCharState(chars);
         return;
     }
     for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -140,7 +141,8 @@ void Writer::startParagraph(const ParagraphState &state)
 
 void Writer::writeText(const QString &text, const CharState &state)
 {
-    for (const QChar c : cleanedText(text)) {
+    const QString cleaned = cleanedText(text);
+    for (const QChar c : cleaned) {
         if (m_chars != state)
             writeCharState(state);
         writeChar(c, state);
@@ -191,7 +193,8 @@ void Writer::writeCharState(const CharState &state)
 QByteArray escapedFontName(const QString &name)
 {
     QByteArray bytes;
-    for (const QChar c : cleanedText(name).remove(u'\n').remove(u'\t')) {
+    const QString oneLine = cleanedText(name).remove(u'\n').remove(u'\t');
+    for (const QChar c : oneLine) {
         if (isAsciiText(c) && c != u';')
             bytes += c.toLatin1();
         else
