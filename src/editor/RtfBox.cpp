@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
-#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
@@ -81,6 +80,8 @@ bool RtfBox::event(QEvent *event)
 {
     if (event->type() == QEvent::Paint)
         QPainter(this).fillRect(rect(), surroundings(palette()));
+    else if (event->type() == QEvent::Resize)
+        centrePage();
     return QTextEdit::event(event);
 }
 
@@ -107,12 +108,6 @@ void RtfBox::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void RtfBox::resizeEvent(QResizeEvent *event)
-{
-    QTextEdit::resizeEvent(event);
-    centrePage();
-}
-
 // Left to itself, the edit would turn the bullet into an indent that no file keeps.
 bool RtfBox::takesBulletAway(const QKeyEvent &event) const
 {
@@ -121,13 +116,13 @@ bool RtfBox::takesBulletAway(const QKeyEvent &event) const
            caret.atBlockStart() && caret.block().textList() != nullptr;
 }
 
+// Goes by the width of the whole box alone. The viewport's own width depends on the result, and a
+// change of it from within its resize event is lost while the box is being shown.
 void RtfBox::centrePage()
 {
     const double column = QFontMetricsF(font()).averageCharWidth() * charactersPerLine;
     const int page = qRound(column) + 2 * pageMargin;
-    const QScrollBar *bar = verticalScrollBar();
-    const int room = contentsRect().width() - (bar->isVisibleTo(this) ? bar->width() : 0);
-    const int side = std::max(0, (room - page) / 2);
+    const int side = std::max(0, (contentsRect().width() - page) / 2);
     const int above = std::min(side, largestGapAbove);
     const QMargins margins(side, above, side, 0);
     if (viewportMargins() != margins)

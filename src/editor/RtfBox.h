@@ -39,7 +39,6 @@ protected:
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     bool takesBulletAway(const QKeyEvent &event) const;

@@ -198,14 +198,17 @@ void TestRtfBox::readOnlyTakesNothing()
 void TestRtfBox::pageIsCentredWhenWide()
 {
     OpenBox box;
-    box.resize(300, 300);
-    box.show();
-    QCOMPARE(box.viewportMargins().left(), 0);
     box.resize(3000, 300);
+    box.setRtf("{\\rtf1 " + QByteArray("mot ").repeated(500) + "}");
+    box.show();
     QVERIFY(box.viewportMargins().left() > 500);
     QCOMPARE(box.viewportMargins().left(), box.viewportMargins().right());
+    QCOMPARE(box.document()->textWidth(), double(box.viewport()->width()));
     const double column = box.viewport()->width() - 2 * box.document()->documentMargin();
     QVERIFY(column <= 75 * QFontMetricsF(box.font()).averageCharWidth());
+    box.resize(300, 300);
+    QCOMPARE(box.viewportMargins(), QMargins());
+    QCOMPARE(box.document()->textWidth(), double(box.viewport()->width()));
 }
 
 void TestRtfBox::automaticTextFollowsPalette()
