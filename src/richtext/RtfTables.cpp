@@ -19,7 +19,7 @@ void RtfFontTable::startEntry(int number)
 void RtfFontTable::endEntry()
 {
     if (m_number && m_fonts.size() < MaxFonts) {
-        m_entry.name = m_entry.name.trimmed().left(longestFontName);
+        m_entry.name = m_entry.name.trimmed().left(longestFontName).trimmed();
         m_fonts.insert(*m_number, m_entry);
     }
     m_number.reset();
