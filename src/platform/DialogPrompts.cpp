@@ -1,0 +1,114 @@
+#include "platform/DialogPrompts.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStandardPaths>
+
+namespace
+{
+// In the order of the buttons; the first is the default one.
+QList<Prompts::Answer> answersOf(Prompts::Buttons buttons)
+{
+    using Answer = Prompts::Answer;
+    switch (buttons) {
+    case Prompts::Buttons::YesNo:
+        return {Answer::Yes, Answer::No};
+    case Prompts::Buttons::YesNoCancel:
+        return {Answer::Yes, Answer::No, Answer::Cancel};
+    default:
+        return {Answer::Ok};
+    }
+}
+
+QPushButton *addButton(QMessageBox &box, Prompts::Answer answer)
+{
+    switch (answer) {
+    case Prompts::Answer::Yes:
+        return box.addButton(QStringLiteral("&Oui"), QMessageBox::YesRole);
+    case Prompts::Answer::No:
+        return box.addButton(QStringLiteral("&Non"), QMessageBox::NoRole);
+    case Prompts::Answer::Cancel:
+        return box.addButton(QStringLiteral("&Annuler"), QMessageBox::RejectRole);
+    default:
+        return box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    }
+}
+} // namespace
+
+DialogPrompts::DialogPrompts()
+    : m_folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+{
+    // A folder that is not there would be taken for the name of a file.
+    if (!QFileInfo(m_folder).isDir())
+        m_folder = QDir::homePath();
+}
+
+Prompts::Answer DialogPrompts::message(const QString &text, const QString &title, Buttons buttons)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(title);
+    // A file name in the text may look like markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setIcon(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question);
+    const QList<Answer> answers = answersOf(buttons);
+    QList<QPushButton *> shown;
+    for (const Answer answer : answers)
+        shown.append(addButton(box, answer));
+    box.setDefaultButton(shown.first());
+    // Escape answers as the last one: Annuler, else Non, else OK.
+    box.setEscapeButton(shown.last());
+    box.exec();
+    for (qsizetype i = 0; i < shown.size(); ++i) {
+        if (box.clickedButton() == shown.at(i))
+            return answers.at(i);
+    }
+    return answers.last();
+}
+
+QString DialogPrompts::askForName(QFileDialog &dialog, const QString &filter)
+{
+    dialog.setNameFilters(dialogFilters(filter));
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    m_folder = dialog.directory().path();
+    return dialog.selectedFiles().value(0);
+}
+
+QString DialogPrompts::openName(const QString &title, const QString &filter)
+{
+    QFileDialog dialog(QApplication::activeWindow(), title, m_folder);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return askForName(dialog, filter);
+}
+
+QString DialogPrompts::saveName(const QString &title, const QString &filter,
+                                const QString &defaultExtension)
+{
+    QFileDialog dialog(QApplication::activeWindow(), title, m_folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(defaultExtension);
+    return askForName(dialog, filter);
+}
+
+void DialogPrompts::beep()
+{
+    QApplication::beep();
+}
+
+QStringList dialogFilters(const QString &filter)
+{
+    const QStringList parts = filter.split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString label = parts.at(i).section(u'(', 0, 0).trimmed();
+        QString patterns = parts.at(i + 1);
+        filters.append(label + QStringLiteral(" (") + patterns.replace(u';', u' ') + u')');
+    }
+    return filters;
+}

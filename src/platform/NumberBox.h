@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QLineEdit>
+
+class Prompts;
+
+// A box for a number: takes digits and "." alone, and selects all its text when it gets the focus,
+// so that what is typed replaces it. Whatever else is typed or pasted is dropped with a beep.
+class NumberBox : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit NumberBox(QWidget *parent = nullptr);
+
+    // Off: any text is taken, as while there is nothing whose number could be meant.
+    void setFiltering(bool on);
+
+    // Every number box of a window beeps through prompts.
+    static void connectBeeps(QWidget &window, Prompts &prompts);
+
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    bool m_selectOnRelease = false;
+};
