@@ -1,0 +1,34 @@
+#pragma once
+
+#include "store/Variables.h"
+
+#include <QObject>
+
+class FormattingBar;
+class QKeyEvent;
+class RtfBox;
+
+// The keys and clicks with Ctrl that the editing box answers itself, before any menu.
+class BoxKeys : public QObject
+{
+    Q_OBJECT
+
+public:
+    BoxKeys(const Variables &variables, RtfBox &box, FormattingBar &bar);
+
+Q_SIGNALS:
+    // The author clicked with Ctrl held; the caret stands where the click was.
+    void ctrlClicked();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    using Command = void (FormattingBar::*)();
+    Command commandOf(const QKeyEvent &event) const;
+    bool handleKey(QKeyEvent &event, bool press);
+
+    const Variables &m_variables;
+    RtfBox &m_box;
+    FormattingBar &m_bar;
+};

@@ -1,0 +1,57 @@
+#include "editor/StatusLine.h"
+
+#include "richtext/RichTextBox.h"
+#include "store/ReferenceIndex.h"
+
+#include <QLabel>
+
+namespace
+{
+int countWords(QStringView text)
+{
+    int words = 0;
+    bool counted = false;
+    for (const QChar c : text) {
+        if (c.isSpace())
+            counted = false;
+        else if (!counted && c.isLetterOrNumber()) {
+            ++words;
+            counted = true;
+        }
+    }
+    return words;
+}
+
+QString counted(qsizetype count, const QString &one, const QString &several)
+{
+    return QString::number(count) + u' ' + (count < 2 ? one : several);
+}
+} // namespace
+
+QString describeParagraph(int n, QStringView text, const QString &targetPhrase)
+{
+    const QString separator = QStringLiteral(" · ");
+    return QStringLiteral("paragraphe ") + QString::number(n) + separator +
+           counted(countWords(text), QStringLiteral("mot"), QStringLiteral("mots")) + separator +
+           counted(findReferences(text, targetPhrase).size(), QStringLiteral("renvoi"),
+                   QStringLiteral("renvois"));
+}
+
+StatusLine::StatusLine(const Variables &variables, const RichTextBox &box, QLabel &counts,
+                       QLabel &saved)
+    : m_variables(variables), m_box(box), m_counts(counts), m_saved(saved)
+{
+}
+
+void StatusLine::refresh()
+{
+    if (!m_variables.AdventureOpen) {
+        m_counts.setText(QStringLiteral("aucune aventure ouverte"));
+        m_saved.clear();
+        return;
+    }
+    m_counts.setText(
+        describeParagraph(m_variables.CurrentParagraph, m_box.text(), m_variables.TargetPhrase));
+    const bool modified = m_variables.ParagraphDirty || m_variables.AdventureModified;
+    m_saved.setText(modified ? QStringLiteral("modifié") : QStringLiteral("enregistré"));
+}

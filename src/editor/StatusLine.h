@@ -1,0 +1,25 @@
+#pragma once
+
+#include "store/Variables.h"
+
+class QLabel;
+class RichTextBox;
+
+// What the line under the editing box says of the paragraph on screen and of the adventure.
+class StatusLine
+{
+public:
+    StatusLine(const Variables &variables, const RichTextBox &box, QLabel &counts, QLabel &saved);
+
+    void refresh();
+
+private:
+    const Variables &m_variables;
+    const RichTextBox &m_box;
+    QLabel &m_counts;
+    QLabel &m_saved;
+};
+
+// "paragraphe 26 · 134 mots · 3 renvois". A word holds at least one letter or digit, so that a dash
+// or a French colon between spaces is none.
+QString describeParagraph(int n, QStringView text, const QString &targetPhrase);

@@ -1,0 +1,52 @@
+#include "editor/helpWindow.h"
+
+#include "platform/Errors.h"
+#include "ui_helpWindow.h"
+
+#include <QKeyEvent>
+
+helpWindow::helpWindow(const Variables &variables)
+    : m_variables(variables), m_ui(std::make_unique<Ui::helpWindow>())
+{
+    m_ui->setupUi(this);
+    m_ui->rtfHelp->setReadOnly(true);
+    connect(m_ui->btnClose, &QPushButton::clicked, this, &QWidget::close);
+}
+
+helpWindow::~helpWindow() = default;
+
+void helpWindow::showHelp(Tag tag)
+{
+    load(tag);
+    show();
+    raise();
+    activateWindow();
+    m_ui->rtfHelp->setFocus();
+}
+
+void helpWindow::load(Tag tag)
+{
+    const bool french = tag == Tag::French;
+    const QString name =
+        french ? QStringLiteral("Aide Française.rtf") : QStringLiteral("English Help.rtf");
+    try {
+        m_ui->rtfHelp->loadFile(m_variables.WorkingFolder + name);
+    } catch (const UsmiraError &) {
+        m_ui->rtfHelp->setText(french ? QStringLiteral("Aide Française Non Trouvée")
+                                      : QStringLiteral("English Help File Not Found"));
+    }
+}
+
+void helpWindow::closeEvent(QCloseEvent *event)
+{
+    m_ui->rtfHelp->setText({});
+    QWidget::closeEvent(event);
+}
+
+void helpWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
