@@ -17,6 +17,7 @@ struct WindowGeometry {
     int height = 0;
     int left = 0;
     int top = 0;
+    bool operator==(const WindowGeometry &) const = default;
 };
 
 // Reads what it can: a value that cannot be read keeps what it had, and so does the rest of its

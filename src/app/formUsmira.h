@@ -1,0 +1,92 @@
+#pragma once
+
+#include "editor/EditorView.h"
+#include "editor/MenuStates.h"
+#include "editor/Navigation.h"
+#include "editor/VisitedList.h"
+#include "store/AdventureCommands.h"
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+
+class QAction;
+class QToolButton;
+class StatusLine;
+class helpWindow;
+
+namespace Ui
+{
+class formUsmira;
+}
+
+// The main window: shows one paragraph, CurrentParagraph, in rtfBox. It wires the controls to the
+// classes that do the work and owns them; the state and the prompts must outlive it.
+class formUsmira : public QMainWindow, public EditorView
+{
+    Q_OBJECT
+
+public:
+    formUsmira(Variables &variables, Prompts &prompts);
+    ~formUsmira() override;
+
+    // Start-up, before the window is shown: settings, geometry and the welcome text from the
+    // working folder. Whatever is missing or damaged there is passed over.
+    void Form_Load();
+
+    // The command line as it stands is the path of an adventure; an empty one opens none.
+    void openCommandLine(const QString &path);
+
+    RichTextBox &editingBox() override;
+    void LoadParg(int n) override;
+    void SaveCurParg() override;
+    void adventureReplaced() override;
+    void longWorkBegins(const QString &caption) override;
+    void longWorkEnds() override;
+    void focusEditor() override;
+
+protected:
+    bool event(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    using Work = std::function<void()>;
+    void connectAdventure();
+    void connectNavigation();
+    void connectNumberBox();
+    void connectLists();
+    void connectBox();
+    void connectFormatting();
+    void connectMenus();
+    void connectBoth(const QAction *action, const QToolButton *button, const Work &work);
+
+    void Form_Deactivate();
+    void showAdventureOpen();
+    void showTabPanel();
+    void showNumber();
+    void refreshFormatting();
+    void fillIncomingList(int n);
+    QString wordsOf(int n) const;
+
+    void rtfBox_Change();
+    void theList_Click();
+    void incomingList_Click();
+    void btnVider_Click();
+    void btnUnmixable_Click();
+    void btnMore_Click();
+    void menuComCount_Click();
+    void menuInfoAbout_Click();
+
+    Variables &m_variables;
+    Prompts &m_prompts;
+    std::unique_ptr<Ui::formUsmira> m_ui;
+    AdventureCommands m_adventure;
+    Navigation m_navigation;
+    MenuStates m_menuStates;
+    std::unique_ptr<VisitedList> m_visited;
+    std::unique_ptr<StatusLine> m_status;
+    std::unique_ptr<helpWindow> m_help;
+    bool m_loading = false;        // the program, not the author, is changing the box
+    bool m_working = false;        // long work is under way
+    bool m_focusAfterWork = false; // the editing box had the focus when it began
+};

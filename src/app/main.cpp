@@ -1,0 +1,31 @@
+#include "app/Desktop.h"
+#include "app/formUsmira.h"
+#include "platform/DialogPrompts.h"
+#include "store/WorkingFolder.h"
+
+#include <QApplication>
+#include <QIcon>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Usmira"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(USMIRA_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("usmira"));
+    const Desktop desktop(application);
+
+    const QString programFolder = QCoreApplication::applicationDirPath();
+    QGuiApplication::setWindowIcon(
+        QIcon::fromTheme(QStringLiteral("usmira"), QIcon(QStringLiteral(USMIRA_ICON))));
+    Variables variables;
+    variables.WorkingFolder = findWorkingFolder(programFolder);
+    prepareWorkingFolder(variables.WorkingFolder, findBundledDocuments(programFolder));
+
+    DialogPrompts prompts;
+    formUsmira window(variables, prompts);
+    window.Form_Load();
+    window.show();
+    // A path with spaces need not be quoted: the command line is one path as it stands.
+    window.openCommandLine(QCoreApplication::arguments().mid(1).join(u' '));
+    return QApplication::exec();
+}

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "app/formUsmira.h"
+#include "editor/RtfBox.h"
+#include "support/AdventureBuilder.h"
+#include "support/PromptRecorder.h"
+
+#include <QAction>
+#include <QListWidget>
+#include <QTest>
+#include <QToolButton>
+#include <memory>
+
+// The main window on a temporary working folder, driven through its controls by their names.
+class WindowFixture
+{
+public:
+    // Without an adventure, as the program starts.
+    WindowFixture() { start(); }
+
+    // With the adventure "Le Loup.usm" open.
+    explicit WindowFixture(const AdventureBuilder &builder)
+    {
+        start();
+        open(builder.bytes());
+    }
+
+    void open(const QByteArray &bytes)
+    {
+        window->openCommandLine(adventure.file(QStringLiteral("Le Loup.usm"), bytes));
+    }
+
+    // A new window on the same folder and state, as the next start of the program.
+    void start()
+    {
+        window = std::make_unique<formUsmira>(adventure.variables, prompts);
+        window->Form_Load();
+        window->show();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    template <typename Control> Control &control(const char *name) const
+    {
+        auto *found = window->findChild<Control *>(QLatin1String(name));
+        if (found == nullptr)
+            qFatal("there is no %s", name);
+        return *found;
+    }
+    RtfBox &box() const { return control<RtfBox>("rtfBox"); }
+    int current() const { return adventure.variables.CurrentParagraph; }
+
+    void click(const char *button) const
+    {
+        QTest::mouseClick(&control<QAbstractButton>(button), Qt::LeftButton);
+    }
+    void trigger(const char *item) const { control<QAction>(item).trigger(); }
+
+    void clickRow(const char *list, int row) const
+    {
+        auto &entries = control<QListWidget>(list);
+        const QRect entry = entries.visualItemRect(entries.item(row));
+        QTest::mouseClick(entries.viewport(), Qt::LeftButton, {}, entry.center());
+    }
+    QStringList entries(const char *list) const
+    {
+        QStringList texts;
+        const auto &widget = control<QListWidget>(list);
+        for (int row = 0; row < widget.count(); ++row)
+            texts.append(widget.item(row)->text());
+        return texts;
+    }
+
+    // Types at the end of the paragraph on the screen.
+    void type(const QString &text) const
+    {
+        box().moveCursor(QTextCursor::End);
+        QTest::keyClicks(&box(), text);
+    }
+
+    TestAdventure adventure;
+    PromptRecorder prompts;
+    std::unique_ptr<formUsmira> window;
+};
