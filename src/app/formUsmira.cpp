@@ -391,7 +391,7 @@ void formUsmira::menuComCount_Click()
 
 void formUsmira::menuInfoAbout_Click()
 {
-    m_prompts.message(QStringLiteral("Usmira %1\nÉditeur d'aventures dont vous êtes le héros.")
+    m_prompts.message(QStringLiteral("Usmira %1\nUn atelier pour écrire des livres-jeux.")
                           .arg(QCoreApplication::applicationVersion()),
                       QStringLiteral("À Propos"), Prompts::Buttons::Ok);
     focusEditor();

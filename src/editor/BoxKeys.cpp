@@ -22,15 +22,27 @@ bool BoxKeys::eventFilter(QObject *watched, QEvent *event)
         return handleKey(*static_cast<QKeyEvent *>(event), true);
     case QEvent::MouseButtonRelease: {
         const auto &mouse = *static_cast<QMouseEvent *>(event);
-        // The box finishes its own handling of the click before its text is replaced.
         if (watched == m_box.viewport() && mouse.button() == Qt::LeftButton &&
-            mouse.modifiers() == Qt::ControlModifier && !m_box.textCursor().hasSelection())
+            mouse.modifiers() == Qt::ControlModifier && !m_box.textCursor().hasSelection()) {
+            putCaretBeforeCharacterAt(mouse.position().toPoint());
+            // The box finishes its own handling of the click before its text is replaced.
             QMetaObject::invokeMethod(this, &BoxKeys::ctrlClicked, Qt::QueuedConnection);
+        }
         return false;
     }
     default:
         return false;
     }
+}
+
+// A click on the right half of a character puts the caret behind it. Behind the last digit of a
+// number that would be the character after the number, and nothing to follow.
+void BoxKeys::putCaretBeforeCharacterAt(const QPoint &position)
+{
+    QTextCursor caret = m_box.cursorForPosition(position);
+    if (!caret.atBlockStart() && position.x() < m_box.cursorRect(caret).left())
+        caret.movePosition(QTextCursor::Left);
+    m_box.setTextCursor(caret);
 }
 
 // Accepting the question whether a key is a shortcut keeps it from the menus.

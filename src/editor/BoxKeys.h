@@ -17,7 +17,8 @@ public:
     BoxKeys(const Variables &variables, RtfBox &box, FormattingBar &bar);
 
 Q_SIGNALS:
-    // The author clicked with Ctrl held; the caret stands where the click was.
+    // The author clicked with Ctrl held; the caret stands before the character
+    // that was clicked.
     void ctrlClicked();
 
 protected:
@@ -27,6 +28,7 @@ private:
     using Command = void (FormattingBar::*)();
     Command commandOf(const QKeyEvent &event) const;
     bool handleKey(QKeyEvent &event, bool press);
+    void putCaretBeforeCharacterAt(const QPoint &position);
 
     const Variables &m_variables;
     RtfBox &m_box;

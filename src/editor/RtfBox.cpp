@@ -14,7 +14,11 @@
 
 namespace
 {
-constexpr int pageMargin = 32; // pixels, within the page
+// Pixels. The document's own margin is small and never changes, since a change of it would be an
+// edit of the text; the rest of the page's margin is painted around the viewport.
+constexpr int documentMargin = 8;
+constexpr int largestPadding = 24;
+constexpr int narrowestPadded = 240; // a box as narrow as this has no padding to spare
 constexpr int charactersPerLine = 72;
 constexpr int largestGapAbove = 12;
 constexpr int defaultTabTwips = 720;
@@ -39,7 +43,7 @@ RtfBox::RtfBox(QWidget *parent) : QTextEdit(parent)
     setFrameShape(QFrame::NoFrame);
     setFont(baseFont());
     setTabStopDistance(pixelsOfTwips(defaultTabTwips));
-    document()->setDocumentMargin(pageMargin);
+    document()->setDocumentMargin(documentMargin);
     document()->setIndentWidth(pixelsOfTwips(ParagraphState::BulletTwips));
     connect(document(), &QTextDocument::contentsChanged, this, [this] {
         if (!isLoading())
@@ -79,7 +83,7 @@ QMimeData *RtfBox::createMimeDataFromSelection() const
 bool RtfBox::event(QEvent *event)
 {
     if (event->type() == QEvent::Paint)
-        QPainter(this).fillRect(rect(), surroundings(palette()));
+        paintPage();
     else if (event->type() == QEvent::Resize)
         centrePage();
     return QTextEdit::event(event);
@@ -120,11 +124,21 @@ bool RtfBox::takesBulletAway(const QKeyEvent &event) const
 // change of it from within its resize event is lost while the box is being shown.
 void RtfBox::centrePage()
 {
+    const int room = contentsRect().width();
+    m_padding = std::clamp((room - narrowestPadded) / 8, 0, largestPadding);
     const double column = QFontMetricsF(font()).averageCharWidth() * charactersPerLine;
-    const int page = qRound(column) + 2 * pageMargin;
-    const int side = std::max(0, (contentsRect().width() - page) / 2);
+    const int page = qRound(column) + 2 * (documentMargin + m_padding);
+    const int side = std::max(0, (room - page) / 2);
     const int above = std::min(side, largestGapAbove);
-    const QMargins margins(side, above, side, 0);
+    const QMargins margins(side + m_padding, above + m_padding, side + m_padding, 0);
     if (viewportMargins() != margins)
         setViewportMargins(margins);
+}
+
+void RtfBox::paintPage()
+{
+    const QRect page = viewport()->geometry().adjusted(-m_padding, -m_padding, m_padding, 0);
+    QPainter painter(this);
+    painter.fillRect(rect(), surroundings(palette()));
+    painter.fillRect(page, palette().color(QPalette::Base));
 }

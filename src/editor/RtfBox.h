@@ -43,4 +43,7 @@ protected:
 private:
     bool takesBulletAway(const QKeyEvent &event) const;
     void centrePage();
+    void paintPage();
+
+    int m_padding = 0; // pixels of the page on each side of the viewport and above it
 };

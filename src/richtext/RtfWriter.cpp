@@ -32,6 +32,19 @@ QByteArray escaped(QChar c)
     return "\\u" + number(static_cast<qint16>(c.unicode())) + " ?";
 }
 
+QByteArray escapedFontName(const QString &name)
+{
+    QByteArray bytes;
+    const QString oneLine = cleanedText(name).remove(u'\n').remove(u'\t');
+    for (const QChar c : oneLine) {
+        if (isAsciiText(c) && c != u';')
+            bytes += c.toLatin1();
+        else
+            bytes += escaped(c);
+    }
+    return bytes;
+}
+
 // Assigns numbers in the order of first use.
 template <typename Key> class Numbering
 {
@@ -69,7 +82,7 @@ private:
 
     QFont m_base;
     QByteArray m_body;
-    Numbering<QString> m_fonts;
+    Numbering<QByteArray> m_fonts; // names as they are written, so that each stands once
     Numbering<QRgb> m_colours;
     bool m_anyBullet = false;
     std::optional<ParagraphState> m_paragraph;
@@ -175,7 +188,7 @@ void Writer::writeCharState(const CharState &state)
 {
     m_stylesClosed = false;
     m_chars = state;
-    m_body += "\\plain\\f" + number(m_fonts.of(state.family));
+    m_body += "\\plain\\f" + number(m_fonts.of(escapedFontName(state.family)));
     m_body += "\\fs" + number(state.halfPoints);
     if (state.colour)
         m_body += "\\cf" + number(m_colours.of(*state.colour));
@@ -190,24 +203,11 @@ void Writer::writeCharState(const CharState &state)
     m_body += ' ';
 }
 
-QByteArray escapedFontName(const QString &name)
-{
-    QByteArray bytes;
-    const QString oneLine = cleanedText(name).remove(u'\n').remove(u'\t');
-    for (const QChar c : oneLine) {
-        if (isAsciiText(c) && c != u';')
-            bytes += c.toLatin1();
-        else
-            bytes += escaped(c);
-    }
-    return bytes;
-}
-
 QByteArray Writer::header() const
 {
     QByteArray header = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deftab720{\\fonttbl";
     for (int i = 0; i < m_fonts.keys().size(); ++i)
-        header += "{\\f" + number(i) + "\\fnil " + escapedFontName(m_fonts.keys().at(i)) + ";}";
+        header += "{\\f" + number(i) + "\\fnil " + m_fonts.keys().at(i) + ";}";
     header += "}\r\n{\\colortbl";
     for (const QRgb colour : m_colours.keys())
         header += "\\red" + number(qRed(colour)) + "\\green" + number(qGreen(colour)) + "\\blue" +

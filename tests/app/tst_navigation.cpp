@@ -188,9 +188,10 @@ void tst_navigation::ctrlClickFollowsTheNumber()
 {
     const WindowFixture fixture(fourParagraphs().current(2));
     RtfBox &box = fixture.box();
-    QTextCursor onNumber(box.document());
-    onNumber.setPosition(static_cast<int>(box.text().indexOf(u'8')));
-    const QPoint point = box.cursorRect(onNumber).center() + QPoint(2, 0);
+    // The right half of the last digit: a click there puts the caret behind the number.
+    QTextCursor behindNumber(box.document());
+    behindNumber.setPosition(static_cast<int>(box.text().indexOf(u'8')) + 1);
+    const QPoint point = box.cursorRect(behindNumber).center() - QPoint(3, 0);
     QTest::mouseClick(box.viewport(), Qt::LeftButton, {}, point);
     QCoreApplication::processEvents();
     QCOMPARE(fixture.current(), 2);

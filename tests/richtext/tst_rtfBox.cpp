@@ -52,7 +52,7 @@ void TestRtfBox::loadsLikeTheHiddenBox()
     box.setRtf(rtf);
     QCOMPARE(box.rtf(), hidden.rtf());
     QCOMPARE(box.selStart(), 0);
-    QCOMPARE(box.document()->documentMargin(), 32.0);
+    QCOMPARE(box.document()->documentMargin(), 8.0);
 }
 
 void TestRtfBox::onlyEditsAreSignalled()
@@ -206,7 +206,7 @@ void TestRtfBox::pageIsCentredWhenWide()
     QCOMPARE(box.document()->textWidth(), double(box.viewport()->width()));
     const double column = box.viewport()->width() - 2 * box.document()->documentMargin();
     QVERIFY(column <= 75 * QFontMetricsF(box.font()).averageCharWidth());
-    box.resize(300, 300);
+    box.resize(150, 300);
     QCOMPARE(box.viewportMargins(), QMargins());
     QCOMPARE(box.document()->textWidth(), double(box.viewport()->width()));
 }
