@@ -2,6 +2,7 @@
 #include "platform/Twips.h"
 #include "richtext/RichTextBox.h"
 #include "richtext/SelectionFormats.h"
+#include "richtext/TextCleaning.h"
 #include "richtext/TextStates.h"
 
 #include <QTextDocument>
@@ -122,10 +123,11 @@ void RichTextBox::setSelStrikeThru(bool on)
 
 void RichTextBox::setSelFontName(const QString &name)
 {
-    if (name.isEmpty())
+    const QString cleaned = cleanedFontName(name);
+    if (cleaned.isEmpty())
         return;
     QTextCharFormat format;
-    format.setFontFamilies({name});
+    format.setFontFamilies({cleaned});
     mergeChars(format);
 }
 

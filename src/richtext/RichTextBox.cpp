@@ -189,7 +189,7 @@ int RichTextBox::find(const QString &needle, int start, FindOptions options)
 
 void RichTextBox::setBaseFont(const QString &name, double points)
 {
-    m_baseFont = QFont(name);
+    m_baseFont = QFont(cleanedFontName(name));
     m_baseFont.setPointSizeF(points > 0 ? points : CharState::DefaultHalfPoints / 2.0);
     baseFontChanged(m_baseFont);
 }

@@ -1,14 +1,9 @@
 #include "richtext/RtfTables.h"
 
+#include "richtext/TextCleaning.h"
 #include "richtext/TextStates.h"
 
 #include <algorithm>
-
-namespace
-{
-// No screen shows more of a name, and a damaged table must not make one of the whole file.
-constexpr qsizetype longestFontName = 256;
-} // namespace
 
 void RtfFontTable::startEntry(int number)
 {
@@ -19,7 +14,7 @@ void RtfFontTable::startEntry(int number)
 void RtfFontTable::endEntry()
 {
     if (m_number && m_fonts.size() < MaxFonts) {
-        m_entry.name = m_entry.name.trimmed().left(longestFontName).trimmed();
+        m_entry.name = cleanedFontName(m_entry.name);
         m_fonts.insert(*m_number, m_entry);
     }
     m_number.reset();

@@ -35,8 +35,7 @@ QByteArray escaped(QChar c)
 QByteArray escapedFontName(const QString &name)
 {
     QByteArray bytes;
-    const QString oneLine = cleanedText(name).remove(u'\n').remove(u'\t');
-    for (const QChar c : oneLine) {
+    for (const QChar c : name) {
         if (isAsciiText(c) && c != u';')
             bytes += c.toLatin1();
         else
@@ -82,7 +81,7 @@ private:
 
     QFont m_base;
     QByteArray m_body;
-    Numbering<QByteArray> m_fonts; // names as they are written, so that each stands once
+    Numbering<QString> m_fonts;
     Numbering<QRgb> m_colours;
     bool m_anyBullet = false;
     std::optional<ParagraphState> m_paragraph;
@@ -188,7 +187,7 @@ void Writer::writeCharState(const CharState &state)
 {
     m_stylesClosed = false;
     m_chars = state;
-    m_body += "\\plain\\f" + number(m_fonts.of(escapedFontName(state.family)));
+    m_body += "\\plain\\f" + number(m_fonts.of(state.family));
     m_body += "\\fs" + number(state.halfPoints);
     if (state.colour)
         m_body += "\\cf" + number(m_colours.of(*state.colour));
@@ -207,7 +206,7 @@ QByteArray Writer::header() const
 {
     QByteArray header = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deftab720{\\fonttbl";
     for (int i = 0; i < m_fonts.keys().size(); ++i)
-        header += "{\\f" + number(i) + "\\fnil " + m_fonts.keys().at(i) + ";}";
+        header += "{\\f" + number(i) + "\\fnil " + escapedFontName(m_fonts.keys().at(i)) + ";}";
     header += "}\r\n{\\colortbl";
     for (const QRgb colour : m_colours.keys())
         header += "\\red" + number(qRed(colour)) + "\\green" + number(qGreen(colour)) + "\\blue" +

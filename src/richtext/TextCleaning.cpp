@@ -45,3 +45,10 @@ QString cleanedText(QStringView text)
     }
     return cleaned;
 }
+
+QString cleanedFontName(const QString &name)
+{
+    // No screen shows more of a name, and a damaged table must not make one of the whole file.
+    constexpr qsizetype longest = 256;
+    return cleanedText(name).remove(u'\n').remove(u'\t').trimmed().left(longest).trimmed();
+}

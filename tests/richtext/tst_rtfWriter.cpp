@@ -87,6 +87,7 @@ private Q_SLOTS:
     void layoutIsPinned();
     void selectionIsWrittenAlone();
     void nothingThatNoReaderTakesIsWritten();
+    void fontNamesThatAreWrittenAlikeAreOne();
 };
 
 void TestRtfWriter::layoutIsPinned_data()
@@ -149,6 +150,18 @@ void TestRtfWriter::nothingThatNoReaderTakesIsWritten()
         .insertText(QStringLiteral(u"a\ufffcb\u2028c\xd800") + QChar(0xdc01));
     const QByteArray rtf = box.rtf();
     QVERIFY(rtf.endsWith("\\plain\\f0\\fs24 ab\r\n\\par c\\u-10240 ?\\u-9215 ?\r\n\\par }"));
+}
+
+void TestRtfWriter::fontNamesThatAreWrittenAlikeAreOne()
+{
+    HiddenBox box;
+    box.setRtf("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 A\\'01rial ;}{\\f2 " +
+               QByteArray(255, 'x') + " y;}}\\f0 a\\f1 b\\f2 c}");
+    const QByteArray rtf = box.rtf();
+    QCOMPARE(rtf.count("Arial"), 1);
+    QVERIFY(rtf.contains(" ab"));
+    box.setRtf(rtf);
+    QCOMPARE(box.rtf(), rtf);
 }
 
 QTEST_MAIN(TestRtfWriter)
