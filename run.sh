@@ -18,7 +18,8 @@ fi
 sample_copy() {
     local folder
     folder=$(command -v xdg-user-dir >/dev/null && xdg-user-dir DOCUMENTS || true)
-    if [ -z "$folder" ] || [ ! -d "$folder" ] || [ ! -w "$folder" ]; then
+    # Without a documents folder the command names the home folder, which is no place for a copy.
+    if [ "$folder" = "$HOME" ] || [ ! -d "$folder" ] || [ ! -w "$folder" ]; then
         folder=${XDG_DATA_HOME:-$HOME/.local/share}/Usmira
     fi
     mkdir -p "$folder"

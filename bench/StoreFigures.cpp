@@ -22,7 +22,7 @@ constexpr int SaveRuns = 5;
 struct Editor {
     explicit Editor(const QString &folder)
     {
-        variables.WorkingFolder = folder + QStringLiteral("/work/");
+        variables.WorkingFolder = folder + QStringLiteral("/store/");
         QDir().mkpath(variables.WorkingFolder);
     }
     // Makes working files of paragraphs 1..count, as an author at work would.
