@@ -26,6 +26,8 @@ void connectClipboard(const Ui::formUsmira &ui, RtfBox &box)
 
 void connectEditMenu(const Ui::formUsmira &ui, RtfBox &box)
 {
+    // Both customs are about; the first is the one that the menu shows.
+    ui.menuEditRedo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
     QObject::connect(ui.menuEditUndo, &QAction::triggered, &box, &QTextEdit::undo);
     QObject::connect(ui.menuEditRedo, &QAction::triggered, &box, &QTextEdit::redo);
     QObject::connect(&box, &QTextEdit::undoAvailable, ui.menuEditUndo, &QAction::setEnabled);
