@@ -40,7 +40,7 @@ else
 fi
 
 if [ $vnc = yes ]; then
-    say "Opening $adventure for a VNC viewer on port 5900"
+    say "Opening $adventure for a VNC viewer on port 5900 (without a password: whoever reaches it can use it)"
     exec env QT_QPA_PLATFORM=vnc build/release/src/app/usmira "$adventure"
 fi
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ] && [ -z "${QT_QPA_PLATFORM:-}" ]; then

@@ -1,6 +1,5 @@
+#include "TestTable.h"
 #include "platform/LenientNumbers.h"
-
-#include <QTest>
 
 class tst_lenientNumbers : public QObject
 {
@@ -9,29 +8,24 @@ class tst_lenientNumbers : public QObject
 private Q_SLOTS:
     void readsTheNumberThatATextBeginsWith_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("number");
-        const auto row = [](const char *name, const QString &text, double number) {
-            QTest::newRow(name) << text << number;
-        };
-        row("whole", QStringLiteral("26"), 26);
-        row("stopped by a letter", QStringLiteral("26. V"), 26);
-        row("blanks within", QStringLiteral(" 2\t6\n "), 26);
-        row("no number", QStringLiteral("vingt"), 0);
-        row("nothing", QString(), 0);
-        row("fraction", QStringLiteral("12.75x"), 12.75);
-        row("fraction alone", QStringLiteral(".5"), 0.5);
-        row("point alone", QStringLiteral("."), 0);
-        row("comma ends it", QStringLiteral("3,5"), 3);
-        row("exponent", QStringLiteral("1e3"), 1000);
-        row("negative exponent", QStringLiteral("25E-1"), 2.5);
-        row("letter e without digits", QStringLiteral("12e st"), 12);
-        row("no sign", QStringLiteral("-5"), 0);
-        row("carriage return ends it", QStringLiteral("12\r\n3"), 12);
-        row("no-break space is no blank", QStringLiteral("1\u00a02"), 1);
-        row("leading zeros", QStringLiteral("0026/"), 26);
-        row("digits of other scripts", QStringLiteral("٣"), 0);
-        row("too large to hold", QStringLiteral("9e999"), 0);
+        addTable<QString, double>({"text", "number"},
+                                  {{"stopped by a letter", "26. V", 26},
+                                   {"blanks within", " 2\t6\n ", 26},
+                                   {"no number", "vingt", 0},
+                                   {"nothing", "", 0},
+                                   {"fraction", "12.75x", 12.75},
+                                   {"fraction alone", ".5", 0.5},
+                                   {"point alone", ".", 0},
+                                   {"comma ends it", "3,5", 3},
+                                   {"exponent", "1e3", 1000},
+                                   {"negative exponent", "25E-1", 2.5},
+                                   {"letter e without digits", "12e st", 12},
+                                   {"no sign", "-5", 0},
+                                   {"carriage return ends it", "12\r\n3", 12},
+                                   {"no-break space is no blank", "1\u00a02", 1},
+                                   {"leading zeros", "0026/", 26},
+                                   {"digits of other scripts", "٣", 0},
+                                   {"too large to hold", "9e999", 0}});
     }
     void readsTheNumberThatATextBeginsWith()
     {
@@ -41,15 +35,12 @@ private Q_SLOTS:
 
     void roundsHalves_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("even");
-        QTest::addColumn<int>("away");
-        QTest::newRow("11.5") << 11.5 << 12 << 12;
-        QTest::newRow("12.5") << 12.5 << 12 << 13;
-        QTest::newRow("12.7") << 12.7 << 13 << 13;
-        QTest::newRow("-0.5") << -0.5 << 0 << -1;
-        QTest::newRow("beyond") << 1e12 << std::numeric_limits<int>::max()
-                                << std::numeric_limits<int>::max();
+        constexpr int most = std::numeric_limits<int>::max();
+        addTable<double, int, int>({"value", "even", "away"}, {{"11.5", 11.5, 12, 12},
+                                                               {"12.5", 12.5, 12, 13},
+                                                               {"12.7", 12.7, 13, 13},
+                                                               {"-0.5", -0.5, 0, -1},
+                                                               {"beyond", 1e12, most, most}});
     }
     void roundsHalves()
     {
