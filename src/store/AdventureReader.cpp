@@ -78,7 +78,7 @@ private:
 
 void readHeader(ByteReader &reader, AdventureContents &contents)
 {
-    contents.version = qFromBigEndian<quint16>(reader.take(2).data());
+    contents.version = reader.takeShort();
     contents.lowest = reader.takeShort();
     contents.highest = reader.takeShort();
     contents.current = reader.takeShort();

@@ -1,7 +1,7 @@
-#include "TestTable.h"
 #include "platform/DialogPrompts.h"
 #include "platform/NumberBox.h"
 #include "support/PromptRecorder.h"
+#include "support/TestTable.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -23,13 +23,11 @@ inline QString look(const RichTextBox &box)
     };
     const auto nothing = [](bool) { return QString(); };
     const auto number = [](double value) { return QString::number(qRound(value * 100) / 100.0); };
-    const auto distance = [&](const QString &name, std::optional<double> value) {
-        add(name, value, 0.0, number);
-    };
-    add("b", box.selBold(), false, nothing);
-    add("i", box.selItalic(), false, nothing);
-    add("ul", box.selUnderline(), false, nothing);
-    add("strike", box.selStrikeThru(), false, nothing);
+    for (const auto &[name, on] : {std::pair("b", box.selBold()),
+                                   {"i", box.selItalic()},
+                                   {"ul", box.selUnderline()},
+                                   {"strike", box.selStrikeThru()}})
+        add(name, on, false, nothing);
     add("", box.selFontName(), box.baseFont().family(), [](const QString &name) { return name; });
     add("", box.selFontSize(), box.baseFont().pointSizeF(), number);
     add("", box.selColor(), qRgb(0, 0, 0), [](QRgb rgb) { return QColor(rgb).name(); });
@@ -37,9 +35,9 @@ inline QString look(const RichTextBox &box)
         return QString(alignment == RichTextBox::Alignment::Right ? u'r' : u'c');
     });
     add("*", box.selBullet(), false, nothing);
-    distance("li", box.selIndent());
-    distance("fi", box.selHangingIndent());
-    distance("ri", box.selRightIndent());
+    add("li", box.selIndent(), 0.0, number);
+    add("fi", box.selHangingIndent(), 0.0, number);
+    add("ri", box.selRightIndent(), 0.0, number);
     add("t", box.selTabs(), QList<double>(), [&number](const QList<double> &tabs) {
         QStringList places;
         for (const double tab : tabs)

@@ -1,5 +1,5 @@
-#include "platform/TestTable.h"
 #include "richtext/CodePage.h"
+#include "support/TestTable.h"
 
 #include <QTest>
 #include <numeric>

@@ -1,6 +1,6 @@
 #include "Look.h"
 #include "platform/Errors.h"
-#include "platform/TestTable.h"
+#include "support/TestTable.h"
 
 #include <QTemporaryDir>
 #include <QTest>

@@ -1,7 +1,7 @@
 #include "Look.h"
-#include "platform/TestTable.h"
 #include "richtext/RichTextClipboard.h"
 #include "richtext/RtfPlainText.h"
+#include "support/TestTable.h"
 
 #include <QMimeData>
 #include <QTemporaryFile>

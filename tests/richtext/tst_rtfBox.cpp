@@ -1,6 +1,6 @@
 #include "Look.h"
 #include "editor/RtfBox.h"
-#include "platform/TestTable.h"
+#include "support/TestTable.h"
 
 #include <QMimeData>
 #include <QSignalSpy>
@@ -91,10 +91,14 @@ private Q_SLOTS:
         }
     }
 
-    void caretFormatIsTyped()
+    void baseAndCaretFormatAreTyped()
     {
         RtfBox box;
-        box.setText("ab");
+        box.setBaseFont("Arial", 11.5);
+        box.setText({});
+        QTest::keyClicks(&box, "ab");
+        QVERIFY(box.rtf().contains("{\\fonttbl{\\f0\\fnil Arial;}}"));
+        QVERIFY(box.rtf().contains("\\plain\\f0\\fs23 ab"));
         at(box, 1, 0).setSelBold(true);
         box.setSelColor(qRgb(255, 0, 0));
         box.setSelFontSize(10.5);
@@ -102,16 +106,6 @@ private Q_SLOTS:
         QTest::keyClicks(&box, "X");
         QCOMPARE(looks(box), "[a][X b 10.5 #ff0000][b]");
         QVERIFY(!at(box, 0, 3).selBold());
-    }
-
-    void baseFontIsTyped()
-    {
-        RtfBox box;
-        box.setBaseFont("Arial", 10.5);
-        box.setText({});
-        QTest::keyClicks(&box, "ab");
-        QVERIFY(box.rtf().contains("{\\fonttbl{\\f0\\fnil Arial;}}"));
-        QVERIFY(box.rtf().contains("\\plain\\f0\\fs21 ab"));
     }
 
     void keysGiveWhatTheFileHolds()

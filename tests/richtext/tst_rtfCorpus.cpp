@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace
@@ -13,14 +14,8 @@ namespace
 // Lines without blanks at their ends, without empty lines at the end of the text.
 QString comparable(QString text)
 {
-    QStringList lines = text.remove(u'\r').split(u'\n');
-    for (QString &line : lines) {
-        while (line.endsWith(u' ') || line.endsWith(u'\t'))
-            line.chop(1);
-    }
-    while (!lines.isEmpty() && lines.last().isEmpty())
-        lines.removeLast();
-    return lines.join(u'\n');
+    text.remove(u'\r').remove(QRegularExpression("[ \t]+(?=\n|$)"));
+    return text.remove(QRegularExpression("\n+$"));
 }
 } // namespace
 

@@ -1,6 +1,6 @@
 #include "Look.h"
 #include "platform/SafeFile.h"
-#include "platform/TestTable.h"
+#include "support/TestTable.h"
 
 #include <QTest>
 
@@ -11,11 +11,6 @@ RichTextBox &found(RichTextBox &box, const QString &text)
     if (box.find(text, 0, {}) < 0)
         qFatal("not found: %s", qPrintable(text));
     return box;
-}
-
-void makeEmpty(RichTextBox &box)
-{
-    box.setText({});
 }
 
 void makeSimple(RichTextBox &box)
@@ -81,7 +76,7 @@ class TestRtfWriter : public QObject
 private Q_SLOTS:
     void layoutIsPinned_data()
     {
-        addTable<Make>({"make"}, {{"vide", makeEmpty},
+        addTable<Make>({"make"}, {{"vide", [](RichTextBox &) {}},
                                   {"simple", makeSimple},
                                   {"styles", makeStyles},
                                   {"paragraphes", makeParagraphs},

@@ -123,6 +123,7 @@ private Q_SLOTS:
                             const QByteArray &damage) {
             QTest::newRow(name) << bytes.replace(at, damage.size(), damage);
         };
+        row("version above 32767", good, 0, "\x80");
         row("lowest above 32767", good, 2, "\x80");
         row("section above 2000", good, section + 4, QByteArray("\x07\xD1", 2));
         row("text beyond the end", good, section + 6, QByteArray("\x7F\xFF\xFF\xFF", 4));
