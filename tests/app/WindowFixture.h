@@ -6,6 +6,7 @@
 #include "support/PromptRecorder.h"
 
 #include <QAction>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
 #include <QToolButton>
@@ -62,20 +63,32 @@ public:
         const QRect entry = entries.visualItemRect(entries.item(row));
         QTest::mouseClick(entries.viewport(), Qt::LeftButton, {}, entry.center());
     }
-    QStringList entries(const char *list) const
+    // The entries of a list with strokes between them.
+    QString entries(const char *list) const
     {
         QStringList texts;
         const auto &widget = control<QListWidget>(list);
         for (int row = 0; row < widget.count(); ++row)
             texts.append(widget.item(row)->text());
-        return texts;
+        return texts.join(u'|');
+    }
+
+    QLineEdit &field(const char *name) const { return control<QLineEdit>(name); }
+    // Types over all of a field and confirms it.
+    void enter(QLineEdit &edit, const char *text) const
+    {
+        edit.setFocus();
+        edit.selectAll();
+        QTest::keyClick(&edit, Qt::Key_Backspace);
+        QTest::keyClicks(&edit, QString::fromUtf8(text));
+        QTest::keyClick(&edit, Qt::Key_Return);
     }
 
     // Types at the end of the paragraph on the screen.
-    void type(const QString &text) const
+    void type(const char *text) const
     {
         box().moveCursor(QTextCursor::End);
-        QTest::keyClicks(&box(), text);
+        QTest::keyClicks(&box(), QString::fromUtf8(text));
     }
 
     TestAdventure adventure;
