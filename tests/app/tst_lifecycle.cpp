@@ -50,30 +50,22 @@ private Q_SLOTS:
         QCOMPARE(fixture.box().text(), QStringLiteral("Bienvenue"));
     }
 
-    void closingAsksAboutUnsavedChanges_data()
-    {
-        QTest::addColumn<Prompts::Answer>("answer");
-        QTest::addColumn<bool>("closes");
-        QTest::addColumn<bool>("saved");
-        QTest::newRow("yes") << Prompts::Answer::Yes << true << true;
-        QTest::newRow("no") << Prompts::Answer::No << true << false;
-        QTest::newRow("cancel") << Prompts::Answer::Cancel << false << false;
-    }
     void closingAsksAboutUnsavedChanges()
     {
-        QFETCH(const Prompts::Answer, answer);
-        QFETCH(const bool, closes);
-        QFETCH(const bool, saved);
-        WindowFixture fixture(oneText());
-        fixture.type(" Du neuf.");
-        expectQuestion(fixture, answer);
-        QCOMPARE(fixture.window->close(), closes);
-        QCOMPARE(fixture.window->isVisible(), !closes);
-        const QByteArray file = fixture.adventure.content(QStringLiteral("Le Loup.usm"));
-        QCOMPARE(file.contains("Du neuf."), saved);
-        const QStringList files = fixture.adventure.workingFiles();
-        QCOMPARE(files.contains(QStringLiteral("LL-0012.rtf")), !closes);
-        QVERIFY(files.contains(QStringLiteral("Usmira Settings.xyz")));
+        using Answer = Prompts::Answer;
+        for (const Answer answer : {Answer::Yes, Answer::No, Answer::Cancel}) {
+            const bool closes = answer != Answer::Cancel;
+            WindowFixture fixture(oneText());
+            fixture.type(" Du neuf.");
+            expectQuestion(fixture, answer);
+            QCOMPARE(fixture.window->close(), closes);
+            QCOMPARE(fixture.window->isVisible(), !closes);
+            const QByteArray file = fixture.adventure.content(QStringLiteral("Le Loup.usm"));
+            QCOMPARE(file.contains("Du neuf."), answer == Answer::Yes);
+            const QStringList files = fixture.adventure.workingFiles();
+            QCOMPARE(files.contains(QStringLiteral("LL-0012.rtf")), !closes);
+            QVERIFY(files.contains(QStringLiteral("Usmira Settings.xyz")));
+        }
     }
 
     void failedSaveKeepsTheWindowOpen()
@@ -178,29 +170,6 @@ private Q_SLOTS:
         QCOMPARE(shown(), QStringLiteral("paragraphe 13 · 0 mot · 0 renvoi / modifié"));
         fixture.click("btnSave");
         QCOMPARE(shown(), QStringLiteral("paragraphe 13 · 0 mot · 0 renvoi / enregistré"));
-    }
-
-    void menusFollowTheAdventure()
-    {
-        WindowFixture fixture;
-        const auto items = {"menuAvSave", "menuNavNext", "menuNavFirstFree", "menuComCount"};
-        for (const char *item : items)
-            QVERIFY2(!fixture.control<QAction>(item).isEnabled(), item);
-        fixture.open(oneText().bytes());
-        // Their keys work before any menu has been opened.
-        for (const char *item : items)
-            QVERIFY2(fixture.control<QAction>(item).isEnabled(), item);
-    }
-
-    void countLeavesParagraphZeroOut()
-    {
-        WindowFixture fixture(AdventureBuilder(
-            {QStringLiteral("0: Notes."), QStringLiteral("1: Un."), QStringLiteral("2: Deux.")}));
-        fixture.window->LoadParg(3);
-        fixture.type("Trois.");
-        fixture.prompts.expect(QStringLiteral("Paragraphes rédigés : 3"), QStringLiteral("Compte"));
-        QTest::keyClick(fixture.window.get(), Qt::Key_K, Qt::ControlModifier);
-        QVERIFY(fixture.box().hasFocus());
     }
 
     void writeSaveReopen()

@@ -1,10 +1,5 @@
 #include "WindowFixture.h"
 
-#include "editor/NumberList.h"
-
-#include <QHelpEvent>
-#include <QToolTip>
-
 namespace
 {
 AdventureBuilder adventure()
@@ -71,17 +66,6 @@ private Q_SLOTS:
         list.setCurrentRow(1);
         QTest::keyClick(&list, Qt::Key_Return);
         QCOMPARE(fixture.current(), 7);
-    }
-
-    void toolTipShowsHowTheParagraphBegins()
-    {
-        const WindowFixture fixture(adventure().current(7));
-        auto &list = fixture.control<NumberList>("incomingList");
-        const QPoint point = list.visualItemRect(list.item(0)).center();
-        QHelpEvent help(QEvent::ToolTip, point, list.viewport()->mapToGlobal(point));
-        QCoreApplication::sendEvent(list.viewport(), &help);
-        QVERIFY(QToolTip::text().contains(QStringLiteral("Allez au 7.")));
-        QToolTip::hideText();
     }
 };
 

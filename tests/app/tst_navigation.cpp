@@ -1,7 +1,5 @@
 #include "WindowFixture.h"
 
-#include <algorithm>
-
 namespace
 {
 // Written: 2, 3, 5 and 8.
@@ -18,51 +16,49 @@ class tst_navigation : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void commandsGoToTheirParagraph_data()
-    {
-        QTest::addColumn<QByteArray>("command");
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        QTest::addColumn<int>("beeps");
-        const auto row = [](const char *name, const char *command, int from, int to,
-                            int beeps = 0) {
-            QTest::newRow(name) << QByteArray(command) << from << to << beeps;
-        };
-        row("first", "First", 5, 2);
-        row("last", "Last", 5, 8);
-        row("next", "Next", 3, 4);
-        row("next at the end", "Next", 2000, 2000);
-        row("next to the end", "Next", 1999, 2000);
-        row("previous reaches 0", "Prev", 1, 0);
-        row("previous at 0", "Prev", 0, 0);
-        row("next typed", "NextTyped", 3, 5);
-        row("no next typed", "NextTyped", 8, 8, 1);
-        row("previous typed", "PrevTyped", 2000, 8);
-        row("no previous typed", "PrevTyped", 2, 2, 1);
-        row("next empty", "NextEmpty", 2, 4);
-        row("no next empty", "NextEmpty", 2000, 2000, 1);
-        row("previous empty", "PrevEmpty", 3, 1);
-        row("no previous empty", "PrevEmpty", 0, 0, 1);
-    }
     void commandsGoToTheirParagraph()
     {
-        QFETCH(const QByteArray, command);
-        QFETCH(const int, from);
-        QFETCH(const int, to);
-        QFETCH(const int, beeps);
+        struct Case {
+            const char *command;
+            int from, to, beeps;
+        };
+        const Case cases[] = {{"First", 5, 2, 0},
+                              {"Last", 5, 8, 0},
+                              {"Next", 3, 4, 0},
+                              {"Next", 2000, 2000, 0},
+                              {"Next", 1999, 2000, 0},
+                              {"Prev", 1, 0, 0},
+                              {"Prev", 0, 0, 0},
+                              {"NextTyped", 3, 5, 0},
+                              {"NextTyped", 8, 8, 1},
+                              {"PrevTyped", 2000, 8, 0},
+                              {"PrevTyped", 2, 2, 1},
+                              {"NextEmpty", 2, 4, 0},
+                              {"NextEmpty", 2000, 2000, 1},
+                              {"PrevEmpty", 3, 1, 0},
+                              {"PrevEmpty", 0, 0, 1}};
         const WindowFixture fixture(fourParagraphs());
-        for (const bool byMenu : {false, true}) {
-            fixture.window->LoadParg(from);
-            fixture.field("txtPargNum").setFocus();
-            if (byMenu)
-                fixture.trigger("menuNav" + command);
-            else
-                fixture.click("btn" + command);
-            QCOMPARE(fixture.current(), to);
-            QCOMPARE(fixture.field("txtPargNum").text(), QString::number(to));
-            QCOMPARE(fixture.prompts.beeps(), byMenu ? 2 * beeps : beeps);
-            if (from != to || beeps > 0)
-                QVERIFY(fixture.box().hasFocus());
+        const QLineEdit &number = fixture.field("txtPargNum");
+        const auto text = QStringLiteral("%1 from %2: %3 %4, %5 beeps");
+        for (const Case &c : cases) {
+            for (const QString &control : {QStringLiteral("btn"), QStringLiteral("menuNav")}) {
+                fixture.window->LoadParg(c.from);
+                fixture.field("txtPargNum").setFocus();
+                const QString name = control + QLatin1String(c.command);
+                const int before = fixture.prompts.beeps();
+                if (control == QStringLiteral("btn"))
+                    fixture.click(name.toLatin1());
+                else
+                    fixture.trigger(name.toLatin1());
+                QCOMPARE(text.arg(name)
+                             .arg(c.from)
+                             .arg(fixture.current())
+                             .arg(number.text())
+                             .arg(fixture.prompts.beeps() - before),
+                         text.arg(name).arg(c.from).arg(c.to).arg(c.to).arg(c.beeps));
+                if (c.from != c.to || c.beeps > 0)
+                    QVERIFY(fixture.box().hasFocus());
+            }
         }
     }
 
@@ -89,36 +85,32 @@ private Q_SLOTS:
         QCOMPARE(fixture.adventure.variables.Extracted.at(8), quint8(0));
     }
 
-    void enterReadsTheNumberBox_data()
-    {
-        QTest::addColumn<QByteArray>("typed");
-        QTest::addColumn<int>("to");
-        QTest::addColumn<int>("beeps");
-        const auto row = [](const char *name, const QByteArray &typed, int to, int beeps = 0) {
-            QTest::newRow(name) << typed << to << beeps;
-        };
-        row("a written one", "8", 8);
-        row("the last", "2000", 2000);
-        row("beyond the last", "2001", 3, 1);
-        row("just below a half beyond", "2000.4", 2000);
-        row("rounded up", "12.7", 13);
-        row("half to even, down", "12.5", 12);
-        row("half to even, up", "13.5", 14);
-        row("nothing reads 0", "", 0);
-        row("letters are dropped with a beep each", "a1b2", 12, 2);
-        row("a sign is dropped with a beep", "-5", 5, 1);
-    }
     void enterReadsTheNumberBox()
     {
-        QFETCH(const QByteArray, typed);
-        QFETCH(const int, to);
-        QFETCH(const int, beeps);
-        const WindowFixture fixture(fourParagraphs().current(3));
-        fixture.enter(fixture.field("txtPargNum"), typed);
-        QCOMPARE(fixture.current(), to);
-        QCOMPARE(fixture.field("txtPargNum").text(), QString::number(to));
-        QCOMPARE(fixture.prompts.beeps(), beeps);
-        QCOMPARE(fixture.box().hasFocus(), to != 3);
+        struct Case {
+            const char *typed;
+            int to, beeps;
+        };
+        // Halves go to the even number; letters and signs are dropped with a beep each.
+        const Case cases[] = {{"8", 8, 0},         {"2000", 2000, 0}, {"2001", 3, 1},
+                              {"2000.4", 2000, 0}, {"12.7", 13, 0},   {"12.5", 12, 0},
+                              {"13.5", 14, 0},     {"", 0, 0},        {"a1b2", 12, 2},
+                              {"-5", 5, 1}};
+        const WindowFixture fixture(fourParagraphs());
+        const QLineEdit &number = fixture.field("txtPargNum");
+        const auto text = QStringLiteral("'%1' leads to %2 %3, %4 beeps");
+        for (const Case &c : cases) {
+            fixture.window->LoadParg(3);
+            const int before = fixture.prompts.beeps();
+            fixture.enter(fixture.field("txtPargNum"), c.typed);
+            const auto typed = QString::fromLatin1(c.typed);
+            QCOMPARE(text.arg(typed)
+                         .arg(fixture.current())
+                         .arg(number.text())
+                         .arg(fixture.prompts.beeps() - before),
+                     text.arg(typed).arg(c.to).arg(c.to).arg(c.beeps));
+            QCOMPARE(fixture.box().hasFocus(), c.to != 3);
+        }
     }
 
     void unconfirmedNumberIsDropped()
@@ -141,18 +133,6 @@ private Q_SLOTS:
         fixture.trigger("menuNavFirstFree");
         QCOMPARE(fixture.current(), 1);
         QVERIFY(!fixture.adventure.variables.ParagraphDirty);
-    }
-
-    void firstFreeOfAFullAdventure()
-    {
-        WindowFixture fixture(fourParagraphs());
-        Variables &variables = fixture.adventure.variables;
-        variables.LowestWritten = 1;
-        variables.HighestWritten = Variables::LastParagraph;
-        std::fill(variables.Written.begin() + 1, variables.Written.end() - 1, quint8(1));
-        fixture.prompts.expect(QStringLiteral("Tous les paragraphes sont écrits ou réservés !"),
-                               QStringLiteral("Aïe !"));
-        fixture.trigger("menuNavFirstFree");
     }
 
     void ctrlClickFollowsTheNumber()

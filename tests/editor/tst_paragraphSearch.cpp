@@ -57,6 +57,8 @@ private Q_SLOTS:
         v.Written[1200] = 0;
         QCOMPARE(firstFree(v, 1200), std::optional(1200));
     }
+
+    void countLeavesOutParagraphZero() { QCOMPARE(countWritten(written({0, 1, 2})), 2); }
 };
 
 QTEST_APPLESS_MAIN(tst_paragraphSearch)
