@@ -3,6 +3,7 @@
 #include "platform/Errors.h"
 #include "ui_helpWindow.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 helpWindow::helpWindow(const Variables &variables)
@@ -18,6 +19,10 @@ helpWindow::~helpWindow() = default;
 void helpWindow::showHelp(Tag tag)
 {
     load(tag);
+    // Where the author left it, once it is open.
+    const QWidget *asker = QApplication::activeWindow();
+    if (!isVisible() && asker != nullptr)
+        move(asker->geometry().center() - rect().center());
     show();
     raise();
     activateWindow();
