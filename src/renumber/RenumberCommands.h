@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/Prompts.h"
+#include "store/AdventureCommands.h"
+#include "store/Variables.h"
+
+#include <functional>
+
+class RenumberMap;
+
+// The commands that give paragraphs other numbers, behind their dialogs: each checks its numbers as
+// they were typed, builds a map and renumbers. They return whether they are done, so that the
+// dialog closes. When a number is refused, the author says No or a file fails, the author has been
+// told, nothing has changed and the dialog stays.
+//
+// The current paragraph must have been saved, and its number is to be shown again afterwards.
+// A fraction goes to the nearest whole number, a half to the even one.
+class RenumberCommands
+{
+public:
+    RenumberCommands(Variables &variables, Prompts &prompts, AdventureView &view);
+
+    // Exchanges two numbers. A fraction is rounded only once it is known to be within 1..2000.
+    bool Swap(double a, double b);
+
+    // Shuffles the numbers between low and high, both of which stay. random gives numbers within
+    // [0, 1).
+    bool MasterMix(double low, double high, const std::function<double()> &random);
+
+    // Moves the numbers low..high by delta to the lower or the higher ones.
+    bool MoveDown(double low, double high, double delta);
+    bool MoveUp(double low, double high, double delta);
+
+    // Closes up the empty numbers within low..high.
+    bool PackHoles(double low, double high);
+
+private:
+    bool renumber(const RenumberMap &map, int low, int high);
+    bool refuse(const QString &text, const QString &title);
+
+    Variables &m_variables;
+    Prompts &m_prompts;
+    AdventureView &m_view;
+};
