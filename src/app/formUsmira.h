@@ -42,6 +42,7 @@ public:
     void SaveCurParg() override;
     void adventureReplaced() override;
     void longWorkBegins(const QString &caption) override;
+    void longWorkProgress(int /*done*/, int /*total*/) override {}
     void longWorkEnds() override;
     void focusEditor() override;
 

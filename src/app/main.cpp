@@ -1,6 +1,8 @@
 #include "app/Desktop.h"
 #include "app/formUsmira.h"
 #include "platform/DialogPrompts.h"
+#include "platform/Failures.h"
+#include "store/Journal.h"
 #include "store/WorkingFolder.h"
 
 #include <QApplication>
@@ -22,6 +24,10 @@ int main(int argc, char *argv[])
     prepareWorkingFolder(variables.WorkingFolder, findBundledDocuments(programFolder));
 
     DialogPrompts prompts;
+    reportingFailures(prompts, [&] {
+        recoverJournal(variables.WorkingFolder);
+        return true;
+    });
     formUsmira window(variables, prompts);
     window.Form_Load();
     window.show();

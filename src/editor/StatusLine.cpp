@@ -33,8 +33,8 @@ QString describeParagraph(int n, QStringView text, const QString &targetPhrase)
     const QString separator = QStringLiteral(" · ");
     return QStringLiteral("paragraphe ") + QString::number(n) + separator +
            counted(countWords(text), QStringLiteral("mot"), QStringLiteral("mots")) + separator +
-           counted(findReferences(text, targetPhrase).size(), QStringLiteral("renvoi"),
-                   QStringLiteral("renvois"));
+           counted(referenceEntry(text, targetPhrase).size() / IndexEntryLength,
+                   QStringLiteral("renvoi"), QStringLiteral("renvois"));
 }
 
 StatusLine::StatusLine(const Variables &variables, const RichTextBox &box, QLabel &counts,

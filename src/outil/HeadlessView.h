@@ -13,6 +13,7 @@ public:
     void LoadParg(int n) override;
     void adventureReplaced() override {}
     void longWorkBegins(const QString & /*caption*/) override {}
+    void longWorkProgress(int /*done*/, int /*total*/) override {}
     void longWorkEnds() override {}
 
 private:

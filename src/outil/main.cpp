@@ -1,6 +1,7 @@
 #include "outil/Commands.h"
 #include "outil/ScriptPrompts.h"
 #include "platform/Failures.h"
+#include "store/Journal.h"
 #include "store/WorkingFolder.h"
 
 #include <QCommandLineParser>
@@ -85,6 +86,7 @@ int runScript(const QCommandLineParser &parser, QTextStream &errors)
     prepareWorkingFolder(variables.WorkingFolder,
                          findBundledDocuments(QCoreApplication::applicationDirPath()));
     ScriptPrompts prompts(errors, givenAnswer(parser));
+    recoverJournal(variables.WorkingFolder);
     Commands commands(variables, prompts);
     QFile output;
     output.open(stdout, QIODevice::WriteOnly);

@@ -14,3 +14,9 @@ FormatError::FormatError(qint64 position, const QString &expectation)
       m_position(position)
 {
 }
+
+UnreadableTexts::UnreadableTexts(const QList<int> &paragraphs)
+    : UsmiraError(QStringLiteral("%1 unreadable texts").arg(paragraphs.size())),
+      m_paragraphs(paragraphs)
+{
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <stdexcept>
 
@@ -37,4 +38,16 @@ public:
 
 private:
     qint64 m_position;
+};
+
+// Texts of the adventure cannot be read, by the numbers of their paragraphs.
+class UnreadableTexts : public UsmiraError
+{
+public:
+    explicit UnreadableTexts(const QList<int> &paragraphs);
+
+    const QList<int> &paragraphs() const { return m_paragraphs; }
+
+private:
+    QList<int> m_paragraphs;
 };

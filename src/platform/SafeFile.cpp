@@ -40,6 +40,54 @@ QString resolvedTarget(const QString &path)
     const QFileInfo info(path);
     return info.isSymLink() ? info.symLinkTarget() : path;
 }
+
+bool renamed(const QString &source, const QString &target)
+{
+    return std::rename(QFile::encodeName(source).constData(),
+                       QFile::encodeName(target).constData()) == 0;
+}
+
+// A file descriptor that is closed on every way out.
+class Descriptor
+{
+public:
+    Descriptor(const QString &path, int flags)
+        : m_path(path),
+          m_descriptor(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, 0666))
+    {
+        if (m_descriptor < 0)
+            failWrite(path, lastSystemError());
+    }
+    ~Descriptor() { ::close(m_descriptor); }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+
+    void write(QByteArrayView bytes) const
+    {
+        while (!bytes.isEmpty()) {
+            const ssize_t written =
+                ::write(m_descriptor, bytes.data(), static_cast<std::size_t>(bytes.size()));
+            if (written < 0 && errno == EINTR)
+                continue;
+            if (written <= 0)
+                failWrite(m_path, lastSystemError());
+            bytes = bytes.sliced(written);
+        }
+    }
+
+    // Some file systems know no sync of a folder.
+    void sync() const
+    {
+        if (::fsync(m_descriptor) != 0 && errno != EINVAL && errno != ENOTSUP)
+            failWrite(m_path, lastSystemError());
+    }
+
+    int number() const { return m_descriptor; }
+
+private:
+    QString m_path;
+    int m_descriptor;
+};
 } // namespace
 
 SafeFile::SafeFile(const QString &path, Durability durability, Links links)
@@ -90,6 +138,27 @@ void writeWholeFile(const QString &path, QByteArrayView bytes, Durability durabi
     file.commit();
 }
 
+void writeForLater(const QString &path, QByteArrayView bytes)
+{
+    removeFile(path);
+    const Descriptor file(path, O_WRONLY | O_CREAT | O_EXCL);
+    file.write(bytes);
+#ifndef Q_OS_LINUX
+    file.sync();
+#endif
+}
+
+void syncFileSystem(const QString &folder)
+{
+    const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
+#ifdef Q_OS_LINUX
+    if (::syncfs(descriptor.number()) != 0)
+        failWrite(folder, lastSystemError());
+#else
+    descriptor.sync(); // every file is synced as it is written
+#endif
+}
+
 QByteArray readWholeFile(const QString &path, qint64 limit)
 {
     const auto fail = [&path](const QString &why) {
@@ -113,6 +182,13 @@ void removeFile(const QString &path)
 {
     if (::unlink(QFile::encodeName(path).constData()) != 0 && errno != ENOENT)
         failWrite(path, lastSystemError());
+}
+
+void renameFile(const QString &source, const QString &target)
+{
+    if (std::rename(QFile::encodeName(source).constData(), QFile::encodeName(target).constData()) !=
+        0)
+        failWrite(target, lastSystemError());
 }
 
 void copyFile(const QString &source, const QString &target)
@@ -144,8 +220,7 @@ void moveIntoPlace(const QString &source, const QString &target)
             failWrite(target, QStringLiteral("read-only"));
         QFile::setPermissions(source, info.permissions());
     }
-    if (std::rename(QFile::encodeName(source).constData(),
-                    QFile::encodeName(resolved).constData()) == 0) {
+    if (renamed(source, resolved)) {
         syncFolder(info.absolutePath());
         return;
     }
@@ -157,14 +232,5 @@ void moveIntoPlace(const QString &source, const QString &target)
 
 void syncFolder(const QString &folder)
 {
-    const int descriptor =
-        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        failWrite(folder, lastSystemError());
-    const int result = ::fsync(descriptor);
-    const QString why = lastSystemError();
-    const bool unsupported = errno == EINVAL || errno == ENOTSUP;
-    ::close(descriptor);
-    if (result != 0 && !unsupported)
-        failWrite(folder, why);
+    Descriptor(folder, O_RDONLY | O_DIRECTORY).sync();
 }

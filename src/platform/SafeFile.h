@@ -16,9 +16,9 @@ enum class Links {
     Replace, // the link itself is replaced: in the working folder nothing leads elsewhere
 };
 
-// One file being written: the only way in which the program writes files. The target is replaced
-// whole by commit() or left untouched. Every failure throws FileError (Write) and leaves nothing
-// behind. Only regular files are replaced.
+// One file being written: with writeForLater() the only way in which the program writes files. The
+// target is replaced whole by commit() or left untouched. Every failure throws FileError (Write)
+// and leaves nothing behind. Only regular files are replaced.
 class SafeFile
 {
 public:
@@ -41,12 +41,24 @@ private:
 
 void writeWholeFile(const QString &path, QByteArrayView bytes, Durability durability, Links links);
 
+// A new file that counts only from a later commit on: it is complete, but on the disk for certain
+// only after syncFileSystem(). A file or link of that name goes first. Throws FileError (Write);
+// part of the file may then be left.
+void writeForLater(const QString &path, QByteArrayView bytes);
+
+// Brings everything written to the file system of a folder onto the disk. Throws FileError (Write).
+void syncFileSystem(const QString &folder);
+
 // The whole of a regular file. Throws FileError (Read) when it cannot be read, is no regular file
 // or is longer than limit bytes.
 QByteArray readWholeFile(const QString &path, qint64 limit);
 
 // Removes a file or a link. A file that is not there is no error. Throws FileError (Write).
 void removeFile(const QString &path);
+
+// Gives a file another name on the same file system; a file or link of that name goes. Throws
+// FileError (Write) and changes nothing.
+void renameFile(const QString &source, const QString &target);
 
 // Puts the complete file source in the place of target (links followed, permissions of the target
 // kept) and removes source: by rename on one file system, else by a safe copy. On failure throws

@@ -25,6 +25,7 @@ public:
 
     // Around long work: the caption stands in the place of the editing box meanwhile.
     virtual void longWorkBegins(const QString &caption) = 0;
+    virtual void longWorkProgress(int done, int total) = 0;
     virtual void longWorkEnds() = 0;
 };
 

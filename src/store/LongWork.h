@@ -11,6 +11,7 @@ public:
         m_view.longWorkBegins(caption);
     }
     ~LongWork() { m_view.longWorkEnds(); }
+    void progress(int done, int total) { m_view.longWorkProgress(done, total); }
     LongWork(const LongWork &) = delete;
     LongWork &operator=(const LongWork &) = delete;
 

@@ -3,6 +3,7 @@
 #include "platform/OpenedFile.h"
 #include "platform/SafeFile.h"
 #include "richtext/RichTextBox.h"
+#include "store/Journal.h"
 #include "store/ReferenceIndex.h"
 
 #include <QtEndian>
@@ -10,8 +11,13 @@
 
 namespace
 {
-// No paragraph is near this; a working file that is has been replaced by something else.
-constexpr qint64 LargestText = 32 * 1024 * 1024;
+// Files that a change of many paragraphs could not yet put in place come first: what lies under a
+// working file's name until then belongs to another paragraph.
+void finishLeftJournal(const Variables &variables)
+{
+    if (variables.JournalLeft)
+        finishJournal(variables.WorkingFolder);
+}
 
 // In the older files text n ends where text n + 1 begins.
 qint64 textLength(const Variables &variables, std::size_t n)
@@ -55,11 +61,17 @@ QString filePrefixOf(const QString &adventureFileName)
 
 QString workingFilePath(const Variables &variables, int n)
 {
-    return variables.WorkingFolder + variables.FilePrefix + fourDigits(n) + QStringLiteral(".rtf");
+    return workingFilePath(variables.WorkingFolder, variables.FilePrefix, n);
+}
+
+QString workingFilePath(const QString &workingFolder, const QString &filePrefix, int n)
+{
+    return workingFolder + filePrefix + fourDigits(n) + QStringLiteral(".rtf");
 }
 
 QByteArray GetParagraphRtf(const Variables &variables, int n)
 {
+    finishLeftJournal(variables);
     const auto index = static_cast<std::size_t>(n);
     if (variables.Extracted.at(index) == 1)
         return readWholeFile(workingFilePath(variables, n), LargestText);
@@ -73,6 +85,7 @@ void SaveCurParg(Variables &variables, RichTextBox &box)
 {
     if (!variables.ParagraphDirty)
         return;
+    finishLeftJournal(variables);
     const auto current = static_cast<std::size_t>(variables.CurrentParagraph);
     const QString text = box.text();
     if (text.isEmpty())
@@ -87,6 +100,7 @@ void SaveCurParg(Variables &variables, RichTextBox &box)
 
 void DiscardWorkingFiles(Variables &variables)
 {
+    finishLeftJournal(variables);
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
         auto &extracted = variables.Extracted.at(static_cast<std::size_t>(n));
         if (extracted == 0)

@@ -10,7 +10,6 @@ namespace
 // A reference's number is read from this many characters, no more: required, since authors rely on
 // what follows never joining a number.
 constexpr qsizetype NumberCharacters = 5;
-constexpr qsizetype EntryLength = 5; // "0026/"
 
 double numberAt(QStringView text, qsizetype position)
 {
@@ -23,29 +22,36 @@ bool isDigit(QChar c)
 }
 } // namespace
 
-QList<Reference> findReferences(QStringView text, const QString &phrase)
+std::optional<Reference> nextReference(QStringView text, const QString &phrase, qsizetype from)
 {
-    QList<Reference> references;
     if (phrase.isEmpty())
-        return references;
-    qsizetype found = text.indexOf(phrase, 0, Qt::CaseInsensitive);
+        return std::nullopt;
+    qsizetype found = text.indexOf(phrase, from, Qt::CaseInsensitive);
     while (found >= 0) {
         const qsizetype behind = found + phrase.size();
         const double number = numberAt(text, behind);
         if (number >= 1 && number <= Variables::LastParagraph)
-            references.append({behind, number});
+            return Reference{behind, number};
         found = text.indexOf(phrase, behind, Qt::CaseInsensitive);
     }
-    return references;
+    return std::nullopt;
+}
+
+QString referenceEntry(QStringView text, const QString &phrase)
+{
+    QString entry;
+    qsizetype from = 0;
+    while (const std::optional<Reference> reference = nextReference(text, phrase, from)) {
+        entry += fourDigits(roundHalfAway(reference->number)) + u'/';
+        from = reference->position;
+    }
+    return entry;
 }
 
 void ScanReferences(Variables &variables, QStringView text, int n)
 {
-    QString entry;
-    const QList<Reference> references = findReferences(text, variables.TargetPhrase);
-    for (const Reference &reference : references)
-        entry += fourDigits(roundHalfAway(reference.number)) + u'/';
-    variables.refIndex.at(static_cast<std::size_t>(n)) = entry;
+    variables.refIndex.at(static_cast<std::size_t>(n)) =
+        referenceEntry(text, variables.TargetPhrase);
 }
 
 void RebuildReferenceIndex(Variables &variables)
@@ -63,15 +69,21 @@ void RebuildReferenceIndex(Variables &variables)
     }
 }
 
+std::optional<int> indexedNumber(const QString &indexEntry, qsizetype position)
+{
+    bool ok = false;
+    const int number = QStringView(indexEntry).mid(position, IndexEntryLength - 1).toInt(&ok);
+    if (!ok || number < 0 || number > Variables::LastParagraph)
+        return std::nullopt;
+    return number;
+}
+
 QList<int> referredParagraphs(const QString &indexEntry)
 {
     QList<int> numbers;
-    for (qsizetype at = 0; at + EntryLength <= indexEntry.size(); at += EntryLength) {
-        bool ok = false;
-        const int number = QStringView(indexEntry).mid(at, EntryLength - 1).toInt(&ok);
-        if (ok && number >= 0 && number <= Variables::LastParagraph)
-            numbers.append(number);
-    }
+    for (qsizetype at = 0; at + IndexEntryLength <= indexEntry.size(); at += IndexEntryLength)
+        if (const std::optional<int> number = indexedNumber(indexEntry, at))
+            numbers.append(*number);
     return numbers;
 }
 

@@ -35,6 +35,10 @@ struct Variables {
     // program has put a different file under its name. Null for an adventure never written.
     std::shared_ptr<OpenedFile> AdventureFile;
 
+    // A change of many paragraphs has been committed but could not be put in place whole: whatever
+    // touches working files tries again first, see finishJournal().
+    bool JournalLeft = false;
+
     bool optNDash = false;
     bool optMDash = false;
     bool optBullet = false;

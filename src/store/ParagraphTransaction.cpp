@@ -1,0 +1,128 @@
+#include "store/ParagraphTransaction.h"
+
+#include "platform/Errors.h"
+#include "platform/SafeFile.h"
+#include "store/ParagraphStore.h"
+
+#include <algorithm>
+#include <set>
+
+ParagraphTransaction::ParagraphTransaction(Variables &variables) : m_variables(variables)
+{
+    finishJournal(m_variables.WorkingFolder);
+    m_variables.JournalLeft = false;
+}
+
+ParagraphTransaction::~ParagraphTransaction()
+{
+    if (m_committed)
+        return;
+    for (const auto &[number, change] : m_changes) {
+        try {
+            removeFile(parkingFilePath(m_variables.WorkingFolder, number));
+        } catch (const FileError &) {
+            continue; // it counts for nothing, and goes at the next start
+        }
+    }
+    removeSessionFolder(m_variables.WorkingFolder);
+}
+
+void ParagraphTransaction::change(const Change &change)
+{
+    // Noted first, so that half a file goes too.
+    m_changes[change.before] = {change.before, change.after, change.fixed, textSha256(change.rtf),
+                                change.references};
+    writeForLater(parkingFilePath(m_variables.WorkingFolder, change.before), change.rtf);
+}
+
+void ParagraphTransaction::empty(int n, bool fixed)
+{
+    m_emptied[n] = fixed;
+}
+
+QByteArray ParagraphTransaction::rtf(int n) const
+{
+    if (m_changes.count(n) != 0)
+        return readWholeFile(parkingFilePath(m_variables.WorkingFolder, n), LargestText);
+    return m_emptied.count(n) != 0 ? QByteArray() : GetParagraphRtf(m_variables, n);
+}
+
+void ParagraphTransaction::commit()
+{
+    const Journal decided = journal();
+    if (decided.placed.isEmpty() && decided.emptied.isEmpty())
+        return;
+    refuseLostTexts(decided);
+    makeSessionFolder(m_variables.WorkingFolder);
+    syncFileSystem(m_variables.WorkingFolder);
+    commitJournal(m_variables.WorkingFolder, decided);
+    m_committed = true;
+    place(decided);
+    takeOver(decided);
+}
+
+Journal ParagraphTransaction::journal() const
+{
+    Journal journal;
+    journal.filePrefix = m_variables.FilePrefix;
+    std::map<int, bool> emptied = m_emptied;
+    for (const auto &[number, change] : m_changes) {
+        journal.placed.append(change);
+        if (change.after != number)
+            emptied.try_emplace(number, false);
+    }
+    for (const Journal::Placed &placed : std::as_const(journal.placed))
+        emptied.erase(placed.after);
+    for (const auto &[number, fixed] : emptied)
+        journal.emptied.append({number, fixed});
+    return journal;
+}
+
+// Whatever the caller got wrong, no text may be written over by another.
+void ParagraphTransaction::refuseLostTexts(const Journal &journal) const
+{
+    std::set<int> taken;
+    for (const Journal::Placed &placed : journal.placed) {
+        const bool leaves =
+            m_changes.count(placed.after) != 0 || m_emptied.count(placed.after) != 0;
+        const bool written = m_variables.Written.at(static_cast<std::size_t>(placed.after)) == 1;
+        if (!taken.insert(placed.after).second || (written && !leaves))
+            throw UsmiraError(QStringLiteral("two texts for paragraph %1").arg(placed.after));
+    }
+}
+
+// Tried twice; the journal stays for a third time later.
+void ParagraphTransaction::place(const Journal &journal)
+{
+    m_variables.JournalLeft = true;
+    for (int attempt = 0; attempt < 2 && m_variables.JournalLeft; ++attempt) {
+        try {
+            placeJournal(m_variables.WorkingFolder, journal);
+            m_variables.JournalLeft = false;
+        } catch (const FileError &) {
+            continue;
+        }
+    }
+}
+
+void ParagraphTransaction::takeOver(const Journal &journal)
+{
+    for (const Journal::Emptied &emptied : journal.emptied) {
+        const auto n = static_cast<std::size_t>(emptied.number);
+        m_variables.Written.at(n) = 0;
+        m_variables.Extracted.at(n) = 0;
+        m_variables.Unmixable.at(n) = emptied.fixed ? 1 : 0;
+        m_variables.refIndex.at(n).clear();
+    }
+    for (const Journal::Placed &placed : journal.placed) {
+        const auto n = static_cast<std::size_t>(placed.after);
+        const auto number = static_cast<qint16>(placed.after);
+        m_variables.Written.at(n) = 1;
+        m_variables.Extracted.at(n) = 1;
+        m_variables.Unmixable.at(n) = placed.fixed ? 1 : 0;
+        m_variables.refIndex.at(n) = placed.references;
+        m_variables.LowestWritten = std::min(m_variables.LowestWritten, number);
+        m_variables.HighestWritten = std::max(m_variables.HighestWritten, number);
+    }
+    m_variables.AdventureModified = true;
+}
