@@ -2,15 +2,18 @@
 
 #include "editor/ParagraphSearch.h"
 #include "outil/StateReport.h"
+#include "platform/LenientNumbers.h"
 #include "platform/SafeFile.h"
 #include "richtext/RtfPlainText.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
 
 #include <QFileInfo>
+#include <QRandomGenerator>
+#include <QTime>
 #include <algorithm>
 
-// How many arguments a command takes is read off its form.
+// How many arguments a command takes is read off its form; those in brackets may be left out.
 struct Commands::Entry {
     QString name;
     QString form;
@@ -60,6 +63,14 @@ const std::vector<Commands::Entry> &Commands::entries()
          &Commands::mene},
         {text("libre"), text("N"), text("écrit le premier numéro libre après N"), true,
          &Commands::libre},
+        {text("echanger"), text("A B"), text("échange les numéros A et B"), true,
+         &Commands::echanger},
+        {text("melanger"), text("BAS HAUT [GRAINE]"),
+         text("mélange les paragraphes entre BAS et HAUT"), true, &Commands::melanger},
+        {text("deplacer"), text("BAS HAUT DELTA bas|haut"),
+         text("déplace le bloc BAS à HAUT de DELTA numéros"), true, &Commands::deplacer},
+        {text("combler"), text("BAS HAUT"), text("comble les trous entre BAS et HAUT"), true,
+         &Commands::combler},
         {text("etat"),
          {},
          text("écrit l'état de l'aventure en JSON, sur une ligne"),
@@ -71,7 +82,7 @@ const std::vector<Commands::Entry> &Commands::entries()
 
 Commands::Commands(Variables &variables, Prompts &prompts)
     : m_variables(variables), m_prompts(prompts), m_view(variables),
-      m_adventure(variables, prompts, m_view)
+      m_adventure(variables, prompts, m_view), m_renumber(variables, prompts, m_view)
 {
 }
 
@@ -83,7 +94,9 @@ QByteArray Commands::run(const QStringList &words)
                                     [&](const Entry &e) { return e.name == words.first(); });
     if (entry == entries().end())
         throw UsageError(QStringLiteral("commande inconnue : ") + words.first());
-    if (words.size() - 1 != entry->form.split(u' ', Qt::SkipEmptyParts).size())
+    const QStringList form = entry->form.split(u' ', Qt::SkipEmptyParts);
+    const qsizetype optional = entry->form.count(u'[');
+    if (words.size() - 1 > form.size() || words.size() - 1 < form.size() - optional)
         throw UsageError(QStringLiteral("attendu : %1 %2").arg(entry->name, entry->form).trimmed());
     if (entry->needsAdventure && !m_variables.AdventureOpen) {
         m_prompts.message(QStringLiteral("Aucun Fichier Ouvert"), QStringLiteral("Usmira"),
@@ -198,6 +211,52 @@ QByteArray Commands::libre(const QStringList &arguments)
     m_prompts.message(QStringLiteral("Tous les paragraphes sont écrits ou réservés !"),
                       QStringLiteral("Aïe !"), Prompts::Buttons::Ok);
     return {};
+}
+
+// The paragraph that now has the number on the screen comes onto it.
+QByteArray Commands::renumbered(bool done)
+{
+    if (done)
+        m_view.LoadParg(m_variables.CurrentParagraph);
+    return {};
+}
+
+QByteArray Commands::echanger(const QStringList &arguments)
+{
+    return renumbered(
+        m_renumber.Swap(lenientNumber(arguments.first()), lenientNumber(arguments.last())));
+}
+
+QByteArray Commands::melanger(const QStringList &arguments)
+{
+    const QString seed =
+        arguments.value(2, QString::number(QTime::currentTime().msecsSinceStartOfDay()));
+    bool ok = false;
+    QRandomGenerator generator(seed.toUInt(&ok));
+    if (!ok)
+        throw UsageError(QStringLiteral("graine de 0 à 4294967295 attendue : ") + seed);
+    return renumbered(m_renumber.MasterMix(lenientNumber(arguments.at(0)),
+                                           lenientNumber(arguments.at(1)),
+                                           [&generator] { return generator.generateDouble(); }));
+}
+
+QByteArray Commands::deplacer(const QStringList &arguments)
+{
+    const double low = lenientNumber(arguments.at(0));
+    const double high = lenientNumber(arguments.at(1));
+    const double delta = lenientNumber(arguments.at(2));
+    const QString &towards = arguments.at(3);
+    if (towards == QStringLiteral("bas"))
+        return renumbered(m_renumber.MoveDown(low, high, delta));
+    if (towards == QStringLiteral("haut"))
+        return renumbered(m_renumber.MoveUp(low, high, delta));
+    throw UsageError(QStringLiteral("bas ou haut attendu : ") + towards);
+}
+
+QByteArray Commands::combler(const QStringList &arguments)
+{
+    return renumbered(
+        m_renumber.PackHoles(lenientNumber(arguments.first()), lenientNumber(arguments.last())));
 }
 
 QByteArray Commands::etat(const QStringList & /*arguments*/)

@@ -2,6 +2,7 @@
 
 #include "outil/HeadlessView.h"
 #include "outil/Script.h"
+#include "renumber/RenumberCommands.h"
 #include "store/AdventureCommands.h"
 
 #include <QByteArray>
@@ -39,12 +40,18 @@ private:
     QByteArray texteBrut(const QStringList &arguments);
     QByteArray mene(const QStringList &arguments);
     QByteArray libre(const QStringList &arguments);
+    QByteArray echanger(const QStringList &arguments);
+    QByteArray melanger(const QStringList &arguments);
+    QByteArray deplacer(const QStringList &arguments);
+    QByteArray combler(const QStringList &arguments);
     QByteArray etat(const QStringList &arguments);
 
+    QByteArray renumbered(bool done);
     void replaceParagraph(int n, const std::function<void(RichTextBox &)> &change);
 
     Variables &m_variables;
     Prompts &m_prompts;
     HeadlessView m_view;
     AdventureCommands m_adventure;
+    RenumberCommands m_renumber;
 };

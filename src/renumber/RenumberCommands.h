@@ -1,12 +1,11 @@
 #pragma once
 
 #include "platform/Prompts.h"
+#include "renumber/MapBuilders.h"
 #include "store/AdventureCommands.h"
 #include "store/Variables.h"
 
 #include <functional>
-
-class RenumberMap;
 
 // The commands that give paragraphs other numbers, behind their dialogs: each checks its numbers as
 // they were typed, builds a map and renumbers. They return whether they are done, so that the
@@ -28,15 +27,24 @@ public:
     bool MasterMix(double low, double high, const std::function<double()> &random);
 
     // Moves the numbers low..high by delta to the lower or the higher ones.
-    bool MoveDown(double low, double high, double delta);
-    bool MoveUp(double low, double high, double delta);
+    bool MoveDown(double low, double high, double delta)
+    {
+        return MoveBlock(low, high, delta, Towards::Lower);
+    }
+    bool MoveUp(double low, double high, double delta)
+    {
+        return MoveBlock(low, high, delta, Towards::Higher);
+    }
 
     // Closes up the empty numbers within low..high.
     bool PackHoles(double low, double high);
 
 private:
+    bool MoveBlock(double low, double high, double delta, Towards towards);
+    bool mayMoveFixed(int a, int b);
     bool renumber(const RenumberMap &map, int low, int high);
     bool refuse(const QString &text, const QString &title);
+    bool refuseRange();
 
     Variables &m_variables;
     Prompts &m_prompts;

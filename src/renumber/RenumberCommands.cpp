@@ -1,0 +1,145 @@
+#include "renumber/RenumberCommands.h"
+
+#include "platform/Failures.h"
+#include "platform/LenientNumbers.h"
+#include "renumber/RenumberParagraphs.h"
+#include "store/LongWork.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace
+{
+struct Range {
+    qint64 low;
+    qint64 high;
+};
+
+Range orderedRange(double low, double high)
+{
+    const Range range{roundHalfEven(low), roundHalfEven(high)};
+    return range.low <= range.high ? range : Range{range.high, range.low};
+}
+
+bool isWithin(const Range &range)
+{
+    return range.low >= 1 && range.high <= Variables::LastParagraph;
+}
+
+QString withLastNumber(const QString &text)
+{
+    return text + QStringLiteral(" %1.").arg(Variables::LastParagraph);
+}
+} // namespace
+
+RenumberCommands::RenumberCommands(Variables &variables, Prompts &prompts, AdventureView &view)
+    : m_variables(variables), m_prompts(prompts), m_view(view)
+{
+}
+
+bool RenumberCommands::Swap(double a, double b)
+{
+    const auto isNumber = [](double n) { return n >= 1 && n <= Variables::LastParagraph; };
+    if (!isNumber(a) || !isNumber(b))
+        return refuse(withLastNumber(QStringLiteral("Vous devez spécifier deux chiffres différents "
+                                                    "entre 1 et")),
+                      QStringLiteral("C'est la loi"));
+    const int first = roundHalfEven(a);
+    const int second = roundHalfEven(b);
+    return mayMoveFixed(first, second) &&
+           renumber(SwapMap(first, second), std::min(first, second), std::max(first, second));
+}
+
+bool RenumberCommands::mayMoveFixed(int a, int b)
+{
+    const bool fixed = m_variables.Unmixable.at(static_cast<std::size_t>(a)) == 1 ||
+                       m_variables.Unmixable.at(static_cast<std::size_t>(b)) == 1;
+    return !fixed ||
+           m_prompts.message(
+               QStringLiteral("Vous allez échanger un ou deux paragraphes que vous avez déclarés "
+                              "Fixes. Échanger quand même ?"),
+               QStringLiteral("Attention"), Prompts::Buttons::YesNo) == Prompts::Answer::Yes;
+}
+
+bool RenumberCommands::MasterMix(double low, double high, const std::function<double()> &random)
+{
+    const Range range = orderedRange(low, high);
+    if (!isWithin(range))
+        return refuseRange();
+    if (range.high - range.low + 1 <= 3)
+        return refuse(QStringLiteral("MasterMix n'aura aucun effet si vous Mélangez 3 paragraphes "
+                                     "ou moins."),
+                      QStringLiteral("Songez-y"));
+    const int first = static_cast<int>(range.low);
+    const int last = static_cast<int>(range.high);
+    return renumber(MixMap(first, last, m_variables.Unmixable, random), first, last);
+}
+
+bool RenumberCommands::MoveBlock(double low, double high, double delta, Towards towards)
+{
+    const Range block = orderedRange(low, high);
+    const qint64 distance = roundHalfEven(delta);
+    const bool lower = towards == Towards::Lower;
+    const Range span{lower ? block.low - distance : block.low,
+                     lower ? block.high : block.high + distance};
+    if (!isWithin(span))
+        return refuse(withLastNumber(QStringLiteral("Tous les paragraphes doivent être (et rester) "
+                                                    "entre 1 et")),
+                      QStringLiteral("Zut"));
+    if (distance == 0)
+        return refuse(QStringLiteral("Il ne sert à rien de déplacer de 0 unités."),
+                      QStringLiteral("Zut"));
+    return renumber(BlockMoveMap(static_cast<int>(block.low), static_cast<int>(block.high),
+                                 static_cast<int>(distance), towards, m_variables.Unmixable),
+                    static_cast<int>(span.low), static_cast<int>(span.high));
+}
+
+bool RenumberCommands::PackHoles(double low, double high)
+{
+    const Range range = orderedRange(low, high);
+    if (!isWithin(range))
+        return refuseRange();
+    // Two numbers are refused too, although the text lets one expect otherwise: required.
+    if (range.high - range.low <= 1)
+        return refuse(QStringLiteral("L'intervalle doit couvrir au moins 2 paragraphes."),
+                      QStringLiteral("Zut"));
+    const int first = static_cast<int>(range.low);
+    const int last = static_cast<int>(range.high);
+    const std::optional<RenumberMap> map =
+        PackHolesMap(first, last, m_variables.Written, m_variables.Unmixable);
+    return !map || renumber(*map, first, last);
+}
+
+// The engine visits the written range alone, so that it must cover every number that the map moves.
+bool RenumberCommands::renumber(const RenumberMap &map, int low, int high)
+{
+    const std::pair before(m_variables.LowestWritten, m_variables.HighestWritten);
+    m_variables.LowestWritten = std::min(m_variables.LowestWritten, static_cast<qint16>(low));
+    m_variables.HighestWritten = std::max(m_variables.HighestWritten, static_cast<qint16>(high));
+    const bool done = reportingFailures(m_prompts, [&] {
+        LongWork work(m_view, QStringLiteral("Renumérotation..."));
+        RenumberParagraphs(m_variables, map,
+                           [&work](int part, int total) { work.progress(part, total); });
+        return true;
+    });
+    if (!done) {
+        std::tie(m_variables.LowestWritten, m_variables.HighestWritten) = before;
+        return false;
+    }
+    RecomputeWrittenRange(m_variables);
+    m_variables.AdventureModified = true;
+    return true;
+}
+
+bool RenumberCommands::refuse(const QString &text, const QString &title)
+{
+    m_prompts.message(text, title, Prompts::Buttons::Ok);
+    return false;
+}
+
+bool RenumberCommands::refuseRange()
+{
+    return refuse(withLastNumber(QStringLiteral("Vous devez spécifier des paragraphes entre 1 et")),
+                  QStringLiteral("Zut"));
+}

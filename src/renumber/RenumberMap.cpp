@@ -1,0 +1,19 @@
+#include "renumber/RenumberMap.h"
+
+#include <numeric>
+#include <utility>
+
+RenumberMap::RenumberMap()
+{
+    std::iota(m_numbers.begin(), m_numbers.end(), qint16{0});
+}
+
+void RenumberMap::exchange(int a, int b)
+{
+    std::swap(m_numbers.at(static_cast<std::size_t>(a)), m_numbers.at(static_cast<std::size_t>(b)));
+}
+
+bool RenumberMap::movesNothing() const
+{
+    return m_numbers == RenumberMap().m_numbers;
+}

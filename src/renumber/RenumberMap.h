@@ -1,0 +1,27 @@
+#pragma once
+
+#include "store/Variables.h"
+
+#include <QtGlobal>
+#include <array>
+
+// The new number of each paragraph 0..2000. Whoever builds one makes a permutation: every number is
+// the new number of exactly one. A new map leaves every paragraph where it is.
+class RenumberMap
+{
+public:
+    RenumberMap();
+
+    int of(int n) const { return m_numbers.at(static_cast<std::size_t>(n)); }
+    void set(int n, int newNumber)
+    {
+        m_numbers.at(static_cast<std::size_t>(n)) = static_cast<qint16>(newNumber);
+    }
+    void exchange(int a, int b);
+
+    bool moves(int n) const { return of(n) != n; }
+    bool movesNothing() const;
+
+private:
+    std::array<qint16, Variables::LastParagraph + 1> m_numbers;
+};

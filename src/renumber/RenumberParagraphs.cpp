@@ -1,0 +1,129 @@
+#include "renumber/RenumberParagraphs.h"
+
+#include "platform/Errors.h"
+#include "platform/LenientNumbers.h"
+#include "richtext/HiddenBox.h"
+#include "store/ParagraphTransaction.h"
+#include "store/ReferenceIndex.h"
+
+namespace
+{
+bool isWritten(const Variables &variables, int n)
+{
+    return variables.Written.at(static_cast<std::size_t>(n)) == 1;
+}
+
+// An entry of the index with the new numbers; what is no number there stays.
+QString renumberedEntry(QString entry, const RenumberMap &map)
+{
+    for (qsizetype at = 0; at + IndexEntryLength <= entry.size(); at += IndexEntryLength) {
+        const std::optional<int> number = indexedNumber(entry, at);
+        if (number && map.moves(*number))
+            entry.replace(at, IndexEntryLength - 1, fourDigits(map.of(*number)));
+    }
+    return entry;
+}
+
+class Renumbering
+{
+public:
+    Renumbering(Variables &variables, const RenumberMap &map)
+        : m_variables(variables), m_map(map), m_transaction(variables)
+    {
+    }
+
+    void run(const Progress &progress)
+    {
+        const int lowest = m_variables.LowestWritten;
+        const int total = m_variables.HighestWritten - lowest + 1;
+        for (int n = lowest; n < lowest + total; ++n) {
+            if (isWritten(m_variables, n))
+                visit(n);
+            progress(n - lowest + 1, total);
+        }
+        if (!m_unreadable.isEmpty())
+            throw UnreadableTexts(m_unreadable);
+        m_transaction.commit();
+    }
+
+private:
+    // A text in which the index shows no number that changes is left as it is, even if other
+    // references of it would be written differently.
+    void visit(int n)
+    {
+        const QString &entry = m_variables.refIndex.at(static_cast<std::size_t>(n));
+        const QString renumbered = renumberedEntry(entry, m_map);
+        const bool rewrites = renumbered != entry;
+        if (!rewrites && !m_map.moves(n))
+            return;
+        if (!load(n) || !m_unreadable.isEmpty())
+            return;
+        if (rewrites)
+            rewriteReferences(m_hiddenBox, m_variables.TargetPhrase, m_map);
+        m_transaction.change({n, m_map.of(n), m_hiddenBox.rtf(),
+                              m_map.moves(n) ? scanned() : renumbered, staysFixed(m_map.of(n))});
+    }
+
+    bool load(int n)
+    {
+        try {
+            m_hiddenBox.setRtf(m_transaction.rtf(n));
+            return true;
+        } catch (const UsmiraError &) {
+            m_unreadable.append(n);
+            return false;
+        }
+    }
+
+    // A moved text is scanned afresh, so that references that the index missed come into it.
+    QString scanned() const { return referenceEntry(m_hiddenBox.text(), m_variables.TargetPhrase); }
+
+    bool staysFixed(int n) const
+    {
+        const bool left = isWritten(m_variables, n) && m_map.moves(n);
+        return !left && m_variables.Unmixable.at(static_cast<std::size_t>(n)) == 1;
+    }
+
+    Variables &m_variables;
+    const RenumberMap &m_map;
+    ParagraphTransaction m_transaction;
+    HiddenBox m_hiddenBox;
+    QList<int> m_unreadable;
+};
+} // namespace
+
+void RenumberParagraphs(Variables &variables, const RenumberMap &map, const Progress &progress)
+{
+    if (!map.movesNothing())
+        Renumbering(variables, map).run(progress);
+}
+
+void RecomputeWrittenRange(Variables &variables)
+{
+    qint16 lowest = 0;
+    while (lowest < Variables::LastParagraph && !isWritten(variables, lowest))
+        ++lowest;
+    qint16 highest = Variables::LastParagraph;
+    while (highest > lowest && !isWritten(variables, highest))
+        --highest;
+    const bool none = !isWritten(variables, lowest);
+    variables.LowestWritten = none ? qint16{1} : lowest;
+    variables.HighestWritten = none ? qint16{1} : highest;
+}
+
+// The text changes under the search, which goes on just behind each phrase: also in the digits
+// that have come in.
+void rewriteReferences(RichTextBox &box, const QString &targetPhrase, const RenumberMap &map)
+{
+    QString text = box.text();
+    qsizetype from = 0;
+    while (const std::optional<Reference> reference = nextReference(text, targetPhrase, from)) {
+        from = reference->position;
+        const int number = roundHalfEven(reference->number);
+        const auto length = QString::number(number).size();
+        box.select(static_cast<int>(from), static_cast<int>(length));
+        const QString newNumber = QString::number(map.of(number));
+        text.replace(from, box.selLength(), newNumber);
+        box.setSelText(newNumber);
+    }
+}
