@@ -1,11 +1,9 @@
 #include "StoreFigures.h"
 
+#include "BenchEditor.h"
 #include "BigAdventure.h"
 #include "Figures.h"
-#include "outil/HeadlessView.h"
-#include "outil/ScriptPrompts.h"
 #include "platform/SafeFile.h"
-#include "store/AdventureCommands.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
 
@@ -18,31 +16,7 @@ namespace
 constexpr int Runs = 9;
 constexpr int SaveRuns = 5;
 
-// The whole editor but its window.
-struct Editor {
-    explicit Editor(const QString &folder)
-    {
-        variables.WorkingFolder = folder + QStringLiteral("/store/");
-        QDir().mkpath(variables.WorkingFolder);
-    }
-    // Makes working files of paragraphs 1..count, as an author at work would.
-    void touch(int count)
-    {
-        for (int n = 1; n <= count; ++n) {
-            view.LoadParg(n);
-            variables.ParagraphDirty = true;
-            SaveCurParg(variables, view.editingBox());
-        }
-    }
-
-    Variables variables;
-    QTextStream errors{stderr};
-    ScriptPrompts prompts{errors, std::nullopt};
-    HeadlessView view{variables};
-    AdventureCommands commands{variables, prompts, view};
-};
-
-void printReading(Editor &editor, const QString &path)
+void printReading(BenchEditor &editor, const QString &path)
 {
     const auto nothing = [] {};
     printFigure(QStringLiteral("open 2000 paragraphs"),
@@ -62,7 +36,7 @@ void printReading(Editor &editor, const QString &path)
                 QStringLiteral("ms"));
 }
 
-void printSaveOfOneParagraph(Editor &editor)
+void printSaveOfOneParagraph(BenchEditor &editor)
 {
     printFigure(QStringLiteral("save one paragraph"),
                 medianMilliseconds(
@@ -86,7 +60,7 @@ double plainWriteMilliseconds(const QString &path)
         });
 }
 
-void printSaves(Editor &editor, const QString &path)
+void printSaves(BenchEditor &editor, const QString &path)
 {
     const double plain = plainWriteMilliseconds(path);
     printFigure(QStringLiteral("write the same bytes in one file"), plain, QStringLiteral("ms"));
@@ -106,7 +80,7 @@ void printStoreFigures(const QString &path, const QString &folder)
     QFile::copy(path, copy);
     printFigure(QStringLiteral("adventure file"), static_cast<double>(QFileInfo(copy).size()) / 1e6,
                 QStringLiteral("MB"));
-    Editor editor(folder);
+    BenchEditor editor(folder + QStringLiteral("/store"));
     printReading(editor, copy);
     printSaveOfOneParagraph(editor);
     printSaves(editor, copy);
