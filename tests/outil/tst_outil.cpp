@@ -86,6 +86,30 @@ private Q_SLOTS:
         QVERIFY2(left.isEmpty(), qPrintable(left.join(u' ')));
     }
 
+    void paragraphsGetOtherNumbers()
+    {
+        TestAdventure adventure;
+        const QString path =
+            adventure.file(QStringLiteral("a.usm"), AdventureBuilder({QStringLiteral("1: Va au 4"),
+                                                                      QStringLiteral("4: Va au 9"),
+                                                                      QStringLiteral("9: Va au 1")})
+                                                        .bytes());
+        const Outcome outcome = run(adventure, {}, "ouvrir '" + path.toUtf8() + R"('
+echanger 1 4
+texte-brut 1
+combler 1 9
+texte-brut 3
+deplacer 3 3 2 bas
+texte-brut 1
+deplacer 1 3 5 haut
+mene 8
+melanger 9 4 7
+melanger 4 9
+)");
+        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(outcome.output.split('\r').join(), "Va au 9\nVa au 2\nVa au 2\n7\n");
+    }
+
     void failuresAndBadUsageHaveTheirStatus_data()
     {
         QTest::addColumn<QStringList>("commands");
@@ -105,6 +129,12 @@ private Q_SLOTS:
         row("unanswered question",
             {QStringLiteral("ouvrir @"), QStringLiteral("effacer 1"), QStringLiteral("ouvrir @")},
             1, QStringLiteral("Rappel amical"));
+        row("nonsense numbers", {QStringLiteral("ouvrir @"), QStringLiteral("echanger 0 x")}, 1,
+            QStringLiteral("C'est la loi"));
+        row("nowhere to move", {QStringLiteral("ouvrir @"), QStringLiteral("deplacer 2 3 1 ici")},
+            2, QStringLiteral("bas ou haut"));
+        row("seed", {QStringLiteral("ouvrir @"), QStringLiteral("melanger 1 9 x")}, 2,
+            QStringLiteral("graine"));
         row("existing file", {QStringLiteral("nouvelle @")}, 1, QStringLiteral("existe déjà"));
     }
     void failuresAndBadUsageHaveTheirStatus()
