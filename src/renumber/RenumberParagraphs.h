@@ -1,16 +1,13 @@
 #pragma once
 
+#include "platform/Progress.h"
 #include "renumber/RenumberMap.h"
 
 #include <QString>
-#include <functional>
 
 class RichTextBox;
 
 // The engine under every command that gives paragraphs other numbers.
-
-// Told how far a long work is: done of total.
-using Progress = std::function<void(int done, int total)>;
 
 // Gives the written paragraphs the numbers of the map, with their texts, and rewrites the
 // references to them in every text that the reference index shows to have one. The caller has
