@@ -2,6 +2,7 @@
 
 #include "app/EditMenu.h"
 #include "app/WindowPlacement.h"
+#include "app/WorkDisplay.h"
 #include "editor/BoxKeys.h"
 #include "editor/FirstWords.h"
 #include "editor/ParagraphSearch.h"
@@ -14,7 +15,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -35,15 +35,9 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
 {
     m_ui->setupUi(this);
     resize(DesignSize);
-    auto *counts = new QLabel(this);
-    counts->setObjectName(QStringLiteral("lblCounts"));
-    auto *saved = new QLabel(this);
-    saved->setObjectName(QStringLiteral("lblSaved"));
-    m_ui->statusBar->setContentsMargins(8, 0, 8, 0);
-    m_ui->statusBar->addWidget(counts, 1);
-    m_ui->statusBar->addPermanentWidget(saved);
     m_visited = std::make_unique<VisitedList>(*m_ui->theList);
-    m_status = std::make_unique<StatusLine>(m_variables, *m_ui->rtfBox, *counts, *saved);
+    m_status = std::make_unique<StatusLine>(m_variables, *m_ui->rtfBox, *m_ui->statusBar);
+    m_work = std::make_unique<WorkDisplay>(*m_ui->labBehind, *m_ui->barWork, *m_ui->rtfBox);
     m_help = std::make_unique<helpWindow>(m_variables);
     connectAdventure();
     connectNavigation();
@@ -220,17 +214,17 @@ void formUsmira::adventureReplaced()
 void formUsmira::longWorkBegins(const QString &caption)
 {
     m_working = true;
-    m_focusAfterWork = m_ui->rtfBox->hasFocus();
-    m_ui->labBehind->setText(caption);
-    m_ui->rtfBox->hide();
-    repaint();
+    m_work->begin(caption);
+}
+
+void formUsmira::longWorkProgress(int done, int total)
+{
+    m_work->progress(done, total);
 }
 
 void formUsmira::longWorkEnds()
 {
-    m_ui->rtfBox->show();
-    if (m_focusAfterWork)
-        focusEditor();
+    m_work->end();
     m_working = false;
 }
 

@@ -13,6 +13,7 @@
 class QAction;
 class QToolButton;
 class StatusLine;
+class WorkDisplay;
 class helpWindow;
 
 namespace Ui
@@ -42,7 +43,7 @@ public:
     void SaveCurParg() override;
     void adventureReplaced() override;
     void longWorkBegins(const QString &caption) override;
-    void longWorkProgress(int /*done*/, int /*total*/) override {}
+    void longWorkProgress(int done, int total) override;
     void longWorkEnds() override;
     void focusEditor() override;
 
@@ -86,8 +87,8 @@ private:
     MenuStates m_menuStates;
     std::unique_ptr<VisitedList> m_visited;
     std::unique_ptr<StatusLine> m_status;
+    std::unique_ptr<WorkDisplay> m_work;
     std::unique_ptr<helpWindow> m_help;
-    bool m_loading = false;        // the program, not the author, is changing the box
-    bool m_working = false;        // long work is under way
-    bool m_focusAfterWork = false; // the editing box had the focus when it began
+    bool m_loading = false; // the program, not the author, is changing the box
+    bool m_working = false; // long work is under way
 };
