@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/FunctionsMenu.h"
 #include "editor/EditorView.h"
 #include "editor/MenuStates.h"
 #include "editor/Navigation.h"
@@ -45,6 +46,7 @@ public:
     void longWorkBegins(const QString &caption) override;
     void longWorkProgress(int done, int total) override;
     void longWorkEnds() override;
+    void showNothing() override;
     void focusEditor() override;
 
 protected:
@@ -64,11 +66,13 @@ private:
 
     void Form_Deactivate();
     void showAdventureOpen();
+    void setText(const QByteArray &rtf);
+    void setTextEditable(bool on);
     void showTabPanel();
     void showNumber();
+    void showCurrent(bool editable);
     void refreshFormatting();
     void fillIncomingList(int n);
-    QString wordsOf(int n) const;
 
     void rtfBox_Change();
     void theList_Click();
@@ -76,7 +80,6 @@ private:
     void btnVider_Click();
     void btnUnmixable_Click();
     void btnMore_Click();
-    void menuComCount_Click();
     void menuInfoAbout_Click();
 
     Variables &m_variables;
@@ -84,6 +87,7 @@ private:
     std::unique_ptr<Ui::formUsmira> m_ui;
     AdventureCommands m_adventure;
     Navigation m_navigation;
+    FunctionsMenu m_functions;
     MenuStates m_menuStates;
     std::unique_ptr<VisitedList> m_visited;
     std::unique_ptr<StatusLine> m_status;
