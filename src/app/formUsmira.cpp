@@ -2,6 +2,7 @@
 
 #include "app/EditMenu.h"
 #include "app/WindowPlacement.h"
+#include "app/WorkDisplay.h"
 #include "editor/BoxKeys.h"
 #include "editor/FirstWords.h"
 #include "editor/ParagraphSearch.h"
@@ -14,7 +15,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -31,19 +31,13 @@ QString settingsPath(const Variables &variables)
 formUsmira::formUsmira(Variables &variables, Prompts &prompts)
     : m_variables(variables), m_prompts(prompts), m_ui(std::make_unique<Ui::formUsmira>()),
       m_adventure(variables, prompts, *this), m_navigation(variables, prompts, *this),
-      m_menuStates(variables)
+      m_functions(variables, prompts, *this, *this), m_menuStates(variables)
 {
     m_ui->setupUi(this);
     resize(DesignSize);
-    auto *counts = new QLabel(this);
-    counts->setObjectName(QStringLiteral("lblCounts"));
-    auto *saved = new QLabel(this);
-    saved->setObjectName(QStringLiteral("lblSaved"));
-    m_ui->statusBar->setContentsMargins(8, 0, 8, 0);
-    m_ui->statusBar->addWidget(counts, 1);
-    m_ui->statusBar->addPermanentWidget(saved);
     m_visited = std::make_unique<VisitedList>(*m_ui->theList);
-    m_status = std::make_unique<StatusLine>(m_variables, *m_ui->rtfBox, *counts, *saved);
+    m_status = std::make_unique<StatusLine>(m_variables, *m_ui->rtfBox, *m_ui->statusBar);
+    m_work = std::make_unique<WorkDisplay>(*m_ui->labBehind, *m_ui->barWork, *m_ui->rtfBox);
     m_help = std::make_unique<helpWindow>(m_variables);
     connectAdventure();
     connectNavigation();
@@ -117,8 +111,8 @@ void formUsmira::connectLists()
                    [this] { theList_Click(); });
     connectGuarded(m_ui->incomingList, &NumberList::chosen, this, m_prompts,
                    [this] { incomingList_Click(); });
-    m_ui->theList->setFirstWords([this](int n) { return wordsOf(n); });
-    m_ui->incomingList->setFirstWords([this](int n) { return wordsOf(n); });
+    for (NumberList *list : {m_ui->theList, m_ui->incomingList})
+        list->setFirstWords([this](int n) { return firstWords(m_variables, n); });
     connect(m_ui->btnVider, &QToolButton::clicked, this, &formUsmira::btnVider_Click);
     connect(m_ui->btnUnmixable, &QCheckBox::clicked, this, &formUsmira::btnUnmixable_Click);
 }
@@ -144,8 +138,7 @@ void formUsmira::connectFormatting()
 void formUsmira::connectMenus()
 {
     connectEditMenu(*m_ui, *m_ui->rtfBox);
-    connectGuarded(m_ui->menuComCount, &QAction::triggered, this, m_prompts,
-                   [this] { menuComCount_Click(); });
+    m_functions.connectItems(*m_ui, m_menuStates);
     connect(m_ui->menuInfoAide, &QAction::triggered, this,
             [this] { m_help->showHelp(helpWindow::Tag::French); });
     connect(m_ui->menuInfoHelp, &QAction::triggered, this,
@@ -153,7 +146,6 @@ void formUsmira::connectMenus()
     connect(m_ui->menuInfoAbout, &QAction::triggered, this, &formUsmira::menuInfoAbout_Click);
     m_menuStates.add(*m_ui->menuAv, {m_ui->menuAvSave});
     m_menuStates.add(*m_ui->menuNav, m_ui->menuNav->actions());
-    m_menuStates.add(*m_ui->menuCommands, {m_ui->menuComCount});
 }
 
 void formUsmira::Form_Load()
@@ -190,14 +182,31 @@ RichTextBox &formUsmira::editingBox()
 
 void formUsmira::LoadParg(int n)
 {
-    {
-        const QScopedValueRollback loading(m_loading, true);
-        m_ui->rtfBox->setRtf(GetParagraphRtf(m_variables, n));
-    }
+    setText(GetParagraphRtf(m_variables, n));
     m_variables.CurrentParagraph = static_cast<qint16>(n);
-    m_variables.ParagraphDirty = false;
-    showNumber();
     m_visited->visit(n);
+    showCurrent(m_variables.AdventureOpen);
+}
+
+void formUsmira::showNothing()
+{
+    setText({});
+    showCurrent(false);
+}
+
+void formUsmira::setText(const QByteArray &rtf)
+{
+    const QScopedValueRollback loading(m_loading, true);
+    m_ui->rtfBox->setRtf(rtf);
+}
+
+// What stands around the box, once it holds what it is to show of the current number.
+void formUsmira::showCurrent(bool editable)
+{
+    const int n = m_variables.CurrentParagraph;
+    m_variables.ParagraphDirty = false;
+    setTextEditable(editable);
+    showNumber();
     m_ui->btnUnmixable->setChecked(m_variables.Unmixable.at(static_cast<size_t>(n)) == 1);
     refreshFormatting();
     fillIncomingList(n);
@@ -220,17 +229,17 @@ void formUsmira::adventureReplaced()
 void formUsmira::longWorkBegins(const QString &caption)
 {
     m_working = true;
-    m_focusAfterWork = m_ui->rtfBox->hasFocus();
-    m_ui->labBehind->setText(caption);
-    m_ui->rtfBox->hide();
-    repaint();
+    m_work->begin(caption);
+}
+
+void formUsmira::longWorkProgress(int done, int total)
+{
+    m_work->progress(done, total);
 }
 
 void formUsmira::longWorkEnds()
 {
-    m_ui->rtfBox->show();
-    if (m_focusAfterWork)
-        focusEditor();
+    m_work->end();
     m_working = false;
 }
 
@@ -282,9 +291,7 @@ void formUsmira::closeEvent(QCloseEvent *event)
 void formUsmira::showAdventureOpen()
 {
     const bool open = m_variables.AdventureOpen;
-    m_ui->rtfBox->setReadOnly(!open);
-    m_ui->formattingBar->setEditable(open);
-    m_ui->frameTabPanel->setEnabled(open);
+    setTextEditable(open);
     m_ui->btnSave->setEnabled(open);
     m_ui->btnUnmixable->setEnabled(open);
     for (QToolButton *button :
@@ -295,6 +302,13 @@ void formUsmira::showAdventureOpen()
     m_menuStates.refresh();
     showNumber();
     m_status->refresh();
+}
+
+void formUsmira::setTextEditable(bool on)
+{
+    m_ui->rtfBox->setReadOnly(!on);
+    m_ui->formattingBar->setEditable(on);
+    m_ui->frameTabPanel->setEnabled(on);
 }
 
 void formUsmira::showTabPanel()
@@ -325,11 +339,6 @@ void formUsmira::fillIncomingList(int n)
     const QList<int> incoming = incomingParagraphs(m_variables, n);
     for (const int from : incoming)
         m_ui->incomingList->addItem(PadNumber(from));
-}
-
-QString formUsmira::wordsOf(int n) const
-{
-    return firstWords(m_variables, n);
 }
 
 void formUsmira::rtfBox_Change()
@@ -376,17 +385,6 @@ void formUsmira::btnMore_Click()
     m_variables.showTabPanel = m_variables.showTabPanel != 0 ? 0 : -1;
     showTabPanel();
     refreshFormatting();
-}
-
-void formUsmira::menuComCount_Click()
-{
-    if (!m_variables.AdventureOpen)
-        return;
-    SaveCurParg();
-    m_prompts.message(QStringLiteral("Paragraphes rédigés : ") +
-                          QString::number(countWritten(m_variables)),
-                      QStringLiteral("Compte"), Prompts::Buttons::Ok);
-    focusEditor();
 }
 
 void formUsmira::menuInfoAbout_Click()

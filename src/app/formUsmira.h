@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/FunctionsMenu.h"
 #include "editor/EditorView.h"
 #include "editor/MenuStates.h"
 #include "editor/Navigation.h"
@@ -13,6 +14,7 @@
 class QAction;
 class QToolButton;
 class StatusLine;
+class WorkDisplay;
 class helpWindow;
 
 namespace Ui
@@ -42,8 +44,9 @@ public:
     void SaveCurParg() override;
     void adventureReplaced() override;
     void longWorkBegins(const QString &caption) override;
-    void longWorkProgress(int /*done*/, int /*total*/) override {}
+    void longWorkProgress(int done, int total) override;
     void longWorkEnds() override;
+    void showNothing() override;
     void focusEditor() override;
 
 protected:
@@ -63,11 +66,13 @@ private:
 
     void Form_Deactivate();
     void showAdventureOpen();
+    void setText(const QByteArray &rtf);
+    void setTextEditable(bool on);
     void showTabPanel();
     void showNumber();
+    void showCurrent(bool editable);
     void refreshFormatting();
     void fillIncomingList(int n);
-    QString wordsOf(int n) const;
 
     void rtfBox_Change();
     void theList_Click();
@@ -75,7 +80,6 @@ private:
     void btnVider_Click();
     void btnUnmixable_Click();
     void btnMore_Click();
-    void menuComCount_Click();
     void menuInfoAbout_Click();
 
     Variables &m_variables;
@@ -83,11 +87,12 @@ private:
     std::unique_ptr<Ui::formUsmira> m_ui;
     AdventureCommands m_adventure;
     Navigation m_navigation;
+    FunctionsMenu m_functions;
     MenuStates m_menuStates;
     std::unique_ptr<VisitedList> m_visited;
     std::unique_ptr<StatusLine> m_status;
+    std::unique_ptr<WorkDisplay> m_work;
     std::unique_ptr<helpWindow> m_help;
-    bool m_loading = false;        // the program, not the author, is changing the box
-    bool m_working = false;        // long work is under way
-    bool m_focusAfterWork = false; // the editing box had the focus when it began
+    bool m_loading = false; // the program, not the author, is changing the box
+    bool m_working = false; // long work is under way
 };

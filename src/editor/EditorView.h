@@ -9,5 +9,9 @@ public:
     // Saves the editing box as the current paragraph. Throws FileError: the caller must then stay.
     virtual void SaveCurParg() = 0;
 
+    // After LoadParg has failed on the current number itself, whose text is no longer the one in
+    // the box: the box is empty and takes no text until LoadParg succeeds.
+    virtual void showNothing() = 0;
+
     virtual void focusEditor() = 0;
 };

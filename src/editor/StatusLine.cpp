@@ -4,6 +4,7 @@
 #include "store/ReferenceIndex.h"
 
 #include <QLabel>
+#include <QStatusBar>
 
 namespace
 {
@@ -37,21 +38,25 @@ QString describeParagraph(int n, QStringView text, const QString &targetPhrase)
                    QStringLiteral("renvoi"), QStringLiteral("renvois"));
 }
 
-StatusLine::StatusLine(const Variables &variables, const RichTextBox &box, QLabel &counts,
-                       QLabel &saved)
-    : m_variables(variables), m_box(box), m_counts(counts), m_saved(saved)
+StatusLine::StatusLine(const Variables &variables, const RichTextBox &box, QStatusBar &bar)
+    : m_variables(variables), m_box(box), m_counts(new QLabel(&bar)), m_saved(new QLabel(&bar))
 {
+    m_counts->setObjectName(QStringLiteral("lblCounts"));
+    m_saved->setObjectName(QStringLiteral("lblSaved"));
+    bar.setContentsMargins(8, 0, 8, 0);
+    bar.addWidget(m_counts, 1);
+    bar.addPermanentWidget(m_saved);
 }
 
 void StatusLine::refresh()
 {
     if (!m_variables.AdventureOpen) {
-        m_counts.setText(QStringLiteral("aucune aventure ouverte"));
-        m_saved.clear();
+        m_counts->setText(QStringLiteral("aucune aventure ouverte"));
+        m_saved->clear();
         return;
     }
-    m_counts.setText(
+    m_counts->setText(
         describeParagraph(m_variables.CurrentParagraph, m_box.text(), m_variables.TargetPhrase));
     const bool modified = m_variables.ParagraphDirty || m_variables.AdventureModified;
-    m_saved.setText(modified ? QStringLiteral("modifié") : QStringLiteral("enregistré"));
+    m_saved->setText(modified ? QStringLiteral("modifié") : QStringLiteral("enregistré"));
 }

@@ -3,21 +3,22 @@
 #include "store/Variables.h"
 
 class QLabel;
+class QStatusBar;
 class RichTextBox;
 
 // What the line under the editing box says of the paragraph on screen and of the adventure.
 class StatusLine
 {
 public:
-    StatusLine(const Variables &variables, const RichTextBox &box, QLabel &counts, QLabel &saved);
+    StatusLine(const Variables &variables, const RichTextBox &box, QStatusBar &bar);
 
     void refresh();
 
 private:
     const Variables &m_variables;
     const RichTextBox &m_box;
-    QLabel &m_counts;
-    QLabel &m_saved;
+    QLabel *m_counts;
+    QLabel *m_saved;
 };
 
 // "paragraphe 26 · 134 mots · 3 renvois". A word holds at least one letter or digit, so that a dash

@@ -4,6 +4,8 @@
 
 #include <QFocusEvent>
 #include <QRegularExpressionValidator>
+#include <QStyle>
+#include <QStyleOptionFrame>
 
 NumberBox::NumberBox(QWidget *parent) : QLineEdit(parent)
 {
@@ -22,6 +24,15 @@ void NumberBox::connectBeeps(QWidget &window, Prompts &prompts)
     const QList<NumberBox *> boxes = window.findChildren<NumberBox *>();
     for (NumberBox *box : boxes)
         connect(box, &QLineEdit::inputRejected, box, [&prompts] { prompts.beep(); });
+}
+
+QSize NumberBox::sizeHint() const
+{
+    const int height = QLineEdit::sizeHint().height();
+    const QSize number(fontMetrics().horizontalAdvance(QStringLiteral("000000")), height);
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    return {style()->sizeFromContents(QStyle::CT_LineEdit, &option, number, this).width(), height};
 }
 
 void NumberBox::focusInEvent(QFocusEvent *event)

@@ -19,6 +19,9 @@ public:
     // Every number box of a window beeps through prompts.
     static void connectBeeps(QWidget &window, Prompts &prompts);
 
+    // Room for a number, where a line edit takes that of a line of text.
+    QSize sizeHint() const override;
+
 protected:
     void focusInEvent(QFocusEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

@@ -133,7 +133,7 @@ private Q_SLOTS:
         const WindowFixture fixture;
         // Keys of commands of the editing box, and of those of the functions menu that come later.
         QSet<QString> used;
-        for (const QChar key : QStringLiteral("BIU3LGDMHPETJF"))
+        for (const QChar key : QStringLiteral("BIU3GDPTJF"))
             used.insert(QStringLiteral("Ctrl+") + key);
         const QList<QAction *> actions = fixture.window->findChildren<QAction *>();
         for (const QAction *action : actions) {
