@@ -1,8 +1,11 @@
 #include "WindowFixture.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QLabel>
+#include <QProgressBar>
 #include <QScrollBar>
+#include <QTimer>
 
 namespace
 {
@@ -24,6 +27,16 @@ void deactivate(const WindowFixture &fixture)
     QEvent event(QEvent::WindowDeactivate);
     QCoreApplication::sendEvent(fixture.window.get(), &event);
 }
+
+// Another window of the program, as a dialog that has started the work.
+class CountingWindow : public QWidget
+{
+public:
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override { ++paints; }
+};
 } // namespace
 
 // Start-up, settings, saving on the way out, and a story from end to end.
@@ -154,6 +167,32 @@ private Q_SLOTS:
         fixture.window->longWorkEnds();
         QVERIFY(fixture.box().isVisible());
         QVERIFY(fixture.box().hasFocus());
+    }
+
+    void longWorkPaintsButLetsNothingIn()
+    {
+        const WindowFixture fixture(oneText());
+        const auto &bar = fixture.control<QProgressBar>("barWork");
+        CountingWindow other;
+        other.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        bool letIn = false;
+        QTimer::singleShot(0, &other, [&letIn] { letIn = true; });
+        QElapsedTimer time;
+        time.start();
+        other.paints = 0;
+        fixture.window->longWorkBegins(QStringLiteral("Saving..."));
+        while (!bar.isVisible() && !time.hasExpired(20000))
+            fixture.window->longWorkProgress(30, 40);
+        QVERIFY(bar.isVisible());
+        QVERIFY(time.hasExpired(500));
+        QVERIFY2(other.paints >= 2 && other.paints <= 2 + time.elapsed() / 100,
+                 qPrintable(QString::number(other.paints)));
+        QCOMPARE(bar.value(), 30);
+        QCOMPARE(bar.maximum(), 40);
+        QVERIFY(!letIn);
+        fixture.window->longWorkEnds();
+        QVERIFY(!bar.isVisible());
     }
 
     void statusLineFollowsTheText()

@@ -1,0 +1,303 @@
+#include "app/WindowFixture.h"
+#include "platform/NumberBox.h"
+#include "renumber/RenumberCommands.h"
+#include "renumber/masterMix.h"
+#include "richtext/RtfPlainText.h"
+#include "store/ParagraphStore.h"
+#include "support/TestTable.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QPushButton>
+#include <QTimer>
+
+namespace
+{
+const QString RangeOf = "Vous devez spécifier des paragraphes entre 1 et 2000.|Zut";
+const QString SwapRange =
+    "Vous devez spécifier deux chiffres différents entre 1 et 2000.|C'est la loi";
+const QString BlockRange = "Tous les paragraphes doivent être (et rester) entre 1 et 2000.|Zut";
+
+// Written are 3, 5, 8 and 12; 5 is on the screen.
+AdventureBuilder fourParagraphs()
+{
+    return AdventureBuilder({"3: Trois.", "5: Cinq.", "8: Huit. Allez au 5.", "12: Douze."})
+        .current(5);
+}
+
+// The number boxes of a dialog in the order of its sentence.
+QList<NumberBox *> boxesOf(const QWidget &dialog)
+{
+    return dialog.findChildren<NumberBox *>();
+}
+
+QString textsOf(const QWidget &dialog)
+{
+    QStringList texts;
+    for (const NumberBox *box : boxesOf(dialog))
+        texts.append(box->text());
+    return texts.join('|');
+}
+
+// Types over all boxes, "3|12".
+void fill(const QWidget &dialog, const QString &numbers)
+{
+    const QStringList texts = numbers.split('|');
+    const QList<NumberBox *> boxes = boxesOf(dialog);
+    QCOMPARE(boxes.size(), texts.size());
+    for (qsizetype i = 0; i < boxes.size(); ++i) {
+        boxes.at(i)->selectAll();
+        QTest::keyClicks(boxes.at(i), texts.at(i));
+    }
+}
+
+void click(const QWidget &dialog, const QString &button)
+{
+    QTest::mouseClick(dialog.findChild<QPushButton *>(button), Qt::LeftButton);
+}
+
+// Presses the key of a command where the focus is and does the work in the dialog that comes. A
+// dialog that the work leaves open is cancelled. Gives the name of the dialog.
+QString inDialog(const WindowFixture &fixture, const QString &key,
+                 const std::function<void(QDialog &dialog)> &work)
+{
+    QString name;
+    QTimer::singleShot(0, fixture.window.get(), [&] {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        name = dialog->objectName();
+        if (QTest::qWaitForWindowActive(dialog))
+            work(*dialog);
+        if (dialog->isVisible())
+            dialog->reject();
+    });
+    QTest::keySequence(fixture.window->focusWidget(), QKeySequence(key));
+    QCoreApplication::processEvents(); // without a dialog the timer is still to come
+    return name;
+}
+
+// The platform of the tests does not itself activate the window that a dialog leaves.
+bool editorHasFocus(const WindowFixture &fixture)
+{
+    fixture.window->activateWindow();
+    return QTest::qWaitFor([&] { return fixture.box().hasFocus(); });
+}
+
+// "3 Trois. 5 Cinq.": what is written where.
+QString written(const Variables &variables)
+{
+    QStringList texts;
+    for (int n = 0; n <= Variables::LastParagraph; ++n) {
+        if (variables.Written.at(static_cast<std::size_t>(n)) == 1)
+            texts.append(QString::number(n) + ' ' + rtfToPlainText(GetParagraphRtf(variables, n)));
+    }
+    return texts.join(' ');
+}
+} // namespace
+
+class tst_renumberDialogs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void opensFilledAnewAndChangesNothingByItself_data()
+    {
+        addTable<QString, QString, QString, QString>(
+            {"key", "name", "title", "numbers"},
+            {{"MasterMix", "Ctrl+M", "masterMix", "MasterMix", "3|12"},
+             {"swap", "Ctrl+E", "exchangeDlog", "Section Swap", "5|5"},
+             {"block move", "Ctrl+L", "blockMove", "Block Move", "3|12|0"},
+             {"pack holes", "Ctrl+H", "packHoles", "Pack Holes", "3|12"}});
+    }
+    void opensFilledAnewAndChangesNothingByItself()
+    {
+        QFETCH(const QString, key);
+        WindowFixture fixture;
+        QCOMPARE(inDialog(fixture, key, [](QDialog &) {}), QString());
+        fixture.open(fourParagraphs().bytes());
+        QPoint away;
+        for (const bool escape : {false, true}) {
+            const QString name = inDialog(fixture, key, [&](const QDialog &dialog) {
+                QTEST(dialog.windowTitle(), "title");
+                QTEST(textsOf(dialog), "numbers");
+                NumberBox *first = boxesOf(dialog).first();
+                QTRY_VERIFY(first->hasFocus());
+                QCOMPARE(first->selectedText(), first->text());
+                away = dialog.geometry().center() - fixture.window->geometry().center();
+                for (NumberBox *box : boxesOf(dialog)) {
+                    QVERIFY(!box->accessibleName().isEmpty());
+                    const int beeps = fixture.prompts.beeps();
+                    QTest::keyClicks(box, "1a-7");
+                    QCOMPARE(fixture.prompts.beeps(), beeps + 2);
+                }
+                if (escape)
+                    QTest::keyClick(first, Qt::Key_Escape);
+                else
+                    click(dialog, "CancelButton");
+                QVERIFY(!dialog.isVisible());
+            });
+            QTEST(name, "name");
+            QVERIFY2(away.manhattanLength() < 48, "not centred on the window");
+            QVERIFY(editorHasFocus(fixture));
+            QVERIFY(!fixture.adventure.variables.AdventureModified);
+        }
+    }
+
+    // Enter in a box either confirms or is refused like a letter; on a button it presses it.
+    void refusedNumbersLeaveTheDialogOpen_data()
+    {
+        addTable<QString, QString, QString, QString, bool>(
+            {"key", "button", "numbers", "message", "enterConfirms"},
+            {{"MasterMix", "Ctrl+M", "OKButton", "7|2001", RangeOf, true},
+             {"swap", "Ctrl+E", "OKButton", "7|2001", SwapRange, true},
+             {"move down", "Ctrl+L", "MoveDown", "3|4|3", BlockRange, false},
+             {"move up", "Ctrl+L", "MoveUp", "3|1999|2", BlockRange, false},
+             {"pack holes", "Ctrl+H", "OKButton", "7|2001", RangeOf, false}});
+    }
+    void refusedNumbersLeaveTheDialogOpen()
+    {
+        QFETCH(const QString, key);
+        QFETCH(const QString, button);
+        QFETCH(const QString, numbers);
+        QFETCH(const bool, enterConfirms);
+        QFETCH(const QString, message);
+        WindowFixture fixture(fourParagraphs());
+        const auto expectRefusal = [&] {
+            fixture.prompts.expect(message.section('|', 0, 0), message.section('|', 1));
+        };
+        inDialog(fixture, key, [&](const QDialog &dialog) {
+            fill(dialog, numbers);
+            expectRefusal();
+            click(dialog, button);
+            for (NumberBox *box : boxesOf(dialog)) {
+                for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+                    if (enterConfirms)
+                        expectRefusal();
+                    const int beeps = fixture.prompts.beeps();
+                    box->setFocus();
+                    QTest::keyClick(box, enter);
+                    QCOMPARE(fixture.prompts.beeps() - beeps, enterConfirms ? 0 : 1);
+                }
+            }
+            expectRefusal();
+            auto *command = dialog.findChild<QPushButton *>(button);
+            command->setFocus();
+            QTest::keyClick(command, Qt::Key_Return);
+            QVERIFY(dialog.isVisible());
+            QCOMPARE(textsOf(dialog), numbers);
+            auto *cancel = dialog.findChild<QPushButton *>("CancelButton");
+            cancel->setFocus();
+            QTest::keyClick(cancel, Qt::Key_Return);
+            QVERIFY(!dialog.isVisible());
+        });
+        QVERIFY(!fixture.adventure.variables.AdventureModified);
+    }
+
+    // Between 8 and 12 there is no text that MasterMix could move.
+    void completedCommandShowsItsNumberAgain_data()
+    {
+        const QString exchanged = "3 Trois. 5 Huit. Allez au 8. 8 Cinq. Fin. 12 Douze.";
+        addTable<QString, QString, QString, QString>(
+            {"key", "button", "numbers", "written"},
+            {{"MasterMix", "Ctrl+M", "OKButton", "12|8",
+              "3 Trois. 5 Cinq. Fin. 8 Huit. Allez au 5. 12 Douze."},
+             {"swap", "Ctrl+E", "OKButton", "5|8", exchanged},
+             {"move down", "Ctrl+L", "MoveDown", "7|8|3", exchanged},
+             {"move up", "Ctrl+L", "MoveUp", "3|3|2",
+              "3 Cinq. Fin. 5 Trois. 8 Huit. Allez au 3. 12 Douze."},
+             {"pack holes", "Ctrl+H", "OKButton", "3|12",
+              "3 Trois. 4 Cinq. Fin. 5 Huit. Allez au 4. 6 Douze."}});
+    }
+    void completedCommandShowsItsNumberAgain()
+    {
+        QFETCH(const QString, key);
+        QFETCH(const QString, button);
+        QFETCH(const QString, numbers);
+        const WindowFixture fixture(fourParagraphs());
+        const Variables &variables = fixture.adventure.variables;
+        fixture.type(" Fin.");
+        fixture.field("txtPargNum").setFocus();
+        inDialog(fixture, key, [&](const QDialog &dialog) {
+            QVERIFY(!variables.ParagraphDirty);
+            fill(dialog, numbers);
+            click(dialog, button);
+            QVERIFY(!dialog.isVisible());
+        });
+        QTEST(written(variables), "written");
+        QCOMPARE(fixture.current(), 5);
+        QCOMPARE(fixture.box().text(), rtfToPlainText(GetParagraphRtf(variables, 5)));
+        QVERIFY(variables.AdventureModified);
+        QVERIFY(fixture.box().isVisible());
+        QVERIFY(editorHasFocus(fixture));
+    }
+
+    void eachClickDrawsFromTheTimeOfDay()
+    {
+        QStringList lines;
+        for (int n = 1; n <= 20; ++n)
+            lines.append(QString("%1: Texte %1.").arg(n));
+        QStringList orders;
+        for (const int second : {1, 1, 2}) {
+            const QTime time = QTime(0, 0).addSecs(second);
+            WindowFixture fixture{AdventureBuilder(lines)};
+            RenumberCommands commands(fixture.adventure.variables, fixture.prompts,
+                                      *fixture.window);
+            int asked = 0;
+            masterMix dialog(fixture.adventure.variables, fixture.prompts, commands, nullptr, [&] {
+                ++asked;
+                return time;
+            });
+            dialog.show();
+            fill(dialog, "0|20");
+            fixture.prompts.expect(RangeOf.section('|', 0, 0), RangeOf.section('|', 1));
+            click(dialog, "OKButton");
+            fill(dialog, "1|20");
+            click(dialog, "OKButton");
+            QVERIFY(!dialog.isVisible());
+            QCOMPARE(asked, 2);
+            orders.append(written(fixture.adventure.variables));
+        }
+        QCOMPARE(orders.at(0), orders.at(1));
+        QVERIFY(orders.at(0) != orders.at(2));
+    }
+
+    void paragraphThatCannotBeSavedOpensNoDialog()
+    {
+        WindowFixture fixture(fourParagraphs());
+        fixture.type(" Fin.");
+        QVERIFY(QDir(fixture.adventure.variables.WorkingFolder).mkdir("LL-0005.rtf"));
+        fixture.prompts.expect("Erreur pendant l'écriture du fichier.", "BUG");
+        QCOMPARE(inDialog(fixture, "Ctrl+E", [](QDialog &) {}), QString());
+        QVERIFY(fixture.adventure.variables.ParagraphDirty);
+        QCOMPARE(fixture.box().text(), "Cinq. Fin.");
+    }
+
+    // After "Annuler" the text in the box is still that of its number, and perhaps the last copy.
+    void textThatCannotBeShownAgainIsNotEdited()
+    {
+        for (const bool renumbered : {true, false}) {
+            WindowFixture fixture(fourParagraphs());
+            fixture.type(" Fin.");
+            const QString file = workingFilePath(fixture.adventure.variables, 5);
+            fixture.prompts.expect("Erreur de lecture de fichier.", "BUG");
+            inDialog(fixture, "Ctrl+E", [&](QDialog &dialog) {
+                connect(&dialog, &QDialog::finished, this, [&] { QVERIFY(QFile::remove(file)); });
+                fill(dialog, "5|8");
+                click(dialog, renumbered ? "OKButton" : "CancelButton");
+            });
+            const RtfBox &box = fixture.box();
+            QCOMPARE(box.isReadOnly(), renumbered);
+            QCOMPARE(box.text(), renumbered ? "" : "Cinq. Fin.");
+            QCOMPARE(fixture.control<QToolButton>("btnBold").isEnabled(), !renumbered);
+            fixture.type("x");
+            QCOMPARE(fixture.adventure.variables.ParagraphDirty, !renumbered);
+            fixture.window->LoadParg(3);
+            QVERIFY(!box.isReadOnly());
+            QCOMPARE(box.text(), "Trois.");
+        }
+    }
+};
+
+QTEST_MAIN(tst_renumberDialogs)
+#include "tst_renumberDialogs.moc"
