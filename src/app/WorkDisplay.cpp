@@ -11,13 +11,16 @@ constexpr qint64 PatienceOfAuthor = 500;
 constexpr qint64 BetweenPaints = 100;
 } // namespace
 
-// The hidden bar keeps its place: no layout happens while no events are let in.
+// What is hidden keeps its place: nothing around it moves, also as no layout happens while no
+// events are let in.
 WorkDisplay::WorkDisplay(QLabel &caption, QProgressBar &bar, QWidget &box)
     : m_caption(caption), m_bar(bar), m_box(box)
 {
-    QSizePolicy policy = m_bar.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    m_bar.setSizePolicy(policy);
+    for (QWidget *widget : {static_cast<QWidget *>(&bar), &box}) {
+        QSizePolicy policy = widget->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        widget->setSizePolicy(policy);
+    }
     m_bar.hide();
 }
 
