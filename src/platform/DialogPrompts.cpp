@@ -54,7 +54,6 @@ Prompts::Answer DialogPrompts::message(const QString &text, const QString &title
     // A file name in the text may look like markup.
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
-    box.setIcon(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question);
     const QList<Answer> answers = answersOf(buttons);
     QList<QPushButton *> shown;
     for (const Answer answer : answers)
