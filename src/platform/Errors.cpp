@@ -14,3 +14,8 @@ FormatError::FormatError(qint64 position, const QString &expectation)
       m_position(position)
 {
 }
+
+LimitError::LimitError(const QString &what, qint64 limit)
+    : UsmiraError(QStringLiteral("%1: the limit is %2").arg(what).arg(limit))
+{
+}

@@ -38,3 +38,10 @@ public:
 private:
     qint64 m_position;
 };
+
+// A number or a size is beyond what the program allows.
+class LimitError : public UsmiraError
+{
+public:
+    LimitError(const QString &what, qint64 limit);
+};
