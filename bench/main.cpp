@@ -1,6 +1,7 @@
 // Prints what the program costs on an adventure of 2000 paragraphs, a line a figure.
 
 #include "BigAdventure.h"
+#include "ConvertFigures.h"
 #include "StoreFigures.h"
 #include "WindowFigures.h"
 #include "app/Desktop.h"
@@ -24,6 +25,7 @@ int main(int argc, char *argv[])
     const QString path = folder.filePath(QStringLiteral("Grande Aventure.usm"));
     BigAdventure::make(path);
     printStoreFigures(path, folder.path());
+    printConvertFigures(path);
     printWindowFigures(path, folder.path());
     return 0;
 }
