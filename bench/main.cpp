@@ -1,6 +1,7 @@
 // Prints what the program costs on an adventure of 2000 paragraphs, a line a figure.
 
 #include "BigAdventure.h"
+#include "ConvertFigures.h"
 #include "RenumberFigures.h"
 #include "StoreFigures.h"
 #include "WindowFigures.h"
@@ -26,6 +27,7 @@ int main(int argc, char *argv[])
     BigAdventure::make(path);
     printRenumberFigures(path, folder.path());
     printStoreFigures(path, folder.path());
+    printConvertFigures(path);
     printWindowFigures(path, folder.path());
     return 0;
 }

@@ -20,3 +20,8 @@ UnreadableTexts::UnreadableTexts(const QList<int> &paragraphs)
       m_paragraphs(paragraphs)
 {
 }
+
+LimitError::LimitError(const QString &what, qint64 limit)
+    : UsmiraError(QStringLiteral("%1: the limit is %2").arg(what).arg(limit))
+{
+}

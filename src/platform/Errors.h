@@ -51,3 +51,10 @@ public:
 private:
     QList<int> m_paragraphs;
 };
+
+// A number or a size is beyond what the program allows.
+class LimitError : public UsmiraError
+{
+public:
+    LimitError(const QString &what, qint64 limit);
+};
