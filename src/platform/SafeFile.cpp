@@ -34,13 +34,6 @@ QString checkedTarget(const QString &path, Links links)
     return path;
 }
 
-// The file that a chain of links ends in, also when that file does not exist yet.
-QString resolvedTarget(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.isSymLink() ? info.symLinkTarget() : path;
-}
-
 bool renamed(const QString &source, const QString &target)
 {
     return std::rename(QFile::encodeName(source).constData(),
@@ -89,6 +82,23 @@ private:
     int m_descriptor;
 };
 } // namespace
+
+QString resolvedTarget(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isSymLink() ? info.symLinkTarget() : path;
+}
+
+void refuseUnreplaceable(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return;
+    if (!info.isFile())
+        failWrite(path, QStringLiteral("not a regular file"));
+    if (!info.isWritable())
+        failWrite(path, QStringLiteral("read-only"));
+}
 
 SafeFile::SafeFile(const QString &path, Durability durability, Links links)
     : m_file(checkedTarget(path, links)), m_durability(durability)
@@ -211,15 +221,10 @@ void copyFile(const QString &source, const QString &target)
 void moveIntoPlace(const QString &source, const QString &target)
 {
     const QString resolved = resolvedTarget(target);
+    refuseUnreplaceable(resolved);
     const QFileInfo info(resolved);
-    if (info.exists()) {
-        if (!info.isFile())
-            failWrite(target, QStringLiteral("not a regular file"));
-        // A rename would replace it all the same: a read-only file is meant to stay.
-        if (!info.isWritable())
-            failWrite(target, QStringLiteral("read-only"));
+    if (info.exists())
         QFile::setPermissions(source, info.permissions());
-    }
     if (renamed(source, resolved)) {
         syncFolder(info.absolutePath());
         return;

@@ -68,5 +68,12 @@ void moveIntoPlace(const QString &source, const QString &target);
 // A safe copy of a regular file; a file of the target's name is replaced. Throws FileError.
 void copyFile(const QString &source, const QString &target);
 
+// The file that a chain of links ends in, also when that file does not exist yet.
+QString resolvedTarget(const QString &path);
+
+// Throws FileError (Write) when something is there that is no regular file or cannot be written: a
+// rename would replace a read-only file all the same, and it is meant to stay.
+void refuseUnreplaceable(const QString &path);
+
 // Makes the entries of a folder durable. A system without such a call does nothing.
 void syncFolder(const QString &folder);

@@ -1,0 +1,50 @@
+#include "convert/HtmlCharset.h"
+
+#include "richtext/CodePage.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+
+namespace
+{
+QByteArray windows1252WithEntities(const QString &html)
+{
+    QByteArray bytes;
+    const auto codes = html.toUcs4();
+    for (const uint code : codes) {
+        const auto byte = code <= 0xffff ? windows1252Byte(QChar(code)) : std::nullopt;
+        if (byte)
+            bytes += static_cast<char>(*byte);
+        else
+            bytes += "&#" + QByteArray::number(code) + ';';
+    }
+    return bytes;
+}
+
+bool isAscii(QByteArrayView bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char c) { return static_cast<uchar>(c) < 0x80; });
+}
+} // namespace
+
+HtmlCharset declaredCharset(const QString &html)
+{
+    static const QRegularExpression declaration(
+        QStringLiteral("charset\\s*=\\s*[\"']?\\s*utf-?8\\b"),
+        QRegularExpression::CaseInsensitiveOption);
+    return declaration.match(html).hasMatch() ? HtmlCharset::Utf8 : HtmlCharset::Windows1252;
+}
+
+QByteArray htmlBytes(const QString &html, HtmlCharset charset)
+{
+    return charset == HtmlCharset::Utf8
+               ? html.toUtf8()
+               : toWindows1252(html).value_or(windows1252WithEntities(html));
+}
+
+QByteArray htmlBytes(QByteArrayView html, HtmlCharset charset)
+{
+    return charset == HtmlCharset::Utf8 && !isAscii(html) ? fromWindows1252(html).toUtf8()
+                                                          : html.toByteArray();
+}

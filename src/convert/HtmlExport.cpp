@@ -1,0 +1,70 @@
+#include "convert/HtmlExport.h"
+
+#include "convert/ExportTarget.h"
+#include "convert/HtmlCharset.h"
+#include "convert/RtfToHtml.h"
+#include "platform/FileBatch.h"
+#include "platform/SafeFile.h"
+#include "store/ParagraphStore.h"
+
+#include <functional>
+
+namespace
+{
+QString withNumber(QString code, int n)
+{
+    return code.replace(QStringLiteral("<999>"), QString::number(n));
+}
+
+// Codes as they go into a file.
+QByteArray codeBytes(QString code, HtmlCharset charset)
+{
+    code.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return htmlBytes(code.replace(u'\n', QStringLiteral("\r\n")), charset);
+}
+
+void forEachWritten(const Variables &variables, const ExportRange &range, const Progress &progress,
+                    const std::function<void(int)> &action)
+{
+    for (int n = range.low; n <= range.high; ++n) {
+        if (variables.Written.at(static_cast<std::size_t>(n)) == 1)
+            action(n);
+        progress(n - range.low + 1, range.high - range.low + 1);
+    }
+}
+} // namespace
+
+void exportOneFile(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
+                   const QString &path, const Progress &progress)
+{
+    refuseOwnFiles(variables, path);
+    const HtmlCharset charset = declaredCharset(codes.header);
+    SafeFile file(path, Durability::Full, Links::Follow);
+    file.write(codeBytes(codes.header, charset) + "\r\n");
+    forEachWritten(variables, range, progress, [&](int n) {
+        const QByteArray html = RtfToHtml(variables, GetParagraphRtf(variables, n),
+                                          QStringLiteral("Irrelevant"), n, false);
+        const QByteArray anchor = "<A NAME=\"P" + fourDigits(n).toLatin1() + "\"></A>";
+        file.write(anchor + codeBytes(withNumber(codes.numbers, n), charset) +
+                   htmlBytes(html, charset) + "\r\n");
+    });
+    file.write(codeBytes(codes.footer, charset) + "\r\n");
+    file.commit();
+}
+
+void exportManyFiles(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
+                     const QString &folder, const QString &prefix, const Progress &progress)
+{
+    const HtmlCharset charset = declaredCharset(codes.header);
+    const QByteArray footer = codeBytes(codes.footer, charset) + "\r\n";
+    FileBatch pages;
+    forEachWritten(variables, range, progress, [&](int n) {
+        const QString path = folder + u'/' + prefix + fourDigits(n) + QStringLiteral(".htm");
+        refuseOwnFiles(variables, path);
+        const QByteArray html =
+            RtfToHtml(variables, GetParagraphRtf(variables, n), prefix, n, true);
+        pages.add(path, codeBytes(withNumber(codes.header, n), charset) + htmlBytes(html, charset) +
+                            footer);
+    });
+    pages.commit();
+}
