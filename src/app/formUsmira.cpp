@@ -243,6 +243,12 @@ void formUsmira::longWorkEnds()
     m_working = false;
 }
 
+void formUsmira::announce(const QString &text)
+{
+    constexpr int Shown = 15000; // milliseconds
+    m_ui->statusBar->showMessage(text, Shown);
+}
+
 void formUsmira::focusEditor()
 {
     m_ui->rtfBox->setFocus();

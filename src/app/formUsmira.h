@@ -46,6 +46,7 @@ public:
     void longWorkBegins(const QString &caption) override;
     void longWorkProgress(int done, int total) override;
     void longWorkEnds() override;
+    void announce(const QString &text) override;
     void showNothing() override;
     void focusEditor() override;
 

@@ -1,5 +1,6 @@
 #include "convert/HtmlCharset.h"
 
+#include "convert/HtmlText.h"
 #include "richtext/CodePage.h"
 
 #include <QRegularExpression>
@@ -7,20 +8,6 @@
 
 namespace
 {
-QByteArray windows1252WithEntities(const QString &html)
-{
-    QByteArray bytes;
-    const auto codes = html.toUcs4();
-    for (const uint code : codes) {
-        const auto byte = code <= 0xffff ? windows1252Byte(QChar(code)) : std::nullopt;
-        if (byte)
-            bytes += static_cast<char>(*byte);
-        else
-            bytes += "&#" + QByteArray::number(code) + ';';
-    }
-    return bytes;
-}
-
 bool isAscii(QByteArrayView bytes)
 {
     return std::all_of(bytes.begin(), bytes.end(),

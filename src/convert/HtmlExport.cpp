@@ -3,8 +3,10 @@
 #include "convert/ExportTarget.h"
 #include "convert/HtmlCharset.h"
 #include "convert/RtfToHtml.h"
+#include "platform/Errors.h"
 #include "platform/FileBatch.h"
 #include "platform/SafeFile.h"
+#include "richtext/HiddenBox.h"
 #include "store/ParagraphStore.h"
 
 #include <functional>
@@ -23,48 +25,65 @@ QByteArray codeBytes(QString code, HtmlCharset charset)
     return htmlBytes(code.replace(u'\n', QStringLiteral("\r\n")), charset);
 }
 
-void forEachWritten(const Variables &variables, const ExportRange &range, const Progress &progress,
-                    const std::function<void(int)> &action)
+int forEachWritten(const Variables &variables, const ExportRange &range, const Progress &progress,
+                   const std::function<void(int)> &action)
 {
+    int written = 0;
     for (int n = range.low; n <= range.high; ++n) {
-        if (variables.Written.at(static_cast<std::size_t>(n)) == 1)
+        if (variables.Written.at(static_cast<std::size_t>(n)) == 1) {
             action(n);
+            ++written;
+        }
         progress(n - range.low + 1, range.high - range.low + 1);
+    }
+    return written;
+}
+
+// A text that no box of ours wrote may lack what the conversion relies on. The box makes it one of
+// ours.
+QByteArray htmlOf(const Variables &variables, int n, const QString &prefix, bool manyFiles)
+{
+    const QByteArray rtf = GetParagraphRtf(variables, n);
+    try {
+        return RtfToHtml(variables, rtf, prefix, n, manyFiles);
+    } catch (const FormatError &) {
+        HiddenBox box;
+        box.setRtf(rtf);
+        return RtfToHtml(variables, box.rtf(), prefix, n, manyFiles);
     }
 }
 } // namespace
 
-void exportOneFile(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
-                   const QString &path, const Progress &progress)
+int exportOneFile(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
+                  const QString &path, const Progress &progress)
 {
     refuseOwnFiles(variables, path);
     const HtmlCharset charset = declaredCharset(codes.header);
     SafeFile file(path, Durability::Full, Links::Follow);
     file.write(codeBytes(codes.header, charset) + "\r\n");
-    forEachWritten(variables, range, progress, [&](int n) {
-        const QByteArray html = RtfToHtml(variables, GetParagraphRtf(variables, n),
-                                          QStringLiteral("Irrelevant"), n, false);
+    const int written = forEachWritten(variables, range, progress, [&](int n) {
+        const QByteArray html = htmlOf(variables, n, QStringLiteral("Irrelevant"), false);
         const QByteArray anchor = "<A NAME=\"P" + fourDigits(n).toLatin1() + "\"></A>";
         file.write(anchor + codeBytes(withNumber(codes.numbers, n), charset) +
                    htmlBytes(html, charset) + "\r\n");
     });
     file.write(codeBytes(codes.footer, charset) + "\r\n");
     file.commit();
+    return written;
 }
 
-void exportManyFiles(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
-                     const QString &folder, const QString &prefix, const Progress &progress)
+int exportManyFiles(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
+                    const QString &folder, const QString &prefix, const Progress &progress)
 {
     const HtmlCharset charset = declaredCharset(codes.header);
     const QByteArray footer = codeBytes(codes.footer, charset) + "\r\n";
     FileBatch pages;
-    forEachWritten(variables, range, progress, [&](int n) {
+    const int written = forEachWritten(variables, range, progress, [&](int n) {
         const QString path = folder + u'/' + prefix + fourDigits(n) + QStringLiteral(".htm");
         refuseOwnFiles(variables, path);
-        const QByteArray html =
-            RtfToHtml(variables, GetParagraphRtf(variables, n), prefix, n, true);
-        pages.add(path, codeBytes(withNumber(codes.header, n), charset) + htmlBytes(html, charset) +
-                            footer);
+        const QByteArray header = codeBytes(withNumber(codes.header, n), charset);
+        pages.add(path, header + htmlBytes(htmlOf(variables, n, prefix, true), charset) + footer);
     });
     pages.commit();
+    return written;
 }

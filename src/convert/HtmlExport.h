@@ -10,8 +10,9 @@
 // the header declares it. Codes are the author's own HTML; lines may end with LF alone, in the
 // files they end with CR LF. Unwritten paragraphs are passed over.
 //
-// Both throw FileError, FormatError or LimitError, and old files stay as they were until all that
-// replaces them is whole. Files of the open adventure are never written over: FileError (Write).
+// Both give the number of paragraphs written. They throw FileError, FormatError or LimitError, and
+// old files stay as they were until all that replaces them is whole. Files of the open adventure
+// are never written over: FileError (Write).
 
 struct HtmlCodes {
     QString header;
@@ -21,10 +22,10 @@ struct HtmlCodes {
 
 // Writes one document to path: the header, a line for each paragraph with its anchor, its number
 // block and its text, and the footer.
-void exportOneFile(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
-                   const QString &path, const Progress &progress);
+int exportOneFile(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
+                  const QString &path, const Progress &progress);
 
 // Writes a page for each paragraph into folder, named prefix + "0026.htm": the header, in which
 // "<999>" stands for the number, the text and the footer. codes.numbers is not used.
-void exportManyFiles(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
-                     const QString &folder, const QString &prefix, const Progress &progress);
+int exportManyFiles(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
+                    const QString &folder, const QString &prefix, const Progress &progress);

@@ -15,6 +15,7 @@ public:
     void longWorkBegins(const QString & /*caption*/) override {}
     void longWorkProgress(int /*done*/, int /*total*/) override {}
     void longWorkEnds() override {}
+    void announce(const QString & /*text*/) override {}
 
 private:
     Variables &m_variables;

@@ -23,7 +23,13 @@ QString ScriptPrompts::openName(const QString & /*title*/, const QString & /*fil
 }
 
 QString ScriptPrompts::saveName(const QString & /*title*/, const QString & /*filter*/,
-                                const QString & /*defaultExtension*/)
+                                const QString & /*defaultExtension*/, const QString & /*proposed*/)
+{
+    beep();
+    return {};
+}
+
+QString ScriptPrompts::folderName(const QString & /*title*/, const QString & /*start*/)
 {
     beep();
     return {};

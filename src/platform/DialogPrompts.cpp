@@ -71,7 +71,8 @@ Prompts::Answer DialogPrompts::message(const QString &text, const QString &title
 
 QString DialogPrompts::askForName(QFileDialog &dialog, const QString &filter)
 {
-    dialog.setNameFilters(dialogFilters(filter));
+    if (!filter.isEmpty())
+        dialog.setNameFilters(dialogFilters(filter));
     if (dialog.exec() != QDialog::Accepted)
         return {};
     m_folder = dialog.directory().path();
@@ -86,13 +87,20 @@ QString DialogPrompts::openName(const QString &title, const QString &filter)
 }
 
 QString DialogPrompts::saveName(const QString &title, const QString &filter,
-                                const QString &defaultExtension)
+                                const QString &defaultExtension, const QString &proposed)
 {
     QFileDialog dialog(QApplication::activeWindow(), title, m_folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(defaultExtension);
+    dialog.selectFile(proposed);
     return askForName(dialog, filter);
+}
+
+QString DialogPrompts::folderName(const QString &title, const QString &start)
+{
+    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), title,
+                                             start.isEmpty() ? m_folder : start);
 }
 
 void DialogPrompts::beep()

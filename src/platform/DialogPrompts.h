@@ -15,8 +15,9 @@ public:
 
     Answer message(const QString &text, const QString &title, Buttons buttons) override;
     QString openName(const QString &title, const QString &filter) override;
-    QString saveName(const QString &title, const QString &filter,
-                     const QString &defaultExtension) override;
+    QString saveName(const QString &title, const QString &filter, const QString &defaultExtension,
+                     const QString &proposed) override;
+    QString folderName(const QString &title, const QString &start) override;
     void beep() override;
 
 private:

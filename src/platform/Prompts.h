@@ -17,12 +17,15 @@ public:
 
     virtual Answer message(const QString &text, const QString &title, Buttons buttons) = 0;
 
-    // Both return an empty string when the author cancels. Filters look like
-    // "Fichiers Usmira (*.usm)|*.usm". saveName asks before an existing file is replaced and adds
-    // ".defaultExtension" to a name without an extension.
+    // All return an empty string when the author cancels. Filters look like
+    // "Fichiers Usmira (*.usm)|*.usm"; an empty one shows every file. saveName asks before an
+    // existing file is replaced and adds ".defaultExtension" to a name without an extension;
+    // proposed is the name that the author may just confirm.
     virtual QString openName(const QString &title, const QString &filter) = 0;
     virtual QString saveName(const QString &title, const QString &filter,
-                             const QString &defaultExtension) = 0;
+                             const QString &defaultExtension, const QString &proposed) = 0;
+    // An existing folder; start is where the dialog begins.
+    virtual QString folderName(const QString &title, const QString &start) = 0;
 
     virtual void beep() = 0;
 };

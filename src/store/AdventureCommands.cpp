@@ -109,7 +109,7 @@ void AdventureCommands::New()
     if (!LeaveAdventure())
         return;
     const QString path = m_prompts.saveName(QStringLiteral("Nouvelle Aventure"), adventureFilter(),
-                                            QStringLiteral("usm"));
+                                            QStringLiteral("usm"), QString());
     if (path.isEmpty() || !NewAdventure(path))
         showAgain();
 }

@@ -27,6 +27,9 @@ public:
     virtual void longWorkBegins(const QString &caption) = 0;
     virtual void longWorkProgress(int done, int total) = 0;
     virtual void longWorkEnds() = 0;
+
+    // Tells in passing how a command ended, with nothing to click away.
+    virtual void announce(const QString &text) = 0;
 };
 
 // New, Open and Save, with the question about unsaved changes. Failures are told to the author in

@@ -24,9 +24,10 @@ void PromptRecorder::expect(const QString &text, const QString &title, Buttons b
     m_boxes.append({text, title, buttons, answer});
 }
 
-void PromptRecorder::expectFileDialog(const QString &title, const QString &name)
+void PromptRecorder::expectFileDialog(const QString &title, const QString &name,
+                                      const QString &proposed)
 {
-    m_fileDialogs.append({title, name});
+    m_fileDialogs.append({title, name, proposed});
 }
 
 Prompts::Answer PromptRecorder::message(const QString &text, const QString &title, Buttons buttons)
@@ -44,23 +45,30 @@ Prompts::Answer PromptRecorder::message(const QString &text, const QString &titl
 
 QString PromptRecorder::openName(const QString &title, const QString & /*filter*/)
 {
-    return fileDialog(title);
+    return fileDialog(title, {});
 }
 
 QString PromptRecorder::saveName(const QString &title, const QString & /*filter*/,
-                                 const QString & /*defaultExtension*/)
+                                 const QString & /*defaultExtension*/, const QString &proposed)
 {
-    return fileDialog(title);
+    return fileDialog(title, proposed);
 }
 
-QString PromptRecorder::fileDialog(const QString &title)
+QString PromptRecorder::folderName(const QString &title, const QString &start)
+{
+    return fileDialog(title, start);
+}
+
+QString PromptRecorder::fileDialog(const QString &title, const QString &proposed)
 {
     if (m_fileDialogs.isEmpty()) {
         complain(QStringLiteral("nobody expected the file dialog ") + title);
         return {};
     }
     const FileDialog dialog = m_fileDialogs.takeFirst();
-    if (dialog.title != title)
-        complain(QStringLiteral("expected the file dialog %1 but got %2").arg(dialog.title, title));
+    if (dialog.title != title || dialog.proposed != proposed)
+        complain(
+            QStringLiteral("expected the file dialog \"%1\" with \"%2\" but got \"%3\" with \"%4\"")
+                .arg(dialog.title, dialog.proposed, title, proposed));
     return dialog.name;
 }

@@ -15,15 +15,17 @@ public:
 
     void expect(const QString &text, const QString &title, Buttons buttons = Buttons::Ok,
                 Answer answer = Answer::Ok);
-    // The next file dialog, open or save, gives this name; an empty one means that it is cancelled.
-    void expectFileDialog(const QString &title, const QString &name);
+    // The next file dialog, open, save or folder, gives this name; an empty one means that it is
+    // cancelled. It must propose a name (a folder dialog: begin in a folder).
+    void expectFileDialog(const QString &title, const QString &name, const QString &proposed = {});
 
     int beeps() const { return m_beeps; }
 
     Answer message(const QString &text, const QString &title, Buttons buttons) override;
     QString openName(const QString &title, const QString &filter) override;
-    QString saveName(const QString &title, const QString &filter,
-                     const QString &defaultExtension) override;
+    QString saveName(const QString &title, const QString &filter, const QString &defaultExtension,
+                     const QString &proposed) override;
+    QString folderName(const QString &title, const QString &start) override;
     void beep() override { ++m_beeps; }
 
 private:
@@ -36,8 +38,9 @@ private:
     struct FileDialog {
         QString title;
         QString name;
+        QString proposed;
     };
-    QString fileDialog(const QString &title);
+    QString fileDialog(const QString &title, const QString &proposed);
 
     QList<Box> m_boxes;
     QList<FileDialog> m_fileDialogs;

@@ -1,0 +1,44 @@
+#include "convert/HtmlCommands.h"
+
+#include "platform/Failures.h"
+#include "store/LongWork.h"
+
+namespace
+{
+using Export = std::function<int(const ExportRange &, const Progress &)>;
+
+bool run(Prompts &prompts, AdventureView &view, const ExportRange &range, const QString &place,
+         const Export &write)
+{
+    int written = 0;
+    const bool done = reportingFailures(prompts, [&] {
+        LongWork work(view, QStringLiteral("Conversion..."));
+        written = write(range, [&work](int part, int total) { work.progress(part, total); });
+        return true;
+    });
+    if (done)
+        view.announce(written == 1
+                          ? QStringLiteral("1 paragraphe écrit : %1").arg(place)
+                          : QStringLiteral("%1 paragraphes écrits : %2").arg(written).arg(place));
+    return done;
+}
+} // namespace
+
+bool exportToOneFile(const Variables &variables, Prompts &prompts, AdventureView &view,
+                     double first, double second, const HtmlCodes &codes, const QString &path)
+{
+    return run(prompts, view, exportRange(first, second), path,
+               [&](const ExportRange &range, const Progress &progress) {
+                   return exportOneFile(variables, range, codes, path, progress);
+               });
+}
+
+bool exportToManyFiles(const Variables &variables, Prompts &prompts, AdventureView &view,
+                       double first, double second, const HtmlCodes &codes, const QString &folder,
+                       const QString &prefix)
+{
+    return run(prompts, view, exportRange(first, second), folder,
+               [&](const ExportRange &range, const Progress &progress) {
+                   return exportManyFiles(variables, range, codes, folder, prefix, progress);
+               });
+}
