@@ -25,9 +25,7 @@ HtmlCharset declaredCharset(const QString &html)
 
 QByteArray htmlBytes(const QString &html, HtmlCharset charset)
 {
-    return charset == HtmlCharset::Utf8
-               ? html.toUtf8()
-               : toWindows1252(html).value_or(windows1252WithEntities(html));
+    return charset == HtmlCharset::Utf8 ? html.toUtf8() : toHtmlBytes(html);
 }
 
 QByteArray htmlBytes(QByteArrayView html, HtmlCharset charset)
