@@ -28,7 +28,7 @@ QByteArray htmlBytes(const QString &html, HtmlCharset charset)
     return charset == HtmlCharset::Utf8 ? html.toUtf8() : toHtmlBytes(html);
 }
 
-QByteArray htmlBytes(QByteArrayView html, HtmlCharset charset)
+QByteArray recodedHtml(QByteArrayView html, HtmlCharset charset)
 {
     return charset == HtmlCharset::Utf8 && !isAscii(html) ? fromWindows1252(html).toUtf8()
                                                           : html.toByteArray();

@@ -13,4 +13,4 @@ HtmlCharset declaredCharset(const QString &html);
 // HTML code in a character set. What the set lacks is written as numeric entities ("&#8658;").
 QByteArray htmlBytes(const QString &html, HtmlCharset charset);
 // The same for HTML in Windows-1252.
-QByteArray htmlBytes(QByteArrayView html, HtmlCharset charset);
+QByteArray recodedHtml(QByteArrayView html, HtmlCharset charset);

@@ -65,7 +65,7 @@ int exportOneFile(const Variables &variables, const ExportRange &range, const Ht
         const QByteArray html = htmlOf(variables, n, QStringLiteral("Irrelevant"), false);
         const QByteArray anchor = "<A NAME=\"P" + fourDigits(n).toLatin1() + "\"></A>";
         file.write(anchor + codeBytes(withNumber(codes.numbers, n), charset) +
-                   htmlBytes(html, charset) + "\r\n");
+                   recodedHtml(html, charset) + "\r\n");
     });
     file.write(codeBytes(codes.footer, charset) + "\r\n");
     file.commit();
@@ -82,7 +82,7 @@ int exportManyFiles(const Variables &variables, const ExportRange &range, const 
         const QString path = folder + u'/' + prefix + fourDigits(n) + QStringLiteral(".htm");
         refuseOwnFiles(variables, path);
         const QByteArray header = codeBytes(withNumber(codes.header, n), charset);
-        pages.add(path, header + htmlBytes(htmlOf(variables, n, prefix, true), charset) + footer);
+        pages.add(path, header + recodedHtml(htmlOf(variables, n, prefix, true), charset) + footer);
     });
     pages.commit();
     return written;
