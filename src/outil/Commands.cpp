@@ -1,5 +1,7 @@
 #include "outil/Commands.h"
 
+#include "convert/CodeSnippet.h"
+#include "convert/HtmlCommands.h"
 #include "editor/ParagraphSearch.h"
 #include "outil/StateReport.h"
 #include "platform/LenientNumbers.h"
@@ -71,6 +73,10 @@ const std::vector<Commands::Entry> &Commands::entries()
          text("déplace le bloc BAS à HAUT de DELTA numéros"), true, &Commands::deplacer},
         {text("combler"), text("BAS HAUT"), text("comble les trous entre BAS et HAUT"), true,
          &Commands::combler},
+        {text("html"), text("BAS HAUT FICHIER.htm"), text("publie en un seul fichier HTML"), true,
+         &Commands::html},
+        {text("pages"), text("BAS HAUT DOSSIER [PREFIXE]"),
+         text("publie une page HTML par paragraphe"), true, &Commands::pages},
         {text("etat"),
          {},
          text("écrit l'état de l'aventure en JSON, sur une ligne"),
@@ -257,6 +263,32 @@ QByteArray Commands::combler(const QStringList &arguments)
 {
     return renumbered(
         m_renumber.PackHoles(lenientNumber(arguments.first()), lenientNumber(arguments.last())));
+}
+
+// The author's own HTML codes, from the files that the dialogs begin with.
+QString Commands::code(const QString &name) const
+{
+    return readSnippet(m_variables.WorkingFolder + name).text;
+}
+
+QByteArray Commands::html(const QStringList &arguments)
+{
+    const HtmlCodes codes{code(QStringLiteral("Début du Fichier Unique.txt")),
+                          code(QStringLiteral("Numéros de Paragraphes.txt")),
+                          code(QStringLiteral("Fin de Chaque Paragraphe.txt"))};
+    exportToOneFile(m_variables, m_prompts, m_view, lenientNumber(arguments.at(0)),
+                    lenientNumber(arguments.at(1)), codes, arguments.at(2));
+    return {};
+}
+
+QByteArray Commands::pages(const QStringList &arguments)
+{
+    const HtmlCodes codes{code(QStringLiteral("Début de Chaque Paragraphe.txt")), QString(),
+                          code(QStringLiteral("Fin de Chaque Paragraphe.txt"))};
+    exportToManyFiles(m_variables, m_prompts, m_view, lenientNumber(arguments.at(0)),
+                      lenientNumber(arguments.at(1)), codes, arguments.at(2),
+                      arguments.value(3, m_variables.FilePrefix));
+    return {};
 }
 
 QByteArray Commands::etat(const QStringList & /*arguments*/)

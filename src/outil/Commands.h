@@ -44,9 +44,12 @@ private:
     QByteArray melanger(const QStringList &arguments);
     QByteArray deplacer(const QStringList &arguments);
     QByteArray combler(const QStringList &arguments);
+    QByteArray html(const QStringList &arguments);
+    QByteArray pages(const QStringList &arguments);
     QByteArray etat(const QStringList &arguments);
 
     QByteArray renumbered(bool done);
+    QString code(const QString &name) const;
     void replaceParagraph(int n, const std::function<void(RichTextBox &)> &change);
 
     Variables &m_variables;

@@ -1,0 +1,204 @@
+#include "convert/CodeSnippet.h"
+#include "convert/HtmlCharset.h"
+#include "convert/HtmlCommands.h"
+#include "outil/HeadlessView.h"
+#include "platform/Errors.h"
+#include "platform/FileBatch.h"
+#include "platform/OpenedFile.h"
+#include "store/AdventureFile.h"
+#include "support/AdventureBuilder.h"
+#include "support/PromptRecorder.h"
+#include "support/TestTable.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+namespace
+{
+// Paragraphs 2, 7 and 30; 7 leads to 30 and to the unwritten 8.
+struct Scene {
+    explicit Scene(const AdventureBuilder &builder =
+                       AdventureBuilder({"2: Début", "7: Va au 30 ou au 8", "30: Fin"}))
+    {
+        const QString path = adventure.file("a.usm", builder.bytes());
+        takeOver(v, readAdventure(std::make_shared<OpenedFile>(path)));
+        v.AdventurePath = path;
+        v.FilePrefix = QStringLiteral("a-");
+    }
+
+    bool one(double first, double second, const HtmlCodes &codes, const QString &name)
+    {
+        return exportToOneFile(v, prompts, view, first, second, codes, adventure.path(name));
+    }
+    bool many(const HtmlCodes &codes, const QString &prefix, const QString &folder)
+    {
+        return exportToManyFiles(v, prompts, view, 1, 2000, codes, adventure.path(folder), prefix);
+    }
+
+    TestAdventure adventure;
+    Variables &v = adventure.variables;
+    PromptRecorder prompts;
+    HeadlessView view{v};
+};
+} // namespace
+
+class tst_htmlExport : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void oneFile_data()
+    {
+        const QString two = "<A NAME=\"P0002\"></A>[2|2]<P ALIGN=\"Left\">D&#233;but<BR>\r\n";
+        const QString seven =
+            "<A NAME=\"P0007\"></A>[7|7]<P ALIGN=\"Left\">Va au <A HREF=\"#P0030\">30</A> ou "
+            "au <A HREF=\"#P0008\">8</A><BR>\r\n";
+        const QString thirty = "<A NAME=\"P0030\"></A>[30|30]<P ALIGN=\"Left\">Fin<BR>\r\n";
+        addTable<double, double, QString>({"first", "second", "body"},
+                                          {{"all", 1, 2000, two + seven + thirty},
+                                           {"swapped and rounded", 29.6, 6.5, seven + thirty},
+                                           {"beyond the end", 8, 1e9, thirty},
+                                           {"nothing written", 8, 29, ""}});
+    }
+    void oneFile()
+    {
+        Scene scene;
+        QFETCH(double, first);
+        QFETCH(double, second);
+        QFETCH(QString, body);
+        QVERIFY(scene.one(first, second, {"tête\nici", "[<999>|<999>]", "pied <999>"}, "a.htm"));
+        const QString html =
+            QString::fromLatin1(scene.adventure.content("a.htm")).replace("\r\n<BR>", "<BR>");
+        QCOMPARE(html, "tête\r\nici\r\n" + body + "pied <999>\r\n");
+    }
+
+    void manyFiles()
+    {
+        Scene scene;
+        QVERIFY(QDir().mkpath(scene.adventure.path("pages")));
+        scene.adventure.file("pages/É-0030.htm", "old");
+        QVERIFY(scene.many({"<999>:", "unused", "(<999>)"}, "É-", "pages"));
+        const QDir folder(scene.adventure.path("pages"));
+        QCOMPARE(folder.entryList(QDir::Files).join(u' '), "É-0002.htm É-0007.htm É-0030.htm");
+        const QByteArray seven = scene.adventure.content("pages/É-0007.htm");
+        QVERIFY2(seven.startsWith("7:<P ALIGN=\"Left\">Va au <A HREF=\"\xc9-0030.htm\">30</A>"),
+                 seven);
+        QVERIFY(seven.endsWith("(<999>)\r\n"));
+        QVERIFY(scene.adventure.content("pages/É-0030.htm").contains("Fin"));
+    }
+
+    void theHeaderChoosesTheCharset_data()
+    {
+        addTable<QString, QByteArray>(
+            {"header", "written"},
+            {{"none", "é ⇒", "\xe9 &#8658;"},
+             {"Windows", "charset=windows-1252 é", "charset=windows-1252 \xe9"},
+             {"UTF-8", "<meta charset=\"UTF-8\"> é ⇒", "<meta charset=\"UTF-8\"> é ⇒"},
+             {"UTF-8, old form", "content='text/html; charset=utf8' é",
+              "content='text/html; charset=utf8' é"}});
+    }
+    void theHeaderChoosesTheCharset()
+    {
+        Scene scene;
+        QFETCH(QString, header);
+        QFETCH(QByteArray, written);
+        QVERIFY(scene.one(8, 9, {header, {}, {}}, "a.htm"));
+        QCOMPARE(scene.adventure.content("a.htm"), written + "\r\n\r\n");
+        QVERIFY(QDir().mkpath(scene.adventure.path("p")));
+        QVERIFY(scene.many({header, {}, {}}, "é", "p"));
+        const bool utf8 = declaredCharset(header) == HtmlCharset::Utf8;
+        QVERIFY(scene.adventure.content("p/é0007.htm")
+                    .contains(utf8 ? "HREF=\"é0030"
+                                   : "HREF=\"\xe9"
+                                     "0030"));
+    }
+
+    void textsOfOtherProgramsAreMadeOurs()
+    {
+        Scene scene(AdventureBuilder({"2: x"}).rawText(2, "{\\rtf1 {\\b Gras}\\par\r\n}"));
+        QVERIFY(scene.one(1, 9, {}, "a.htm"));
+        QVERIFY(scene.adventure.content("a.htm").contains("<B>Gras"));
+    }
+
+    void failuresKeepTheOldFiles_data()
+    {
+        addTable<QString, QString>(
+            {"target", "message"},
+            {{"the adventure", "a.usm", "Erreur pendant l'écriture du fichier."},
+             {"a working file", "Dossier Usmira/a-0007.rtf",
+              "Erreur pendant l'écriture du fichier."},
+             {"no folder", "none/a.htm", "Erreur pendant l'écriture du fichier."},
+             {"damaged text", "old.htm", "Erreur de lecture de fichier."}});
+    }
+    void failuresKeepTheOldFiles()
+    {
+        QFETCH(QString, target);
+        QFETCH(QString, message);
+        const bool damage = target == "old.htm";
+        const AdventureBuilder builder({"2: x", "7: y"});
+        Scene scene(damage ? AdventureBuilder(builder).rawText(7, "no RTF") : builder);
+        scene.adventure.file("old.htm", "old");
+        scene.adventure.file("Dossier Usmira/a-0007.rtf", "old");
+        const QByteArray before = scene.adventure.content(target);
+        scene.prompts.expect(message, "BUG");
+        QVERIFY(!scene.one(1, 9, {}, target));
+        QCOMPARE(scene.adventure.content(target), before);
+        if (damage) {
+            scene.adventure.file("a-0002.htm", "old page");
+            scene.prompts.expect(message, "BUG");
+            QVERIFY(!scene.many({}, "a-", "."));
+            QCOMPARE(scene.adventure.content("a-0002.htm"), "old page");
+        }
+        QVERIFY(QDir(scene.adventure.path(".")).entryList({"*part*", "*htm.*"}).isEmpty());
+    }
+
+    void snippetsKeepTheirEncoding_data()
+    {
+        addTable<QByteArray, QString, QByteArray>(
+            {"file", "text", "saved"}, {{"UTF-8", "é\r\nü", "é\nü", "é\r\nü\r\n"},
+                                        {"Windows-1252", "\xe9\r\n", "é\n", "\xe9\r\n\r\n"},
+                                        {"ASCII", "e", "e", "e\r\n"}});
+    }
+    void snippetsKeepTheirEncoding()
+    {
+        TestAdventure adventure;
+        QFETCH(QByteArray, file);
+        const QString path = adventure.file("s.txt", file);
+        const CodeSnippet snippet = readSnippet(path);
+        QTEST(snippet.text, "text");
+        saveSnippet(path, snippet);
+        QTEST(adventure.content("s.txt"), "saved");
+    }
+
+    void newSnippetsAreUtf8UnlessTheySayOtherwise()
+    {
+        TestAdventure adventure;
+        const QString path = adventure.path("new.txt");
+        QCOMPARE(readSnippet(path).text, QString());
+        saveSnippet(path, {"é", {}});
+        QCOMPARE(adventure.content("new.txt"), "é\r\n");
+        saveSnippet(path, {"charset=Windows-1252 é", {}});
+        QCOMPARE(adventure.content("new.txt"), "charset=Windows-1252 \xe9\r\n");
+        saveSnippet(path, {"⇒", CodeSnippet::Encoding::Windows1252});
+        QCOMPARE(adventure.content("new.txt"), "⇒\r\n");
+    }
+
+    void aBatchFollowsLinksAndLeavesReadOnlyFiles()
+    {
+        TestAdventure adventure;
+        const QString real = adventure.file("real.htm", "old");
+        QVERIFY(QFile::link(real, adventure.path("link.htm")));
+        FileBatch batch;
+        batch.add(adventure.path("link.htm"), "new");
+        QCOMPARE(adventure.content("real.htm"), "old");
+        batch.commit();
+        QCOMPARE(adventure.content("real.htm"), "new");
+        QVERIFY(QFile(adventure.path("link.htm")).symLinkTarget() == real);
+        QVERIFY(QDir().mkpath(adventure.path("folder.htm")));
+        QVERIFY_THROWS_EXCEPTION(FileError, batch.add(adventure.path("folder.htm"), "new"));
+    }
+};
+
+QTEST_MAIN(tst_htmlExport)
+#include "tst_htmlExport.moc"
