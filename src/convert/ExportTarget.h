@@ -1,0 +1,10 @@
+#pragma once
+
+class QString;
+struct Variables;
+
+// Throws FileError (Write) when an export to path would replace a file of the adventure itself: the
+// adventure's file, or a working file of any adventure. Links are followed, a file that does not
+// exist yet is known by its place, and a hard link is the file that it shares. Other files in the
+// working folder are the author's.
+void refuseOwnFiles(const Variables &variables, const QString &path);
