@@ -1,5 +1,6 @@
 #include "outil/Commands.h"
 
+#include "convert/CompileCommand.h"
 #include "editor/ParagraphSearch.h"
 #include "outil/StateReport.h"
 #include "platform/LenientNumbers.h"
@@ -71,6 +72,9 @@ const std::vector<Commands::Entry> &Commands::entries()
          text("déplace le bloc BAS à HAUT de DELTA numéros"), true, &Commands::deplacer},
         {text("combler"), text("BAS HAUT"), text("comble les trous entre BAS et HAUT"), true,
          &Commands::combler},
+        {text("compiler-rtf"), text("BAS HAUT FICHIER"),
+         text("réunit les paragraphes de BAS à HAUT en un document RTF"), true,
+         &Commands::compilerRtf},
         {text("etat"),
          {},
          text("écrit l'état de l'aventure en JSON, sur une ligne"),
@@ -257,6 +261,13 @@ QByteArray Commands::combler(const QStringList &arguments)
 {
     return renumbered(
         m_renumber.PackHoles(lenientNumber(arguments.first()), lenientNumber(arguments.last())));
+}
+
+QByteArray Commands::compilerRtf(const QStringList &arguments)
+{
+    compileToRtf(m_variables, m_prompts, m_view, lenientNumber(arguments.at(0)),
+                 lenientNumber(arguments.at(1)), defaultNumberStyle(m_variables), arguments.at(2));
+    return {};
 }
 
 QByteArray Commands::etat(const QStringList & /*arguments*/)

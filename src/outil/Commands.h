@@ -44,6 +44,7 @@ private:
     QByteArray melanger(const QStringList &arguments);
     QByteArray deplacer(const QStringList &arguments);
     QByteArray combler(const QStringList &arguments);
+    QByteArray compilerRtf(const QStringList &arguments);
     QByteArray etat(const QStringList &arguments);
 
     QByteArray renumbered(bool done);
