@@ -3,6 +3,7 @@
 #include "BenchEditor.h"
 #include "BigAdventure.h"
 #include "Figures.h"
+#include "PeakMemory.h"
 #include "platform/SafeFile.h"
 #include "renumber/RenumberCommands.h"
 #include "renumber/RenumberParagraphs.h"
@@ -104,14 +105,8 @@ public:
     {
         const std::unique_ptr<BenchEditor> editor = opened();
         RenumberCommands commands(editor->variables, editor->prompts, editor->view);
-        QFile peak(QStringLiteral("/proc/self/clear_refs"));
-        if (!peak.open(QIODevice::WriteOnly) || peak.write("5") != 1)
-            return;
-        peak.close();
-        const double before = statusMegabytes("VmRSS:");
-        mix(commands, last);
         printFigure(QStringLiteral("MasterMix 1..%1, peak memory over before").arg(last),
-                    statusMegabytes("VmHWM:") - before, QStringLiteral("MB"));
+                    peakMegabytes([&] { mix(commands, last); }), QStringLiteral("MB"));
     }
 
     // From now on the adventure has holes, evenly spread.
@@ -129,15 +124,6 @@ public:
     }
 
 private:
-    static double statusMegabytes(const QByteArray &key)
-    {
-        QFile status(QStringLiteral("/proc/self/status"));
-        status.open(QIODevice::ReadOnly);
-        const QByteArray all = status.readAll();
-        const QByteArray line = all.mid(all.indexOf(key) + key.size()).trimmed();
-        return line.left(line.indexOf(' ')).toDouble() / 1024;
-    }
-
     QString newFolder()
     {
         const QString folder = m_folder + QStringLiteral("/renumber-%1/").arg(++m_folders);

@@ -1,6 +1,7 @@
 // Prints what the program costs on an adventure of 2000 paragraphs, a line a figure.
 
 #include "BigAdventure.h"
+#include "CompilationFigures.h"
 #include "ConvertFigures.h"
 #include "RenumberFigures.h"
 #include "StoreFigures.h"
@@ -25,6 +26,7 @@ int main(int argc, char *argv[])
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("Grande Aventure.usm"));
     BigAdventure::make(path);
+    printCompilationFigures(path, folder.path());
     printRenumberFigures(path, folder.path());
     printStoreFigures(path, folder.path());
     printConvertFigures(path);

@@ -1,5 +1,6 @@
 #include "outil/Commands.h"
 
+#include "convert/CompileCommand.h"
 #include "convert/CodeSnippet.h"
 #include "convert/HtmlCommands.h"
 #include "editor/ParagraphSearch.h"
@@ -77,6 +78,9 @@ const std::vector<Commands::Entry> &Commands::entries()
          &Commands::html},
         {text("pages"), text("BAS HAUT DOSSIER [PREFIXE]"),
          text("publie une page HTML par paragraphe"), true, &Commands::pages},
+        {text("compiler-rtf"), text("BAS HAUT FICHIER"),
+         text("réunit les paragraphes de BAS à HAUT en un document RTF"), true,
+         &Commands::compilerRtf},
         {text("etat"),
          {},
          text("écrit l'état de l'aventure en JSON, sur une ligne"),
@@ -288,6 +292,13 @@ QByteArray Commands::pages(const QStringList &arguments)
     exportToManyFiles(m_variables, m_prompts, m_view, lenientNumber(arguments.at(0)),
                       lenientNumber(arguments.at(1)), codes, arguments.at(2),
                       arguments.value(3, m_variables.FilePrefix));
+    return {};
+}
+
+QByteArray Commands::compilerRtf(const QStringList &arguments)
+{
+    compileToRtf(m_variables, m_prompts, m_view, lenientNumber(arguments.at(0)),
+                 lenientNumber(arguments.at(1)), defaultNumberStyle(m_variables), arguments.at(2));
     return {};
 }
 

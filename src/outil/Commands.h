@@ -46,6 +46,7 @@ private:
     QByteArray combler(const QStringList &arguments);
     QByteArray html(const QStringList &arguments);
     QByteArray pages(const QStringList &arguments);
+    QByteArray compilerRtf(const QStringList &arguments);
     QByteArray etat(const QStringList &arguments);
 
     QByteArray renumbered(bool done);

@@ -255,3 +255,10 @@ void RichTextBox::setSelTabs(const QList<double> &centimetres)
     format.setTabPositions(tabs);
     mergeParagraphs(format);
 }
+
+void RichTextBox::setSelPlain()
+{
+    QTextCursor selection = cursor();
+    SelectionFormats::setPlain(selection, CharState::plain(m_baseFont).toFormat(m_baseFont));
+    setCursor(selection);
+}

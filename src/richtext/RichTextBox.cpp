@@ -79,6 +79,11 @@ void RichTextBox::setText(const QString &text)
     cursor.endEditBlock();
 }
 
+int RichTextBox::textLength() const
+{
+    return TextPositions::textLength(*document());
+}
+
 QByteArray RichTextBox::rtf() const
 {
     return writeRtf(*document(), m_baseFont);

@@ -43,6 +43,8 @@ public:
     // undo list and puts the caret at the start.
     QString text() const;
     void setText(const QString &text);
+    // Characters of text(), counted without reading it.
+    int textLength() const;
 
     // The whole document as RTF. Setting it replaces everything and clears the undo list; empty
     // bytes give an empty text. The caret goes to the start. Throws FormatError, and changes
@@ -99,6 +101,10 @@ public:
     void setSelHangingIndent(double centimetres);
     void setSelRightIndent(double centimetres);
     void setSelTabs(const QList<double> &centimetres); // 64 at most are kept, sorted
+
+    // Takes all formatting from the selected characters and paragraphs; without a selection, from
+    // the caret's paragraph and from what is typed next. What is left is the base font.
+    void setSelPlain();
 
     // Finds needle at or after start and selects it. Returns its position, or -1 and leaves the
     // selection alone. An empty needle is never found.

@@ -129,3 +129,17 @@ void SelectionFormats::setBullets(QTextCursor selection, bool on)
     }
     selection.endEditBlock();
 }
+
+void SelectionFormats::setPlain(QTextCursor &selection, const QTextCharFormat &format)
+{
+    const QList<QTextBlock> blocks = blocksOf(selection);
+    selection.beginEditBlock();
+    selection.setCharFormat(format);
+    for (const QTextBlock &block : blocks) {
+        QTextCursor whole(block);
+        whole.setBlockFormat({});
+        if (block.length() == 1)
+            whole.setBlockCharFormat(format);
+    }
+    selection.endEditBlock();
+}

@@ -56,4 +56,6 @@ template <typename Get> auto commonOfBlocks(const QTextCursor &selection, Get ge
 void mergeIntoRuns(QTextCursor selection, const QTextCharFormat &format);
 void mergeIntoBlocks(QTextCursor selection, const QTextBlockFormat &format);
 void setBullets(QTextCursor selection, bool on);
+// Replaces every format: the characters get this one, the paragraphs the empty one.
+void setPlain(QTextCursor &selection, const QTextCharFormat &format);
 } // namespace SelectionFormats

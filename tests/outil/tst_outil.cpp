@@ -110,6 +110,23 @@ melanger 4 9
         QCOMPARE(outcome.output.split('\r').join(), "Va au 9\nVa au 2\nVa au 2\n7\n");
     }
 
+    void paragraphsAreCompiled()
+    {
+        TestAdventure adventure;
+        const QString path = adventure.file(
+            QStringLiteral("a.usm"),
+            AdventureBuilder({QStringLiteral("1: Va au 9"), QStringLiteral("9: Fin")}).bytes());
+        const Outcome outcome =
+            run(adventure, {},
+                "ouvrir '" + path.toUtf8() + "'\ncompiler-rtf 2000 2 '" +
+                    adventure.path(QStringLiteral("livre.rtf")).toUtf8() + "'\n");
+        QCOMPARE(outcome.errors, QString());
+        QVERIFY(adventure.content(QStringLiteral("livre.rtf"))
+                    .endsWith("\\deflang1036\\pard\\qc \\plain\\f0\\fs24\\b 9\r\n"
+                              "\\par \\pard \\plain\\f0\\fs24 Fin\r\n"
+                              "\\par \r\n\\par \r\n\\par }"));
+    }
+
     void failuresAndBadUsageHaveTheirStatus_data()
     {
         QTest::addColumn<QStringList>("commands");
@@ -135,6 +152,8 @@ melanger 4 9
             2, QStringLiteral("bas ou haut"));
         row("seed", {QStringLiteral("ouvrir @"), QStringLiteral("melanger 1 9 x")}, 2,
             QStringLiteral("graine"));
+        row("own file", {QStringLiteral("ouvrir @"), QStringLiteral("compiler-rtf 1 9 @")}, 1,
+            QStringLiteral("Erreur pendant l'écriture du fichier."));
         row("existing file", {QStringLiteral("nouvelle @")}, 1, QStringLiteral("existe déjà"));
     }
     void failuresAndBadUsageHaveTheirStatus()

@@ -64,6 +64,7 @@ private Q_SLOTS:
         QTEST(box.selStart(), "gotStart");
         QCOMPARE(box.selLength(), text.size());
         QCOMPARE(box.selText(), text);
+        QCOMPARE(box.textLength(), box.text().size());
     }
 
     void enteringTextIsCleaned_data()
@@ -161,6 +162,23 @@ private Q_SLOTS:
         at(written, 0, 999).setSelFontSize(20);
         read.setRtf(written.rtf());
         QCOMPARE(look(read, 4, 0), "20");
+    }
+
+    void plainTakesEveryFormatOfTheSelection()
+    {
+        HiddenBox box;
+        fill(box);
+        format(at(box, 0, 24));
+        at(box, 6, 12).setSelBullet(true);
+        const QString before = look(box, 0, 2);
+        at(box, 4, 0).setSelPlain(); // an empty paragraph and what is typed there
+        box.setSelText("x");
+        QCOMPARE(look(box, 4, 1), "");
+        at(box, 7, 4).setSelPlain();
+        QCOMPARE(look(box, 7, 4), "");
+        QCOMPARE(look(box, 12, 5), "b i ul strike Écriture; {ronde} ★ 10.5 #cc00ff");
+        QCOMPARE(look(box, 19, 6), before);
+        QCOMPARE(look(box, 0, 2), before);
     }
 
     void insertedRtfKeepsFormatBehind()
