@@ -2,5 +2,6 @@
 
 #include <QString>
 
-// Converting the paragraphs of the adventure at path for publication. Writes no file.
-void printConvertFigures(const QString &path);
+// Converting the adventure at path to HTML and publishing it in one file and in many. Works in
+// folder.
+void printConvertFigures(const QString &path, const QString &folder);

@@ -29,7 +29,7 @@ int main(int argc, char *argv[])
     printCompilationFigures(path, folder.path());
     printRenumberFigures(path, folder.path());
     printStoreFigures(path, folder.path());
-    printConvertFigures(path);
+    printConvertFigures(path, folder.path());
     printWindowFigures(path, folder.path());
     return 0;
 }

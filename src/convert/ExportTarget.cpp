@@ -34,6 +34,8 @@ bool isWorkingFile(const Variables &variables, const QString &path)
     const QString place = finalPath(path);
     if (place.startsWith(folder.canonicalPath() + u'/') && isWorkingFileName(place))
         return true;
+    if (!hasOtherNames(path))
+        return false;
     const QStringList names = folder.entryList(QDir::Files);
     return std::any_of(names.begin(), names.end(), [&](const QString &name) {
         return isWorkingFileName(name) && isSameFile(path, folder.filePath(name));

@@ -20,3 +20,11 @@ bool isSameFile(const QString &one, const QString &other)
            std::filesystem::equivalent(QFileInfo(one).filesystemFilePath(),
                                        QFileInfo(other).filesystemFilePath(), missing);
 }
+
+bool hasOtherNames(const QString &path)
+{
+    std::error_code missing;
+    const auto names =
+        std::filesystem::hard_link_count(QFileInfo(path).filesystemFilePath(), missing);
+    return !missing && names > 1;
+}

@@ -8,3 +8,6 @@ QString finalPath(const QString &path);
 // True when both paths lead to one file: to one place, whether a file is there or not, or to two
 // names of the same file.
 bool isSameFile(const QString &one, const QString &other);
+
+// True when the file at path has more names than this one (hard links).
+bool hasOtherNames(const QString &path);
