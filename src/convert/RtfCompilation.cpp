@@ -1,6 +1,7 @@
 #include "convert/RtfCompilation.h"
 
 #include "platform/Errors.h"
+#include "platform/SafeFile.h"
 #include "richtext/HiddenBox.h"
 #include "store/ParagraphStore.h"
 
@@ -27,7 +28,13 @@ public:
             throw UnreadableTexts(m_unreadable);
     }
 
-    void save(const QString &path) const { m_assembly.saveFile(path); }
+    // Other programs are to read this. One of them, AbiWord 3, forgets the format of the characters
+    // in front of "plain" unless another attribute stands between.
+    void save(const QString &path) const
+    {
+        const QByteArray rtf = m_assembly.rtf().replace("\\plain\\f", "\\f0\\plain\\f");
+        writeWholeFile(path, rtf, Durability::Full, Links::Follow);
+    }
 
 private:
     void append(int n)

@@ -79,18 +79,18 @@ private Q_SLOTS:
                  "\\leveljc0\\levelfollow0\\levelstartat1{\\leveltext\\'01\\'95;}{\\levelnumbers;}"
                  "\\fi-360\\li360}{\\listname ;}\\listid1}}\r\n"
                  "{\\*\\listoverridetable{\\listoverride\\listid1\\listoverridecount0\\ls1}}\r\n"
-                 "\\deflang1036\\pard\\qc \\plain\\f0\\fs28\\i\\ul 3\r\n"
-                 "\\par \\pard \\plain\\f1\\fs20 au \\plain\\f1\\fs20\\b 7\r\n"
-                 "\\par \\pard\\li360\\fi-360\\ls1 \\plain\\f1\\fs20\\cf1 puce\r\n"
-                 "\\par \\pard \\plain\\f2\\fs24 \r\n"
-                 "\\par \\pard\\qc \\plain\\f0\\fs28\\i\\ul 7\r\n"
-                 "\\par \\pard\\li720\\fi-200\\ri100\\tx900 \\plain\\f1\\fs40\\cf2\\strike "
+                 "\\deflang1036\\pard\\qc \\f0\\plain\\f0\\fs28\\i\\ul 3\r\n"
+                 "\\par \\pard \\f0\\plain\\f1\\fs20 au \\f0\\plain\\f1\\fs20\\b 7\r\n"
+                 "\\par \\pard\\li360\\fi-360\\ls1 \\f0\\plain\\f1\\fs20\\cf1 puce\r\n"
+                 "\\par \\pard \\f0\\plain\\f2\\fs24 \r\n"
+                 "\\par \\pard\\qc \\f0\\plain\\f0\\fs28\\i\\ul 7\r\n"
+                 "\\par \\pard\\li720\\fi-200\\ri100\\tx900 \\f0\\plain\\f1\\fs40\\cf2\\strike "
                  "\\'e9t\\'e9\r\n"
-                 "\\par \\pard \\plain\\f2\\fs24 \r\n"
-                 "\\par \\pard\\qc \\plain\\f0\\fs28\\i\\ul 12\r\n"
-                 "\\par \\plain\\f1\\fs36\\b Fin\r\n"
-                 "\\par \\pard\\qr \\plain\\f1\\fs24\\i X\r\n"
-                 "\\par \\pard \\plain\\f2\\fs24 \r\n"
+                 "\\par \\pard \\f0\\plain\\f2\\fs24 \r\n"
+                 "\\par \\pard\\qc \\f0\\plain\\f0\\fs28\\i\\ul 12\r\n"
+                 "\\par \\f0\\plain\\f1\\fs36\\b Fin\r\n"
+                 "\\par \\pard\\qr \\f0\\plain\\f1\\fs24\\i X\r\n"
+                 "\\par \\pard \\f0\\plain\\f2\\fs24 \r\n"
                  "\\par \r\n"
                  "\\par }");
     }
@@ -99,8 +99,8 @@ private Q_SLOTS:
     {
         Scene scene;
         QVERIFY(scene.compile(3, 7, {"Arial", 10.5, false, false, false, false}, "livre.rtf"));
-        QVERIFY2(scene.document().contains("\\cf1 puce\r\n\\par \\pard \\plain\\f1\\fs24 \r\n"
-                                           "\\par \\plain\\f0\\fs21 7\r\n\\par \\pard\\li720"),
+        QVERIFY2(scene.document().contains("\\cf1 puce\r\n\\par \\pard \\f0\\plain\\f1\\fs24 \r\n"
+                                           "\\par \\f0\\plain\\f0\\fs21 7\r\n\\par \\pard\\li720"),
                  scene.document());
     }
 

@@ -122,8 +122,8 @@ melanger 4 9
                     adventure.path(QStringLiteral("livre.rtf")).toUtf8() + "'\n");
         QCOMPARE(outcome.errors, QString());
         QVERIFY(adventure.content(QStringLiteral("livre.rtf"))
-                    .endsWith("\\deflang1036\\pard\\qc \\plain\\f0\\fs24\\b 9\r\n"
-                              "\\par \\pard \\plain\\f0\\fs24 Fin\r\n"
+                    .endsWith("\\deflang1036\\pard\\qc \\f0\\plain\\f0\\fs24\\b 9\r\n"
+                              "\\par \\pard \\f0\\plain\\f0\\fs24 Fin\r\n"
                               "\\par \r\n\\par \r\n\\par }"));
     }
 
