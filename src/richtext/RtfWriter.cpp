@@ -75,7 +75,7 @@ private:
     void writeBlock(const QTextBlock &block, int from, int to);
     void startParagraph(const ParagraphState &state);
     void writeText(const QString &text, const CharState &state);
-    void writeChar(QChar c, const CharState &state);
+    void writeChar(QChar c);
     void writeCharState(const CharState &state);
     QByteArray header() const;
 
@@ -86,9 +86,6 @@ private:
     bool m_anyBullet = false;
     std::optional<ParagraphState> m_paragraph;
     std::optional<CharState> m_chars; // in force at this place, empty when none was written
-    // A \u run has closed bold, italic and underline for the HTML export, which goes by the words
-    // of each run; plain characters must open them again.
-    bool m_stylesClosed = false;
 };
 
 void Writer::writeBody(const QTextDocument &document, int from, int to)
@@ -157,11 +154,11 @@ void Writer::writeText(const QString &text, const CharState &state)
     for (const QChar c : cleaned) {
         if (m_chars != state)
             writeCharState(state);
-        writeChar(c, state);
+        writeChar(c);
     }
 }
 
-void Writer::writeChar(QChar c, const CharState &state)
+void Writer::writeChar(QChar c)
 {
     if (c == u'\t') {
         m_body += "\\tab ";
@@ -171,21 +168,16 @@ void Writer::writeChar(QChar c, const CharState &state)
         m_body += "\r\n\\par ";
         return;
     }
-    const bool hasByte = windows1252Byte(c).has_value();
-    if (hasByte && m_stylesClosed)
-        writeCharState(state);
     if (isAsciiText(c))
         m_body += c.toLatin1();
     else if (c == QChar(QChar::Nbsp))
         m_body += "\\~";
     else
         m_body += escaped(c);
-    m_stylesClosed = !hasByte && (state.bold || state.italic || state.underline);
 }
 
 void Writer::writeCharState(const CharState &state)
 {
-    m_stylesClosed = false;
     m_chars = state;
     m_body += "\\plain\\f" + number(m_fonts.of(state.family));
     m_body += "\\fs" + number(state.halfPoints);

@@ -59,7 +59,6 @@ void makeColours(RichTextBox &box)
     box.setSelColor(qRgb(0, 0, 0));
 }
 
-// Beyond Windows-1252 a character closes the styles for the HTML export; a tab does not.
 void makeCharacters(RichTextBox &box)
 {
     box.setText("{a} \\b\u00a0« œuf – 1\u00a0€ » …\u2011 ★ 📘 \x7f" + QString(QChar(0x81)) +
