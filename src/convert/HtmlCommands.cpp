@@ -1,7 +1,11 @@
 #include "convert/HtmlCommands.h"
 
+#include "convert/ExportTarget.h"
 #include "platform/Failures.h"
+#include "platform/SafeFile.h"
 #include "store/LongWork.h"
+
+#include <optional>
 
 namespace
 {
@@ -27,10 +31,21 @@ bool run(Prompts &prompts, AdventureView &view, const ExportRange &range, const 
 bool exportToOneFile(const Variables &variables, Prompts &prompts, AdventureView &view,
                      double first, double second, const HtmlCodes &codes, const QString &path)
 {
-    return run(prompts, view, exportRange(first, second), path,
-               [&](const ExportRange &range, const Progress &progress) {
-                   return exportOneFile(variables, range, codes, path, progress);
-               });
+    const bool allowed = reportingFailures(prompts, [&] {
+        refuseOwnFiles(variables, path);
+        return true;
+    });
+    std::optional<SafeFile> file;
+    try {
+        if (allowed)
+            file.emplace(path, Durability::Full, Links::Follow);
+    } catch (const FileError &) {
+        return false;
+    }
+    return file && run(prompts, view, exportRange(first, second), path,
+                       [&](const ExportRange &range, const Progress &progress) {
+                           return exportOneFile(variables, range, codes, *file, progress);
+                       });
 }
 
 bool exportToManyFiles(const Variables &variables, Prompts &prompts, AdventureView &view,

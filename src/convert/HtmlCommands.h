@@ -11,6 +11,8 @@ class Prompts;
 //
 // The current paragraph must have been saved.
 
+// When the file cannot be opened at all the author is told nothing: required, it counts as a file
+// dialog that was cancelled.
 bool exportToOneFile(const Variables &variables, Prompts &prompts, AdventureView &view,
                      double first, double second, const HtmlCodes &codes, const QString &path);
 

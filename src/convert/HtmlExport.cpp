@@ -55,11 +55,9 @@ QByteArray htmlOf(const Variables &variables, int n, const QString &prefix, bool
 } // namespace
 
 int exportOneFile(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
-                  const QString &path, const Progress &progress)
+                  SafeFile &file, const Progress &progress)
 {
-    refuseOwnFiles(variables, path);
     const HtmlCharset charset = declaredCharset(codes.header);
-    SafeFile file(path, Durability::Full, Links::Follow);
     file.write(codeBytes(codes.header, charset) + "\r\n");
     const int written = forEachWritten(variables, range, progress, [&](int n) {
         const QByteArray html = htmlOf(variables, n, QStringLiteral("Irrelevant"), false);

@@ -1,7 +1,7 @@
 #include "outil/Commands.h"
 
-#include "convert/CompileCommand.h"
 #include "convert/CodeSnippet.h"
+#include "convert/CompileCommand.h"
 #include "convert/HtmlCommands.h"
 #include "editor/ParagraphSearch.h"
 #include "outil/StateReport.h"
@@ -280,8 +280,9 @@ QByteArray Commands::html(const QStringList &arguments)
     const HtmlCodes codes{code(QStringLiteral("Début du Fichier Unique.txt")),
                           code(QStringLiteral("Numéros de Paragraphes.txt")),
                           code(QStringLiteral("Fin de Chaque Paragraphe.txt"))};
-    exportToOneFile(m_variables, m_prompts, m_view, lenientNumber(arguments.at(0)),
-                    lenientNumber(arguments.at(1)), codes, arguments.at(2));
+    if (!exportToOneFile(m_variables, m_prompts, m_view, lenientNumber(arguments.at(0)),
+                         lenientNumber(arguments.at(1)), codes, arguments.at(2)))
+        m_prompts.beep(); // also where a window says nothing, a script fails
     return {};
 }
 

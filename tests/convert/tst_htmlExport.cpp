@@ -128,7 +128,7 @@ private Q_SLOTS:
             {{"the adventure", "a.usm", "Erreur pendant l'écriture du fichier."},
              {"a working file", "Dossier Usmira/a-0007.rtf",
               "Erreur pendant l'écriture du fichier."},
-             {"no folder", "none/a.htm", "Erreur pendant l'écriture du fichier."},
+             {"no folder, said nowhere", "none/a.htm", ""},
              {"damaged text", "old.htm", "Erreur de lecture de fichier."}});
     }
     void failuresKeepTheOldFiles()
@@ -141,7 +141,8 @@ private Q_SLOTS:
         scene.adventure.file("old.htm", "old");
         scene.adventure.file("Dossier Usmira/a-0007.rtf", "old");
         const QByteArray before = scene.adventure.content(target);
-        scene.prompts.expect(message, "BUG");
+        if (!message.isEmpty())
+            scene.prompts.expect(message, "BUG");
         QVERIFY(!scene.one(1, 9, {}, target));
         QCOMPARE(scene.adventure.content(target), before);
         if (damage) {
