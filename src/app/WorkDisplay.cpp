@@ -1,27 +1,23 @@
 #include "app/WorkDisplay.h"
 
+#include "platform/WorkBar.h"
+
 #include <QApplication>
 #include <QLabel>
-#include <QProgressBar>
 
 namespace
 {
-// Milliseconds. Work that is over sooner than this needs no bar, which would only flash.
-constexpr qint64 PatienceOfAuthor = 500;
-constexpr qint64 BetweenPaints = 100;
+constexpr qint64 BetweenPaints = 100; // milliseconds
 } // namespace
 
 // What is hidden keeps its place: nothing around it moves, also as no layout happens while no
 // events are let in.
-WorkDisplay::WorkDisplay(QLabel &caption, QProgressBar &bar, QWidget &box)
+WorkDisplay::WorkDisplay(QLabel &caption, WorkBar &bar, QWidget &box)
     : m_caption(caption), m_bar(bar), m_box(box)
 {
-    for (QWidget *widget : {static_cast<QWidget *>(&bar), &box}) {
-        QSizePolicy policy = widget->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        widget->setSizePolicy(policy);
-    }
-    m_bar.hide();
+    QSizePolicy policy = box.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    box.setSizePolicy(policy);
 }
 
 void WorkDisplay::begin(const QString &caption)
@@ -29,7 +25,7 @@ void WorkDisplay::begin(const QString &caption)
     m_focusAfterwards = m_box.hasFocus();
     m_caption.setText(caption);
     m_box.hide();
-    m_sinceBegin.start();
+    m_bar.begin();
     paintWindows();
 }
 
@@ -37,9 +33,7 @@ void WorkDisplay::progress(int done, int total)
 {
     if (m_sincePaint.elapsed() < BetweenPaints)
         return;
-    m_bar.setRange(0, total);
-    m_bar.setValue(done);
-    m_bar.setVisible(m_sinceBegin.elapsed() > PatienceOfAuthor);
+    m_bar.progress(done, total);
     paintWindows();
 }
 

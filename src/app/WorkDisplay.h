@@ -3,9 +3,9 @@
 #include <QElapsedTimer>
 
 class QLabel;
-class QProgressBar;
 class QString;
 class QWidget;
+class WorkBar;
 
 // What the main window shows during long work: a caption in the place of the editing box, and a
 // bar under it once the work has lasted a while. It paints, but lets no event in, so that the
@@ -13,7 +13,7 @@ class QWidget;
 class WorkDisplay
 {
 public:
-    WorkDisplay(QLabel &caption, QProgressBar &bar, QWidget &box);
+    WorkDisplay(QLabel &caption, WorkBar &bar, QWidget &box);
 
     void begin(const QString &caption);
     void progress(int done, int total);
@@ -25,9 +25,8 @@ private:
     void paintWindows();
 
     QLabel &m_caption;
-    QProgressBar &m_bar;
+    WorkBar &m_bar;
     QWidget &m_box;
-    QElapsedTimer m_sinceBegin;
     QElapsedTimer m_sincePaint;
     bool m_focusAfterwards = false;
 };

@@ -7,7 +7,6 @@
 #include "editor/FirstWords.h"
 #include "editor/ParagraphSearch.h"
 #include "editor/StatusLine.h"
-#include "editor/helpWindow.h"
 #include "platform/Guarded.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
@@ -31,14 +30,15 @@ QString settingsPath(const Variables &variables)
 formUsmira::formUsmira(Variables &variables, Prompts &prompts)
     : m_variables(variables), m_prompts(prompts), m_ui(std::make_unique<Ui::formUsmira>()),
       m_adventure(variables, prompts, *this), m_navigation(variables, prompts, *this),
-      m_functions(variables, prompts, *this, *this), m_menuStates(variables)
+      m_functions(variables, prompts, *this, *this),
+      m_conversions(variables, prompts, *this, *this), m_info(variables, prompts, *this),
+      m_menuStates(variables)
 {
     m_ui->setupUi(this);
     resize(DesignSize);
     m_visited = std::make_unique<VisitedList>(*m_ui->theList);
     m_status = std::make_unique<StatusLine>(m_variables, *m_ui->rtfBox, *m_ui->statusBar);
     m_work = std::make_unique<WorkDisplay>(*m_ui->labBehind, *m_ui->barWork, *m_ui->rtfBox);
-    m_help = std::make_unique<helpWindow>(m_variables);
     connectAdventure();
     connectNavigation();
     connectNumberBox();
@@ -139,11 +139,8 @@ void formUsmira::connectMenus()
 {
     connectEditMenu(*m_ui, *m_ui->rtfBox);
     m_functions.connectItems(*m_ui, m_menuStates);
-    connect(m_ui->menuInfoAide, &QAction::triggered, this,
-            [this] { m_help->showHelp(helpWindow::Tag::French); });
-    connect(m_ui->menuInfoHelp, &QAction::triggered, this,
-            [this] { m_help->showHelp(helpWindow::Tag::English); });
-    connect(m_ui->menuInfoAbout, &QAction::triggered, this, &formUsmira::menuInfoAbout_Click);
+    m_conversions.connectItems(*m_ui, m_menuStates);
+    m_info.connectItems(*m_ui);
     m_menuStates.add(*m_ui->menuAv, {m_ui->menuAvSave});
     m_menuStates.add(*m_ui->menuNav, m_ui->menuNav->actions());
 }
@@ -289,7 +286,7 @@ void formUsmira::closeEvent(QCloseEvent *event)
     }
     m_status->refresh();
     if (leaves)
-        m_help->close();
+        m_info.closeHelp();
     event->setAccepted(leaves);
 }
 
@@ -391,12 +388,4 @@ void formUsmira::btnMore_Click()
     m_variables.showTabPanel = m_variables.showTabPanel != 0 ? 0 : -1;
     showTabPanel();
     refreshFormatting();
-}
-
-void formUsmira::menuInfoAbout_Click()
-{
-    m_prompts.message(QStringLiteral("Usmira %1\nUn atelier pour écrire des livres-jeux.")
-                          .arg(QCoreApplication::applicationVersion()),
-                      QStringLiteral("À Propos"), Prompts::Buttons::Ok);
-    focusEditor();
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "app/ConversionsMenu.h"
 #include "app/FunctionsMenu.h"
+#include "app/InfoMenu.h"
 #include "editor/EditorView.h"
 #include "editor/MenuStates.h"
 #include "editor/Navigation.h"
@@ -15,7 +17,6 @@ class QAction;
 class QToolButton;
 class StatusLine;
 class WorkDisplay;
-class helpWindow;
 
 namespace Ui
 {
@@ -42,6 +43,7 @@ public:
     RichTextBox &editingBox() override;
     void LoadParg(int n) override;
     void SaveCurParg() override;
+    void rtfBox_Change() override;
     void adventureReplaced() override;
     void longWorkBegins(const QString &caption) override;
     void longWorkProgress(int done, int total) override;
@@ -75,13 +77,11 @@ private:
     void refreshFormatting();
     void fillIncomingList(int n);
 
-    void rtfBox_Change();
     void theList_Click();
     void incomingList_Click();
     void btnVider_Click();
     void btnUnmixable_Click();
     void btnMore_Click();
-    void menuInfoAbout_Click();
 
     Variables &m_variables;
     Prompts &m_prompts;
@@ -89,11 +89,12 @@ private:
     AdventureCommands m_adventure;
     Navigation m_navigation;
     FunctionsMenu m_functions;
+    ConversionsMenu m_conversions;
+    InfoMenu m_info;
     MenuStates m_menuStates;
     std::unique_ptr<VisitedList> m_visited;
     std::unique_ptr<StatusLine> m_status;
     std::unique_ptr<WorkDisplay> m_work;
-    std::unique_ptr<helpWindow> m_help;
     bool m_loading = false; // the program, not the author, is changing the box
     bool m_working = false; // long work is under way
 };

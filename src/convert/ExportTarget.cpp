@@ -49,3 +49,9 @@ void refuseOwnFiles(const Variables &variables, const QString &path)
         throw FileError(FileError::Operation::Write, path,
                         QStringLiteral("belongs to the open adventure"));
 }
+
+QString proposedName(const Variables &variables)
+{
+    constexpr qsizetype Extension = 4; // ".usm"
+    return variables.AdventureFileName.left(variables.AdventureFileName.size() - Extension);
+}

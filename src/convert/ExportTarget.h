@@ -8,3 +8,6 @@ struct Variables;
 // exist yet is known by its place, and a hard link is the file that it shares. Other files in the
 // working folder are the author's.
 void refuseOwnFiles(const Variables &variables, const QString &path);
+
+// The name that an export into one file proposes: the adventure's without its extension.
+QString proposedName(const Variables &variables);

@@ -7,7 +7,7 @@
 
 blockMove::blockMove(const Variables &variables, Prompts &prompts, RenumberCommands &commands,
                      QWidget *parent)
-    : RenumberDialog(prompts, Enter::Beeps, parent), m_variables(variables), m_commands(commands),
+    : NumberDialog(prompts, Enter::Beeps, parent), m_variables(variables), m_commands(commands),
       m_ui(std::make_unique<Ui::blockMove>())
 {
     m_ui->setupUi(this);
@@ -22,7 +22,7 @@ blockMove::~blockMove() = default;
 
 void blockMove::Form_Load()
 {
-    fillRange(m_variables, *m_ui->txtLow, *m_ui->txtHigh);
+    fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
     m_ui->txtDelta->setText(QStringLiteral("0"));
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "renumber/RenumberDialog.h"
+#include "platform/NumberDialog.h"
 
 #include <memory>
 
 class RenumberCommands;
+struct Variables;
 
 namespace Ui
 {
@@ -12,7 +13,7 @@ class blockMove;
 }
 
 // Asks for the block of numbers to be moved, and by how much.
-class blockMove : public RenumberDialog
+class blockMove : public NumberDialog
 {
     Q_OBJECT
 

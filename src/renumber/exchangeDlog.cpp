@@ -7,8 +7,8 @@
 
 exchangeDlog::exchangeDlog(const Variables &variables, Prompts &prompts, RenumberCommands &commands,
                            QWidget *parent)
-    : RenumberDialog(prompts, Enter::Confirms, parent), m_variables(variables),
-      m_commands(commands), m_ui(std::make_unique<Ui::exchangeDlog>())
+    : NumberDialog(prompts, Enter::Confirms, parent), m_variables(variables), m_commands(commands),
+      m_ui(std::make_unique<Ui::exchangeDlog>())
 {
     m_ui->setupUi(this);
     connectForm(*m_ui->CancelButton, *m_ui->txtOne);

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "renumber/RenumberDialog.h"
+#include "platform/NumberDialog.h"
 
 #include <memory>
 
 class RenumberCommands;
+struct Variables;
 
 namespace Ui
 {
@@ -12,7 +13,7 @@ class exchangeDlog;
 }
 
 // Asks for the two paragraphs that exchange their numbers.
-class exchangeDlog : public RenumberDialog
+class exchangeDlog : public NumberDialog
 {
     Q_OBJECT
 

@@ -9,8 +9,8 @@
 
 masterMix::masterMix(const Variables &variables, Prompts &prompts, RenumberCommands &commands,
                      QWidget *parent, Clock clock)
-    : RenumberDialog(prompts, Enter::Confirms, parent), m_variables(variables),
-      m_commands(commands), m_clock(std::move(clock)), m_ui(std::make_unique<Ui::masterMix>())
+    : NumberDialog(prompts, Enter::Confirms, parent), m_variables(variables), m_commands(commands),
+      m_clock(std::move(clock)), m_ui(std::make_unique<Ui::masterMix>())
 {
     m_ui->setupUi(this);
     connectForm(*m_ui->CancelButton, *m_ui->txtLowerLimit);
@@ -23,7 +23,8 @@ masterMix::~masterMix() = default;
 
 void masterMix::Form_Load()
 {
-    fillRange(m_variables, *m_ui->txtLowerLimit, *m_ui->txtUpperLimit);
+    fillRange(*m_ui->txtLowerLimit, *m_ui->txtUpperLimit, m_variables.LowestWritten,
+              m_variables.HighestWritten);
 }
 
 // Every click draws afresh, also after one that was refused.

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "renumber/RenumberDialog.h"
+#include "platform/NumberDialog.h"
 
 #include <QTime>
 #include <functional>
 #include <memory>
 
 class RenumberCommands;
+struct Variables;
 
 namespace Ui
 {
@@ -14,7 +15,7 @@ class masterMix;
 }
 
 // Asks for the range whose paragraphs are to be shuffled.
-class masterMix : public RenumberDialog
+class masterMix : public NumberDialog
 {
     Q_OBJECT
 

@@ -7,7 +7,7 @@
 
 packHoles::packHoles(const Variables &variables, Prompts &prompts, RenumberCommands &commands,
                      QWidget *parent)
-    : RenumberDialog(prompts, Enter::Beeps, parent), m_variables(variables), m_commands(commands),
+    : NumberDialog(prompts, Enter::Beeps, parent), m_variables(variables), m_commands(commands),
       m_ui(std::make_unique<Ui::packHoles>())
 {
     m_ui->setupUi(this);
@@ -21,7 +21,7 @@ packHoles::~packHoles() = default;
 
 void packHoles::Form_Load()
 {
-    fillRange(m_variables, *m_ui->txtLow, *m_ui->txtHigh);
+    fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
 }
 
 void packHoles::OKButton_Click()

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "renumber/RenumberDialog.h"
+#include "platform/NumberDialog.h"
 
 #include <memory>
 
 class RenumberCommands;
+struct Variables;
 
 namespace Ui
 {
@@ -12,7 +13,7 @@ class packHoles;
 }
 
 // Asks for the range whose empty numbers are to be closed up.
-class packHoles : public RenumberDialog
+class packHoles : public NumberDialog
 {
     Q_OBJECT
 

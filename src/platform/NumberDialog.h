@@ -1,17 +1,15 @@
 #pragma once
 
-#include "store/Variables.h"
-
 #include <QDialog>
 
 class NumberBox;
 class Prompts;
 class QPushButton;
 
-// What the dialogs that renumber have in common: boxes that beep, "Annuler", and what Enter does. A
-// dialog is made anew for each opening. It closes as accepted when paragraphs may have got other
-// numbers, and as rejected when nothing has changed.
-class RenumberDialog : public QDialog
+// What the dialogs that ask for numbers have in common: boxes that beep, "Annuler", and what Enter
+// does. A dialog is made anew for each opening. It closes as accepted when its work is done, and as
+// rejected when nothing has changed.
+class NumberDialog : public QDialog
 {
     Q_OBJECT
 
@@ -19,7 +17,7 @@ protected:
     // Enter in a number box presses the default button, or is refused like a letter.
     enum class Enter { Confirms, Beeps };
 
-    RenumberDialog(Prompts &prompts, Enter inBox, QWidget *parent);
+    NumberDialog(Prompts &prompts, Enter inBox, QWidget *parent);
 
     // Connects what is common once the form is set up; first is where the author begins.
     void connectForm(const QPushButton &cancel, NumberBox &first);
@@ -33,5 +31,5 @@ private:
     Enter m_inBox;
 };
 
-// Fills the boxes of a range with the written range of the adventure.
-void fillRange(const Variables &variables, NumberBox &low, NumberBox &high);
+// Fills the boxes of a range, mostly with the written range of the adventure.
+void fillRange(NumberBox &low, NumberBox &high, int lowest, int highest);

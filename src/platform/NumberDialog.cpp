@@ -1,4 +1,4 @@
-#include "renumber/RenumberDialog.h"
+#include "platform/NumberDialog.h"
 
 #include "platform/NumberBox.h"
 #include "platform/Prompts.h"
@@ -6,25 +6,25 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
-RenumberDialog::RenumberDialog(Prompts &prompts, Enter inBox, QWidget *parent)
+NumberDialog::NumberDialog(Prompts &prompts, Enter inBox, QWidget *parent)
     : QDialog(parent), m_prompts(prompts), m_inBox(inBox)
 {
 }
 
-void RenumberDialog::connectForm(const QPushButton &cancel, NumberBox &first)
+void NumberDialog::connectForm(const QPushButton &cancel, NumberBox &first)
 {
     NumberBox::connectBeeps(*this, m_prompts);
-    connect(&cancel, &QPushButton::clicked, this, &RenumberDialog::CancelButton_Click);
+    connect(&cancel, &QPushButton::clicked, this, &NumberDialog::CancelButton_Click);
     first.setFocus();
 }
 
-void RenumberDialog::CancelButton_Click()
+void NumberDialog::CancelButton_Click()
 {
     reject();
 }
 
 // Where Enter beeps there is no default button, and Enter comes here from the buttons too.
-void RenumberDialog::keyPressEvent(QKeyEvent *event)
+void NumberDialog::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter || m_inBox == Enter::Confirms)
@@ -35,8 +35,8 @@ void RenumberDialog::keyPressEvent(QKeyEvent *event)
         m_prompts.beep();
 }
 
-void fillRange(const Variables &variables, NumberBox &low, NumberBox &high)
+void fillRange(NumberBox &low, NumberBox &high, int lowest, int highest)
 {
-    low.setText(QString::number(variables.LowestWritten));
-    high.setText(QString::number(variables.HighestWritten));
+    low.setText(QString::number(lowest));
+    high.setText(QString::number(highest));
 }

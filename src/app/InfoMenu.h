@@ -1,0 +1,28 @@
+#pragma once
+
+#include "editor/helpWindow.h"
+
+class EditorView;
+class Prompts;
+
+namespace Ui
+{
+class formUsmira;
+}
+
+// The commands of the menu "Aide", with the window of the help.
+class InfoMenu
+{
+public:
+    InfoMenu(const Variables &variables, Prompts &prompts, EditorView &view);
+
+    void connectItems(const Ui::formUsmira &ui);
+    void closeHelp() { m_help.close(); }
+
+private:
+    void menuInfoAbout_Click();
+
+    Prompts &m_prompts;
+    EditorView &m_view;
+    helpWindow m_help;
+};

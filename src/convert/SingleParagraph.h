@@ -1,0 +1,27 @@
+#pragma once
+
+class AdventureView;
+class Prompts;
+struct Variables;
+
+// Exchanges the paragraph in the editing box with an RTF file that the author chooses. Without an
+// open adventure both commands do nothing.
+class SingleParagraph
+{
+public:
+    SingleParagraph(Variables &variables, Prompts &prompts, AdventureView &view);
+
+    // The file's text becomes the paragraph's, still to be saved. True when the box has changed; a
+    // file that cannot be read changes nothing, without a word.
+    bool Load();
+
+    // Saves the paragraph first, then writes the box into the file. A file that cannot be written
+    // stays as it was, without a word. Throws FileError when the paragraph cannot be saved or the
+    // file is one of the adventure's own.
+    void Save();
+
+private:
+    Variables &m_variables;
+    Prompts &m_prompts;
+    AdventureView &m_view;
+};

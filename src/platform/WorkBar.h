@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QProgressBar>
+
+// A bar that shows how far long work is. It appears only once the work has lasted a while: one that
+// is over sooner would only make it flash. Hidden it keeps its place, so that nothing around it
+// moves, also as no layout happens while no events are let in.
+class WorkBar : public QProgressBar
+{
+    Q_OBJECT
+
+public:
+    explicit WorkBar(QWidget *parent = nullptr);
+
+    void begin();
+    void progress(int done, int total);
+
+private:
+    QElapsedTimer m_sinceBegin;
+};
