@@ -21,8 +21,10 @@ bool compileToRtf(const Variables &variables, Prompts &prompts, AdventureView &v
         refuseOwnFiles(variables, path);
         try {
             LongWork work(view, QStringLiteral("Conversion en Cours Veuillez Attendre"));
-            compileRtf(variables, exportRange(first, second), style, path,
-                       [&work](int done, int total) { work.progress(done, total); });
+            const int written =
+                compileRtf(variables, exportRange(first, second), style, path,
+                           [&work](int done, int total) { work.progress(done, total); });
+            announceExport(view, written, path);
             return true;
         } catch (const FileError &) {
             return saveFailed(prompts);

@@ -1,6 +1,7 @@
 #include "convert/ExportRange.h"
 
 #include "platform/LenientNumbers.h"
+#include "store/AdventureCommands.h"
 #include "store/Variables.h"
 
 #include <algorithm>
@@ -10,4 +11,25 @@ ExportRange exportRange(double first, double second)
     const int a = std::min(roundHalfEven(first), Variables::LastParagraph);
     const int b = std::min(roundHalfEven(second), Variables::LastParagraph);
     return {std::min(a, b), std::max(a, b)};
+}
+
+int forEachWritten(const Variables &variables, const ExportRange &range, const Progress &progress,
+                   const std::function<void(int)> &action)
+{
+    int written = 0;
+    for (int n = range.low; n <= range.high; ++n) {
+        if (variables.Written.at(static_cast<std::size_t>(n)) == 1) {
+            action(n);
+            ++written;
+        }
+        progress(n - range.low + 1, range.high - range.low + 1);
+    }
+    return written;
+}
+
+void announceExport(AdventureView &view, int written, const QString &place)
+{
+    view.announce(written == 1
+                      ? QStringLiteral("1 paragraphe écrit : %1").arg(place)
+                      : QStringLiteral("%1 paragraphes écrits : %2").arg(written).arg(place));
 }

@@ -21,9 +21,7 @@ bool run(Prompts &prompts, AdventureView &view, const ExportRange &range, const 
         return true;
     });
     if (done)
-        view.announce(written == 1
-                          ? QStringLiteral("1 paragraphe écrit : %1").arg(place)
-                          : QStringLiteral("%1 paragraphes écrits : %2").arg(written).arg(place));
+        announceExport(view, written, place);
     return done;
 }
 } // namespace

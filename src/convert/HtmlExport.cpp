@@ -9,8 +9,6 @@
 #include "richtext/HiddenBox.h"
 #include "store/ParagraphStore.h"
 
-#include <functional>
-
 namespace
 {
 QString withNumber(QString code, int n)
@@ -23,20 +21,6 @@ QByteArray codeBytes(QString code, HtmlCharset charset)
 {
     code.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     return htmlBytes(code.replace(u'\n', QStringLiteral("\r\n")), charset);
-}
-
-int forEachWritten(const Variables &variables, const ExportRange &range, const Progress &progress,
-                   const std::function<void(int)> &action)
-{
-    int written = 0;
-    for (int n = range.low; n <= range.high; ++n) {
-        if (variables.Written.at(static_cast<std::size_t>(n)) == 1) {
-            action(n);
-            ++written;
-        }
-        progress(n - range.low + 1, range.high - range.low + 1);
-    }
-    return written;
 }
 
 // A text that no box of ours wrote may lack what the conversion relies on. The box makes it one of

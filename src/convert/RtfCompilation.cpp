@@ -16,16 +16,13 @@ public:
         m_assembly.setText(QString());
     }
 
-    void run(const ExportRange &range, const Progress &progress)
+    int run(const ExportRange &range, const Progress &progress)
     {
-        const int total = range.high - range.low + 1;
-        for (int n = range.low; n <= range.high; ++n) {
-            if (m_variables.Written.at(static_cast<std::size_t>(n)) == 1)
-                append(n);
-            progress(n - range.low + 1, total);
-        }
+        const int written =
+            forEachWritten(m_variables, range, progress, [this](int n) { append(n); });
         if (!m_unreadable.isEmpty())
             throw UnreadableTexts(m_unreadable);
+        return written;
     }
 
     // Other programs are to read this. One of them, AbiWord 3, forgets the format of the characters
@@ -99,10 +96,11 @@ NumberStyle defaultNumberStyle(const Variables &variables)
             true};
 }
 
-void compileRtf(const Variables &variables, const ExportRange &range, const NumberStyle &style,
-                const QString &path, const Progress &progress)
+int compileRtf(const Variables &variables, const ExportRange &range, const NumberStyle &style,
+               const QString &path, const Progress &progress)
 {
     Compilation compilation(variables, style);
-    compilation.run(range, progress);
+    const int written = compilation.run(range, progress);
     compilation.save(path);
+    return written;
 }

@@ -27,6 +27,6 @@ NumberStyle defaultNumberStyle(const Variables &variables);
 //
 // Whatever file path names is replaced, once the new one is whole; the caller has refused the
 // adventure's own files. Throws UnreadableTexts with every text that cannot be read, or FileError
-// (Write), and the old file stays.
-void compileRtf(const Variables &variables, const ExportRange &range, const NumberStyle &style,
-                const QString &path, const Progress &progress);
+// (Write), and the old file stays. Gives the number of paragraphs written.
+int compileRtf(const Variables &variables, const ExportRange &range, const NumberStyle &style,
+               const QString &path, const Progress &progress);

@@ -110,17 +110,23 @@ melanger 4 9
         QCOMPARE(outcome.output.split('\r').join(), "Va au 9\nVa au 2\nVa au 2\n7\n");
     }
 
-    void paragraphsAreCompiled()
+    void paragraphsArePublished()
     {
         TestAdventure adventure;
-        const QString path = adventure.file(
+        const QByteArray folder = adventure.path(QStringLiteral("./")).toUtf8();
+        adventure.file(
             QStringLiteral("a.usm"),
             AdventureBuilder({QStringLiteral("1: Va au 9"), QStringLiteral("9: Fin")}).bytes());
-        const Outcome outcome =
-            run(adventure, {},
-                "ouvrir '" + path.toUtf8() + "'\ncompiler-rtf 2000 2 '" +
-                    adventure.path(QStringLiteral("livre.rtf")).toUtf8() + "'\n");
+        const QByteArray script = "ouvrir '@a.usm'\ncompiler-rtf 2000 2 '@livre.rtf'\n"
+                                  "html 1 9 '@livre.htm'\npages 5 2000 '@' L-\npages 1 1 '@'\n";
+        const Outcome outcome = run(adventure, {}, QByteArray(script).replace('@', folder));
         QCOMPARE(outcome.errors, QString());
+        QCOMPARE(outcome.status, 0);
+        QVERIFY(
+            adventure.content(QStringLiteral("livre.htm")).contains("<A HREF=\"#P0009\">9</A>"));
+        QVERIFY(adventure.content(QStringLiteral("L-0009.htm")).contains("Fin"));
+        QVERIFY(adventure.content(QStringLiteral("L-0001.htm")).isEmpty());
+        QVERIFY(adventure.content(QStringLiteral("a-0001.htm")).contains("a-0009.htm"));
         QVERIFY(adventure.content(QStringLiteral("livre.rtf"))
                     .endsWith("\\deflang1036\\pard\\qc \\f0\\plain\\f0\\fs24\\b 9\r\n"
                               "\\par \\pard \\f0\\plain\\f0\\fs24 Fin\r\n"
@@ -154,6 +160,8 @@ melanger 4 9
             QStringLiteral("graine"));
         row("own file", {QStringLiteral("ouvrir @"), QStringLiteral("compiler-rtf 1 9 @")}, 1,
             QStringLiteral("Erreur pendant l'écriture du fichier."));
+        row("a file that cannot be opened, said nowhere",
+            {QStringLiteral("ouvrir @"), QStringLiteral("html 1 9 /nowhere/a.htm")}, 1, QString());
         row("existing file", {QStringLiteral("nouvelle @")}, 1, QStringLiteral("existe déjà"));
     }
     void failuresAndBadUsageHaveTheirStatus()
