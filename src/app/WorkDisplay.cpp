@@ -45,13 +45,19 @@ void WorkDisplay::end()
         m_box.setFocus();
 }
 
-// All of them: what another program's window uncovers stays grey until somebody paints it.
+// All of them: what another window uncovers, also a file dialog that has just closed, shows that
+// window until somebody paints it. Painting a window does not include the controls that fill their
+// own background.
 void WorkDisplay::paintWindows()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        if (window->isVisible())
-            window->repaint();
+        if (!window->isVisible())
+            continue;
+        const QList<QWidget *> controls = window->findChildren<QWidget *>();
+        for (QWidget *control : controls)
+            control->update();
+        window->repaint();
     }
     m_sincePaint.start();
 }
