@@ -4,6 +4,7 @@
 #include "platform/Prompts.h"
 
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPushButton>
 
 NumberDialog::NumberDialog(Prompts &prompts, Enter inBox, QWidget *parent)
@@ -33,6 +34,14 @@ void NumberDialog::keyPressEvent(QKeyEvent *event)
         button->click();
     else
         m_prompts.beep();
+}
+
+// The smallest height that a layout asks for by itself takes no account of captions that wrap.
+void NumberDialog::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    if (layout()->hasHeightForWidth())
+        setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
 }
 
 void fillRange(NumberBox &low, NumberBox &high, int lowest, int highest)

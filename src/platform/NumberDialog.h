@@ -25,6 +25,7 @@ protected:
     void CancelButton_Click();
 
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     Prompts &m_prompts;
