@@ -6,10 +6,14 @@
 #include "support/PromptRecorder.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
+#include <functional>
 #include <memory>
 
 // The main window on a temporary working folder, driven through its controls by their names.
@@ -71,6 +75,33 @@ public:
         for (int row = 0; row < widget.count(); ++row)
             texts.append(widget.item(row)->text());
         return texts.join(u'|');
+    }
+
+    // Opens a dialog and does the work in it. A dialog that the work leaves open is cancelled.
+    // Gives the name of the dialog, or an empty one when none came.
+    QString inDialog(const std::function<void()> &open,
+                     const std::function<void(QDialog &dialog)> &work) const
+    {
+        QString name;
+        QTimer::singleShot(0, window.get(), [&] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            if (dialog == nullptr)
+                return;
+            name = dialog->objectName();
+            if (QTest::qWaitForWindowActive(dialog))
+                work(*dialog);
+            if (dialog->isVisible())
+                dialog->reject();
+        });
+        open();
+        QCoreApplication::processEvents(); // without a dialog the timer is still to come
+        return name;
+    }
+    // The platform of the tests does not itself activate the window that a dialog leaves.
+    bool editorHasFocus() const
+    {
+        window->activateWindow();
+        return QTest::qWaitFor([this] { return box().hasFocus(); });
     }
 
     QLineEdit &field(const char *name) const { return control<QLineEdit>(name); }

@@ -6,10 +6,8 @@
 #include "store/ParagraphStore.h"
 #include "support/TestTable.h"
 
-#include <QDialog>
 #include <QDir>
 #include <QPushButton>
-#include <QTimer>
 
 namespace
 {
@@ -56,32 +54,12 @@ void click(const QWidget &dialog, const QString &button)
     QTest::mouseClick(dialog.findChild<QPushButton *>(button), Qt::LeftButton);
 }
 
-// Presses the key of a command where the focus is and does the work in the dialog that comes. A
-// dialog that the work leaves open is cancelled. Gives the name of the dialog.
+// Presses the key of a command where the focus is and does the work in the dialog that comes.
 QString inDialog(const WindowFixture &fixture, const QString &key,
                  const std::function<void(QDialog &dialog)> &work)
 {
-    QString name;
-    QTimer::singleShot(0, fixture.window.get(), [&] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (dialog == nullptr)
-            return;
-        name = dialog->objectName();
-        if (QTest::qWaitForWindowActive(dialog))
-            work(*dialog);
-        if (dialog->isVisible())
-            dialog->reject();
-    });
-    QTest::keySequence(fixture.window->focusWidget(), QKeySequence(key));
-    QCoreApplication::processEvents(); // without a dialog the timer is still to come
-    return name;
-}
-
-// The platform of the tests does not itself activate the window that a dialog leaves.
-bool editorHasFocus(const WindowFixture &fixture)
-{
-    fixture.window->activateWindow();
-    return QTest::qWaitFor([&] { return fixture.box().hasFocus(); });
+    return fixture.inDialog(
+        [&] { QTest::keySequence(fixture.window->focusWidget(), QKeySequence(key)); }, work);
 }
 
 // "3 Trois. 5 Cinq.": what is written where.
@@ -139,7 +117,7 @@ private Q_SLOTS:
             });
             QTEST(name, "name");
             QVERIFY2(away.manhattanLength() < 48, "not centred on the window");
-            QVERIFY(editorHasFocus(fixture));
+            QVERIFY(fixture.editorHasFocus());
             QVERIFY(!fixture.adventure.variables.AdventureModified);
         }
     }
@@ -229,7 +207,7 @@ private Q_SLOTS:
         QCOMPARE(fixture.box().text(), rtfToPlainText(GetParagraphRtf(variables, 5)));
         QVERIFY(variables.AdventureModified);
         QVERIFY(fixture.box().isVisible());
-        QVERIFY(editorHasFocus(fixture));
+        QVERIFY(fixture.editorHasFocus());
     }
 
     void eachClickDrawsFromTheTimeOfDay()

@@ -43,14 +43,16 @@ Prompts::Answer PromptRecorder::message(const QString &text, const QString &titl
     return box.answer;
 }
 
-QString PromptRecorder::openName(const QString &title, const QString & /*filter*/)
+QString PromptRecorder::openName(const QString &title, const QString &filter)
 {
+    m_fileKind = filter + u';';
     return fileDialog(title, {});
 }
 
-QString PromptRecorder::saveName(const QString &title, const QString & /*filter*/,
-                                 const QString & /*defaultExtension*/, const QString &proposed)
+QString PromptRecorder::saveName(const QString &title, const QString &filter,
+                                 const QString &defaultExtension, const QString &proposed)
 {
+    m_fileKind = filter + u';' + defaultExtension;
     return fileDialog(title, proposed);
 }
 

@@ -19,6 +19,9 @@ public:
     // cancelled. It must propose a name (a folder dialog: begin in a folder).
     void expectFileDialog(const QString &title, const QString &name, const QString &proposed = {});
 
+    // Filter and default extension of the last file dialog: "Textes (*.txt)|*.txt;txt".
+    const QString &fileKind() const { return m_fileKind; }
+
     int beeps() const { return m_beeps; }
 
     Answer message(const QString &text, const QString &title, Buttons buttons) override;
@@ -44,5 +47,6 @@ private:
 
     QList<Box> m_boxes;
     QList<FileDialog> m_fileDialogs;
+    QString m_fileKind;
     int m_beeps = 0;
 };

@@ -1,0 +1,401 @@
+#include "app/WindowFixture.h"
+#include "platform/NumberBox.h"
+#include "richtext/HiddenBox.h"
+#include "support/TestTable.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStatusBar>
+
+namespace
+{
+const QString HtmlKind = "Fichiers HTML (*.htm)|*.htm;htm";
+const QString RtfKind = "Fichiers RTF (*.rtf)|*.rtf;rtf";
+const QString WriteError = "Erreur pendant l'écriture du fichier.";
+
+// Written are 3, 5 and 12; 5 is on the screen, with its end just typed.
+struct Scene : WindowFixture {
+    Scene() : WindowFixture(AdventureBuilder({"3: Trois.", "5: Cinq", "12: Douze."}).current(5))
+    {
+        type(" au 3");
+    }
+
+    QString in(const char *item, const std::function<void(QDialog &)> &work) const
+    {
+        return inDialog([&] { trigger(item); }, work);
+    }
+    QString path(const char *name) const { return adventure.path(name); }
+    QString status() const { return control<QStatusBar>("statusBar").currentMessage(); }
+};
+
+template <typename Control> Control &child(const QWidget &dialog, const QString &name)
+{
+    auto *found = dialog.findChild<Control *>(name);
+    if (found == nullptr)
+        qFatal("there is no %s", qPrintable(name));
+    return *found;
+}
+
+void click(const QWidget &dialog, const QString &button)
+{
+    QTest::mouseClick(&child<QPushButton>(dialog, button), Qt::LeftButton);
+}
+
+void typeOver(const QWidget &dialog, const QString &box, const QString &text)
+{
+    auto &edit = child<QLineEdit>(dialog, box);
+    edit.setFocus();
+    edit.selectAll();
+    QTest::keyClick(&edit, Qt::Key_Backspace);
+    QTest::keyClicks(&edit, text);
+}
+
+void setCode(const QWidget &dialog, const QString &box, const QString &code)
+{
+    child<QPlainTextEdit>(dialog, box).setPlainText(code);
+}
+
+// A wrapped caption in a layout that is too low is cut.
+QString cutCaption(const QWidget &dialog)
+{
+    for (const auto *label : dialog.findChildren<QLabel *>()) {
+        if (label->wordWrap() && label->height() < label->heightForWidth(label->width()))
+            return label->text();
+    }
+    return {};
+}
+} // namespace
+
+class tst_exportDialogs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void menuIsEnabledWhileAnAdventureIsOpen()
+    {
+        WindowFixture fixture;
+        auto &menu = fixture.control<QMenu>("menuConv");
+        QCOMPARE(menu.title(), "&Conversions");
+        QStringList names;
+        for (const QAction *item : menu.actions())
+            names.append(item->isSeparator() ? "-" : item->objectName() + '=' + item->text());
+        QCOMPARE(names.join('|'), "menuConvRTF=Créer un Fichier &RTF...|-|"
+                                  "menuConvSave1=&Enregistrer 1 Paragraphe...|"
+                                  "menuConvLoad1=&Charger 1 Paragraphe...|-|"
+                                  "menuConv1toHTML=&HTML : Aventure Entière|"
+                                  "menuConvNtoHTML=HTML : 1 Fichier par &Paragraphe");
+        for (const bool open : {false, true, false}) {
+            fixture.adventure.variables.AdventureOpen = open;
+            Q_EMIT menu.aboutToShow();
+            for (const QAction *item : menu.actions())
+                QVERIFY(item->isSeparator() || item->isEnabled() == open);
+        }
+    }
+
+    void opensFilledAnewAndLeavesWithoutAWord_data()
+    {
+        addTable<QString, QString>({"item", "cancel"},
+                                   {{"onebigHTML", "menuConv1toHTML", "Cancel"},
+                                    {"manyHTML", "menuConvNtoHTML", "Cancel"},
+                                    {"convertRTF", "menuConvRTF", "CancelButton"}});
+    }
+    void opensFilledAnewAndLeavesWithoutAWord()
+    {
+        QFETCH(const QString, item);
+        QFETCH(const QString, cancel);
+        Scene scene;
+        scene.box().select(2, 1);
+        for (const bool escape : {false, true}) {
+            const QString name = scene.in(item.toLatin1(), [&](QDialog &dialog) {
+                auto &low = child<QLineEdit>(dialog, "txtLow");
+                QCOMPARE(low.text() + '|' + child<QLineEdit>(dialog, "txtHigh").text(), "3|12");
+                QTRY_VERIFY(low.hasFocus());
+                const QPoint away = dialog.geometry().center() - scene.window->geometry().center();
+                QVERIFY2(away.manhattanLength() < 48, "not centred on the window");
+                for (QLineEdit *box : dialog.findChildren<NumberBox *>()) {
+                    box->setFocus();
+                    QCOMPARE(box->selectedText(), box->text());
+                    const int beeps = scene.prompts.beeps();
+                    QTest::keyClicks(box, "1a-.7\r");
+                    QCOMPARE(box->text(), "1.7");
+                    QCOMPARE(scene.prompts.beeps(), beeps + 3);
+                }
+                if (escape)
+                    QTest::keyClick(&low, Qt::Key_Escape);
+                else
+                    click(dialog, cancel);
+                QVERIFY(!dialog.isVisible());
+            });
+            QCOMPARE(name, QTest::currentDataTag());
+            QVERIFY(scene.editorHasFocus());
+            QCOMPARE(scene.box().selText(), "n");
+            QVERIFY(!scene.adventure.variables.ParagraphDirty);
+        }
+        QCOMPARE(scene.adventure.workingFiles(), QStringList("LL-0005.rtf"));
+    }
+
+    void captionsAreWholeOnASmallScreen()
+    {
+        const Scene scene;
+        for (const char *item : {"menuConv1toHTML", "menuConvNtoHTML", "menuConvRTF"}) {
+            scene.in(item, [&](QDialog &dialog) {
+                for (const int points : {9, 12}) {
+                    QFont font = dialog.font();
+                    font.setPointSize(points);
+                    dialog.setFont(font);
+                    dialog.resize(100, 100);
+                    QTRY_COMPARE(cutCaption(dialog), "");
+                    QVERIFY2(dialog.width() <= 1000 && dialog.height() <= 540, item);
+                }
+            });
+        }
+    }
+
+    // The range is swapped, a cancelled file dialog and a file that cannot be opened end silently
+    // and leave the dialog, and each box's code comes where it belongs.
+    void oneFileIsWritten()
+    {
+        Scene scene;
+        scene.adventure.file("Dossier Usmira/Début du Fichier Unique.txt", "début\r\né");
+        scene.adventure.file("Dossier Usmira/Numéros de Paragraphes.txt", "<999>:");
+        scene.adventure.file("Dossier Usmira/Fin de Chaque Paragraphe.txt", "fin");
+        scene.in("menuConv1toHTML", [&](const QDialog &dialog) {
+            typeOver(dialog, "txtLow", "5.6");
+            typeOver(dialog, "txtHigh", "2");
+            for (const char *name : {"", "absent/a.htm", "a.htm"}) {
+                QVERIFY(dialog.isVisible());
+                scene.prompts.expectFileDialog("Enregistrer Fichier HTML",
+                                               *name == '\0' ? QString() : scene.path(name),
+                                               "Le Loup");
+                click(dialog, "HTML");
+                QCOMPARE(scene.prompts.fileKind(), HtmlKind);
+            }
+            QVERIFY(!dialog.isVisible());
+        });
+        QCOMPARE(scene.adventure.content("a.htm"),
+                 "d\xE9"
+                 "but\r\n\xE9\r\n<A NAME=\"P0003\"></A>3:<P ALIGN=\"Left\">Trois.\r\n<BR>\r\n"
+                 "<A NAME=\"P0005\"></A>5:<P ALIGN=\"Left\">Cinq au "
+                 "<A HREF=\"#P0003\">3</A>\r\n<BR>\r\nfin\r\n");
+        QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.path("a.htm"));
+    }
+
+    void pagesGoIntoTheFolderThatIsTyped()
+    {
+        Scene scene;
+        const QString folder = scene.path("pages/neuves");
+        const auto offer = [](const QString &absent) {
+            return "Ce dossier n'existe pas :\n" + absent + "\nLe créer?";
+        };
+        scene.adventure.file("fichier", "x");
+        using Answer = Prompts::Answer;
+        scene.in("menuConvNtoHTML", [&](const QDialog &dialog) {
+            auto &folderBox = child<QLineEdit>(dialog, "folderBox");
+            QCOMPARE(child<QLineEdit>(dialog, "txtPrefix").text(), "LL-");
+            QCOMPARE(folderBox.text(), scene.path(""));
+            const QString start = folderBox.text();
+            for (const QString &chosen : {QString(), scene.adventure.variables.WorkingFolder}) {
+                scene.prompts.expectFileDialog("Choisissez un Dossier", chosen, start);
+                click(dialog, "btnBrowse");
+                QCOMPARE(folderBox.text(), chosen.isEmpty() ? start : chosen);
+            }
+            const int beeps = scene.prompts.beeps();
+            typeOver(dialog, "folderBox", " ");
+            click(dialog, "HTML");
+            QCOMPARE(scene.prompts.beeps(), beeps + 1);
+            typeOver(dialog, "folderBox", scene.path("fichier/pages"));
+            scene.prompts.expect(offer(scene.path("fichier/pages")), "Attention",
+                                 Prompts::Buttons::YesNo, Answer::Yes);
+            scene.prompts.expect(WriteError, "BUG");
+            click(dialog, "HTML");
+            setCode(dialog, "txtHeader", "[<999>]");
+            setCode(dialog, "txtFooter", "{<999>}");
+            typeOver(dialog, "txtLow", "12");
+            typeOver(dialog, "txtHigh", "4");
+            typeOver(dialog, "txtPrefix", "p");
+            typeOver(dialog, "folderBox", "pages/neuves"); // beside the adventure
+            for (const Answer answer : {Answer::No, Answer::Yes}) {
+                QVERIFY(dialog.isVisible() && !QFileInfo::exists(folder));
+                scene.prompts.expect(offer(folder), "Attention", Prompts::Buttons::YesNo, answer);
+                click(dialog, "HTML");
+            }
+            QVERIFY(!dialog.isVisible());
+        });
+        QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList({"p0005.htm", "p0012.htm"}));
+        QCOMPARE(scene.adventure.content("pages/neuves/p0005.htm"),
+                 "[5]<P ALIGN=\"Left\">Cinq au <A HREF=\"p0003.htm\">3</A>\r\n<BR>{<999>}\r\n");
+        QCOMPARE(scene.status(), "2 paragraphes écrits : " + folder);
+        scene.in("menuConvNtoHTML", [&](const QDialog &dialog) {
+            QCOMPARE(child<QLineEdit>(dialog, "folderBox").text(), folder);
+            QCOMPARE(child<QLineEdit>(dialog, "txtPrefix").text(), "LL-");
+        });
+    }
+
+    void sampleShowsTheStyle()
+    {
+        Scene scene;
+        scene.adventure.variables.defaultFontName = "Inconnue";
+        scene.adventure.variables.defaultFontSize = 14;
+        scene.in("menuConvRTF", [&](QDialog &dialog) {
+            const auto &sample = child<QLabel>(dialog, "demoLabel");
+            const auto look = [&sample] {
+                const QFont font = sample.font();
+                return QString("%1 %2 %3%4%5%6")
+                    .arg(font.family())
+                    .arg(font.pointSizeF())
+                    .arg(font.bold() ? "b" : "", font.italic() ? "i" : "",
+                         font.underline() ? "u" : "",
+                         sample.alignment() & Qt::AlignHCenter ? "c" : "");
+            };
+            auto &fonts = child<QComboBox>(dialog, "comboFonts");
+            QCOMPARE(fonts.currentText(), "Inconnue");
+            QVERIFY(fonts.count() > 0);
+            QCOMPARE(look(), "Inconnue 14 bc");
+            for (const char *box : {"chkBold", "chkItalics", "chkUnderline", "chkCentered"})
+                child<QCheckBox>(dialog, box).click();
+            QCOMPARE(look(), "Inconnue 14 iu");
+            fonts.setCurrentIndex(0);
+            const QString first = fonts.itemText(0);
+            const QSize size = dialog.size();
+            typeOver(dialog, "txtSize", "300");
+            QCOMPARE(look(), first + " 300 iu");
+            QCoreApplication::processEvents();
+            QCOMPARE(dialog.size(), size);
+            typeOver(dialog, "txtSize", "99999999");
+            QVERIFY(sample.font().pointSizeF() < 1000);
+            for (const char *nothing : {"", "0", "."}) {
+                typeOver(dialog, "txtSize", nothing);
+                child<QLineEdit>(dialog, "txtLow").setFocus();
+                QCOMPARE(child<QLineEdit>(dialog, "txtSize").text(), "12");
+                QCOMPARE(look(), first + " 12 iu");
+            }
+        });
+    }
+
+    void documentIsCompiledInTheChosenStyle()
+    {
+        Scene scene;
+        int shown = 0;
+        scene.in("menuConvRTF", [&](const QDialog &dialog) {
+            typeOver(dialog, "txtLow", "12");
+            typeOver(dialog, "txtHigh", "4");
+            typeOver(dialog, "txtSize", "20");
+            child<QComboBox>(dialog, "comboFonts").setEditText("Courier New");
+            child<QCheckBox>(dialog, "chkItalics").click();
+            auto &wait = child<QLabel>(dialog, "waitLabel");
+            QVERIFY(!wait.isVisible());
+            QVERIFY(QTest::qWaitForWindowExposed(wait.window()));
+            for (const char *name : {"", "absent/a.rtf", "a.rtf"}) {
+                QVERIFY(dialog.isVisible());
+                scene.prompts.expectFileDialog("Enregistrer Fichier RTF",
+                                               *name == '\0' ? QString() : scene.path(name),
+                                               "Le Loup");
+                if (QString(name).startsWith("absent"))
+                    scene.prompts.expect("Erreur d'enregistrement du fichier", "BUG");
+                wait.installEventFilter(this);
+                m_shown = 0;
+                click(dialog, "OKButton");
+                shown += m_shown;
+                QCOMPARE(scene.prompts.fileKind(), RtfKind);
+                QVERIFY(!wait.isVisible());
+            }
+            QVERIFY(!dialog.isVisible());
+        });
+        QCOMPARE(shown, 2);
+        HiddenBox document;
+        document.loadFile(scene.path("a.rtf"));
+        QCOMPARE(document.text(), "5\r\nCinq au 3\r\n\r\n12\r\nDouze.\r\n\r\n");
+        document.select(0, 1);
+        QCOMPARE(document.selFontName(), "Courier New");
+        QCOMPARE(document.selFontSize(), 20.0);
+        QVERIFY(document.selBold() == true && document.selItalic() == true);
+        QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.path("a.rtf"));
+    }
+
+    void adventuresOwnFilesAreRefused()
+    {
+        struct Export {
+            const char *item, *button, *title, *proposed;
+        };
+        Scene scene;
+        const QByteArray bytes = scene.adventure.content("Le Loup.usm");
+        for (const Export &to :
+             {Export{"menuConv1toHTML", "HTML", "Enregistrer Fichier HTML", "Le Loup"},
+              Export{"menuConvRTF", "OKButton", "Enregistrer Fichier RTF", "Le Loup"},
+              Export{"menuConvNtoHTML", "btnSave1", "Enregistrer Fichier Texte", ""}}) {
+            scene.in(to.item, [&](const QDialog &dialog) {
+                for (const char *name : {"Le Loup.usm", "Dossier Usmira/LL-0005.rtf"}) {
+                    scene.prompts.expectFileDialog(to.title, scene.path(name), to.proposed);
+                    scene.prompts.expect(WriteError, "BUG");
+                    click(dialog, to.button);
+                    QVERIFY(dialog.isVisible());
+                }
+            });
+        }
+        QCOMPARE(scene.adventure.content("Le Loup.usm"), bytes);
+    }
+
+    void codeKeepsItsEncodingThroughItsButtons_data()
+    {
+        const QString one = "menuConv1toHTML";
+        const QString many = "menuConvNtoHTML";
+        addTable<QString, QString, QString>({"item", "box", "number"},
+                                            {{"start of the file", one, "txtHeader", "1"},
+                                             {"end of the file", one, "txtFooter", "2"},
+                                             {"numbers", one, "txtNumbers", "3"},
+                                             {"start of a page", many, "txtHeader", "1"},
+                                             {"end of a page", many, "txtFooter", "2"}});
+    }
+    void codeKeepsItsEncodingThroughItsButtons()
+    {
+        QFETCH(const QString, item);
+        QFETCH(const QString, box);
+        QFETCH(const QString, number);
+        Scene scene;
+        const bool one = item == "menuConv1toHTML";
+        scene.in(item.toLatin1(), [&](const QDialog &dialog) {
+            const auto load = [&](const QString &path) {
+                scene.prompts.expectFileDialog("Ouvrir Fichier Texte", path);
+                click(dialog, "btnLoad" + number);
+            };
+            const auto save = [&](const QString &path) {
+                scene.prompts.expectFileDialog("Enregistrer Fichier Texte", path);
+                click(dialog, "btnSave" + number);
+            };
+            for (const QByteArray &bytes :
+                 {QByteArray("\xC3\xA9t\xC3\xA9\xC2\xA0!\r\n\r\nfin"), QByteArray("\xE9t\xE9\xA0!"),
+                  QByteArray("<HTML>\r\n")}) {
+                load(scene.adventure.file("a.txt", bytes));
+                save(scene.path("b.txt"));
+                QCOMPARE(scene.adventure.content("b.txt"), bytes + "\r\n");
+                QCOMPARE(scene.prompts.fileKind(), one ? "Fichiers TXT (*.txt)|*.txt;txt" : ";");
+            }
+            for (const QString &path : {QString(), scene.path("absent.txt"), scene.path("")})
+                load(path);
+            for (const QString &path : {QString(), scene.path("absent/c.txt")})
+                save(path);
+            for (const auto *edit : dialog.findChildren<QPlainTextEdit *>())
+                QCOMPARE(edit->toPlainText(), edit->objectName() == box ? "<HTML>\n" : "");
+            QVERIFY(dialog.isVisible());
+        });
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            m_shown = 1;
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    int m_shown = 0;
+};
+
+QTEST_MAIN(tst_exportDialogs)
+#include "tst_exportDialogs.moc"
