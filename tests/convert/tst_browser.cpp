@@ -130,7 +130,8 @@ class tst_browser : public QObject
             const auto index = static_cast<std::size_t>(n);
             QCOMPARE(links.contains(fourDigits(n)), v.Written.at(index) == 1);
             QStringList targets;
-            for (const QJsonValue &target : links[fourDigits(n)].toArray())
+            const QJsonArray found = links[fourDigits(n)].toArray();
+            for (const auto &target : found)
                 targets.append(target.toString() + u'/');
             targets.sort();
             QStringList references = v.refIndex.at(index).split(u'/', Qt::SkipEmptyParts);
