@@ -196,8 +196,7 @@ void removeFile(const QString &path)
 
 void renameFile(const QString &source, const QString &target)
 {
-    if (std::rename(QFile::encodeName(source).constData(), QFile::encodeName(target).constData()) !=
-        0)
+    if (!renamed(source, target))
         failWrite(target, lastSystemError());
 }
 
