@@ -3,7 +3,7 @@
 #include "BenchEditor.h"
 #include "Figures.h"
 #include "PeakMemory.h"
-#include "convert/CompileCommand.h"
+#include "convert/rtf/CompileCommand.h"
 
 namespace
 {

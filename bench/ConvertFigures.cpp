@@ -4,9 +4,9 @@
 #include "BigAdventure.h"
 #include "Figures.h"
 #include "PeakMemory.h"
-#include "convert/CodeSnippet.h"
-#include "convert/HtmlCommands.h"
-#include "convert/RtfToHtml.h"
+#include "convert/html/CodeSnippet.h"
+#include "convert/html/HtmlCommands.h"
+#include "convert/html/RtfToHtml.h"
 #include "platform/SafeFile.h"
 #include "store/ParagraphStore.h"
 

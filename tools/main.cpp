@@ -65,7 +65,7 @@ private:
         m_variables.CurrentParagraph = static_cast<qint16>(words.first().toInt());
         m_variables.ParagraphDirty = true;
         if (words.contains(QStringLiteral("fixe")))
-            m_variables.Unmixable.at(static_cast<std::size_t>(words.first().toInt())) = 1;
+            m_variables.Unmixable.at(words.first().toInt()) = 1;
     }
 
     void end()

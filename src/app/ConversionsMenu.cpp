@@ -1,8 +1,8 @@
 #include "app/ConversionsMenu.h"
 
-#include "convert/convertRTF.h"
-#include "convert/manyHTML.h"
-#include "convert/onebigHTML.h"
+#include "convert/html/manyHTML.h"
+#include "convert/html/onebigHTML.h"
+#include "convert/rtf/convertRTF.h"
 #include "editor/EditorView.h"
 #include "editor/MenuStates.h"
 #include "editor/RtfBox.h"

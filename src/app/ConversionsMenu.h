@@ -1,6 +1,6 @@
 #pragma once
 
-#include "convert/SingleParagraph.h"
+#include "convert/rtf/SingleParagraph.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "app/WorkDisplay.h"
 
-#include "platform/WorkBar.h"
+#include "widgets/WorkBar.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -5,6 +5,7 @@
 #include "app/WorkDisplay.h"
 #include "editor/BoxKeys.h"
 #include "editor/FirstWords.h"
+#include "editor/PadNumber.h"
 #include "editor/ParagraphSearch.h"
 #include "editor/StatusLine.h"
 #include "platform/Guarded.h"
@@ -204,7 +205,7 @@ void formUsmira::showCurrent(bool editable)
     m_variables.ParagraphDirty = false;
     setTextEditable(editable);
     showNumber();
-    m_ui->btnUnmixable->setChecked(m_variables.Unmixable.at(static_cast<size_t>(n)) == 1);
+    m_ui->btnUnmixable->setChecked(m_variables.Unmixable.at(n) == 1);
     refreshFormatting();
     fillIncomingList(n);
     m_status->refresh();
@@ -379,7 +380,7 @@ void formUsmira::btnVider_Click()
 void formUsmira::btnUnmixable_Click()
 {
     if (m_variables.AdventureOpen)
-        m_variables.Unmixable.at(static_cast<size_t>(m_variables.CurrentParagraph)) =
+        m_variables.Unmixable.at(m_variables.CurrentParagraph) =
             m_ui->btnUnmixable->isChecked() ? 1 : 0;
 }
 

@@ -1,7 +1,7 @@
 #include "convert/ExportRange.h"
 
-#include "platform/LenientNumbers.h"
 #include "store/AdventureCommands.h"
+#include "store/LenientNumbers.h"
 #include "store/Variables.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ int forEachWritten(const Variables &variables, const ExportRange &range, const P
 {
     int written = 0;
     for (int n = range.low; n <= range.high; ++n) {
-        if (variables.Written.at(static_cast<std::size_t>(n)) == 1) {
+        if (variables.Written.at(n) == 1) {
             action(n);
             ++written;
         }

@@ -1,6 +1,6 @@
 #include "convert/WorkInDialog.h"
 
-#include "platform/WorkBar.h"
+#include "widgets/WorkBar.h"
 
 WorkInDialog::WorkInDialog(AdventureView &window, WorkBar &bar) : m_window(window), m_bar(bar) {}
 

@@ -1,11 +1,11 @@
 #include "editor/FormattingBar.h"
 
-#include "editor/ColorButton.h"
 #include "editor/RtfBox.h"
-#include "editor/StruckIcon.h"
-#include "platform/FlowLayout.h"
-#include "platform/LenientNumbers.h"
+#include "store/LenientNumbers.h"
 #include "ui_FormattingBar.h"
+#include "widgets/ColorButton.h"
+#include "widgets/FlowLayout.h"
+#include "widgets/StruckIcon.h"
 
 #include <QEvent>
 #include <QFontDatabase>

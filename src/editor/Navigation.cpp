@@ -2,8 +2,8 @@
 
 #include "editor/EditorView.h"
 #include "editor/ParagraphSearch.h"
-#include "platform/LenientNumbers.h"
 #include "richtext/RichTextBox.h"
+#include "store/LenientNumbers.h"
 #include "store/ReferenceIndex.h"
 
 Navigation::Navigation(const Variables &variables, Prompts &prompts, EditorView &view)

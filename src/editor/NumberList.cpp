@@ -1,6 +1,6 @@
 #include "editor/NumberList.h"
 
-#include "platform/LenientNumbers.h"
+#include "store/LenientNumbers.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>

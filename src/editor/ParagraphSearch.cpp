@@ -7,7 +7,7 @@ namespace
 std::optional<int> search(const Variables &variables, int from, int step, bool typed)
 {
     for (int n = from + step; n >= 0 && n <= Variables::LastParagraph; n += step) {
-        if ((variables.Written.at(static_cast<std::size_t>(n)) == 1) == typed)
+        if ((variables.Written.at(n) == 1) == typed)
             return n;
     }
     return std::nullopt;
@@ -36,19 +36,18 @@ std::optional<int> previousEmpty(const Variables &variables, int from)
 
 std::optional<int> firstFree(const Variables &variables, int from)
 {
-    std::array<bool, Variables::LastParagraph + 1> used{};
+    ParagraphArray<bool, Variables::LastParagraph + 1> used;
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
-        const auto index = static_cast<std::size_t>(n);
-        if (variables.Written.at(index) == 0)
+        if (variables.Written.at(n) == 0)
             continue;
-        used.at(index) = true;
-        for (const int referred : referredParagraphs(variables.refIndex.at(index)))
-            used.at(static_cast<std::size_t>(referred)) = true;
+        used.at(n) = true;
+        for (const int referred : referredParagraphs(variables.refIndex.at(n)))
+            used.at(referred) = true;
     }
     int n = from;
     for (int step = 0; step < Variables::LastParagraph; ++step) {
         n = n >= Variables::LastParagraph ? 1 : n + 1;
-        if (!used.at(static_cast<std::size_t>(n)))
+        if (!used.at(n))
             return n;
     }
     return std::nullopt;
@@ -58,7 +57,7 @@ int countWritten(const Variables &variables)
 {
     int count = 0;
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
-        if (n > 0 && variables.Written.at(static_cast<std::size_t>(n)) == 1)
+        if (n > 0 && variables.Written.at(n) == 1)
             ++count;
     }
     return count;

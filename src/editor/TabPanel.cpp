@@ -1,8 +1,8 @@
 #include "editor/TabPanel.h"
 
 #include "editor/RtfBox.h"
-#include "platform/LenientNumbers.h"
 #include "platform/Twips.h"
+#include "store/LenientNumbers.h"
 #include "ui_TabPanel.h"
 
 #include <QEvent>

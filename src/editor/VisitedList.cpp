@@ -1,6 +1,6 @@
 #include "editor/VisitedList.h"
 
-#include "store/ReferenceIndex.h"
+#include "editor/PadNumber.h"
 
 #include <QListWidget>
 

@@ -1,13 +1,13 @@
 #include "outil/Commands.h"
 
-#include "convert/CodeSnippet.h"
-#include "convert/CompileCommand.h"
-#include "convert/HtmlCommands.h"
+#include "convert/html/CodeSnippet.h"
+#include "convert/html/HtmlCommands.h"
+#include "convert/rtf/CompileCommand.h"
 #include "editor/ParagraphSearch.h"
 #include "outil/StateReport.h"
-#include "platform/LenientNumbers.h"
 #include "platform/SafeFile.h"
 #include "richtext/RtfPlainText.h"
+#include "store/LenientNumbers.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
 
@@ -189,7 +189,7 @@ QByteArray Commands::fixe(const QStringList &arguments)
     const QString &value = arguments.last();
     if (value != QStringLiteral("0") && value != QStringLiteral("1"))
         throw UsageError(QStringLiteral("0 ou 1 attendu : ") + value);
-    const auto n = static_cast<std::size_t>(paragraphNumber(arguments.first()));
+    const int n = paragraphNumber(arguments.first());
     m_variables.Unmixable.at(n) = value == QStringLiteral("1") ? 1 : 0;
     return {};
 }

@@ -21,13 +21,12 @@ int fileVersion(const Variables &variables)
 
 QJsonObject paragraphReport(const Variables &variables, int n)
 {
-    const auto index = static_cast<std::size_t>(n);
     const QByteArray rtf = GetParagraphRtf(variables, n);
     return {{QStringLiteral("number"), n},
-            {QStringLiteral("written"), variables.Written.at(index) == 1},
-            {QStringLiteral("extracted"), variables.Extracted.at(index) == 1},
-            {QStringLiteral("fixed"), variables.Unmixable.at(index) == 1},
-            {QStringLiteral("refs"), variables.refIndex.at(index)},
+            {QStringLiteral("written"), variables.Written.at(n) == 1},
+            {QStringLiteral("extracted"), variables.Extracted.at(n) == 1},
+            {QStringLiteral("fixed"), variables.Unmixable.at(n) == 1},
+            {QStringLiteral("refs"), variables.refIndex.at(n)},
             {QStringLiteral("size"), rtf.size()},
             {QStringLiteral("text"), rtf.isEmpty() ? QString() : rtfToPlainText(rtf)}};
 }

@@ -4,7 +4,7 @@ namespace
 {
 bool isMarked(const Marks &marks, int n)
 {
-    return marks.at(static_cast<std::size_t>(n)) == 1;
+    return marks.at(n) == 1;
 }
 
 // Goes through the numbers that a block move concerns, in the direction of the move, and gives each

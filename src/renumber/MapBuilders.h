@@ -9,7 +9,7 @@
 // What each renumbering command does to the numbers, as plain functions. Numbers are 1..2000 and
 // low <= high; unmixable and written are the arrays of Variables.
 
-using Marks = std::array<quint8, 2002>;
+using Marks = ParagraphArray<quint8, 2002>;
 
 // a and b change places.
 RenumberMap SwapMap(int a, int b);

@@ -1,8 +1,8 @@
 #include "renumber/RenumberCommands.h"
 
 #include "platform/Failures.h"
-#include "platform/LenientNumbers.h"
 #include "renumber/RenumberParagraphs.h"
+#include "store/LenientNumbers.h"
 #include "store/LongWork.h"
 
 #include <algorithm>
@@ -53,8 +53,7 @@ bool RenumberCommands::Swap(double a, double b)
 
 bool RenumberCommands::mayMoveFixed(int a, int b)
 {
-    const bool fixed = m_variables.Unmixable.at(static_cast<std::size_t>(a)) == 1 ||
-                       m_variables.Unmixable.at(static_cast<std::size_t>(b)) == 1;
+    const bool fixed = m_variables.Unmixable.at(a) == 1 || m_variables.Unmixable.at(b) == 1;
     return !fixed ||
            m_prompts.message(
                QStringLiteral("Vous allez échanger un ou deux paragraphes que vous avez déclarés "

@@ -10,7 +10,7 @@ RenumberMap::RenumberMap()
 
 void RenumberMap::exchange(int a, int b)
 {
-    std::swap(m_numbers.at(static_cast<std::size_t>(a)), m_numbers.at(static_cast<std::size_t>(b)));
+    std::swap(m_numbers.at(a), m_numbers.at(b));
 }
 
 bool RenumberMap::movesNothing() const

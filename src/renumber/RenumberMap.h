@@ -12,16 +12,13 @@ class RenumberMap
 public:
     RenumberMap();
 
-    int of(int n) const { return m_numbers.at(static_cast<std::size_t>(n)); }
-    void set(int n, int newNumber)
-    {
-        m_numbers.at(static_cast<std::size_t>(n)) = static_cast<qint16>(newNumber);
-    }
+    int of(int n) const { return m_numbers.at(n); }
+    void set(int n, int newNumber) { m_numbers.at(n) = static_cast<qint16>(newNumber); }
     void exchange(int a, int b);
 
     bool moves(int n) const { return of(n) != n; }
     bool movesNothing() const;
 
 private:
-    std::array<qint16, Variables::LastParagraph + 1> m_numbers;
+    ParagraphArray<qint16, Variables::LastParagraph + 1> m_numbers;
 };

@@ -1,8 +1,8 @@
 #include "renumber/RenumberParagraphs.h"
 
 #include "platform/Errors.h"
-#include "platform/LenientNumbers.h"
 #include "richtext/HiddenBox.h"
+#include "store/LenientNumbers.h"
 #include "store/ParagraphTransaction.h"
 #include "store/ReferenceIndex.h"
 
@@ -10,7 +10,7 @@ namespace
 {
 bool isWritten(const Variables &variables, int n)
 {
-    return variables.Written.at(static_cast<std::size_t>(n)) == 1;
+    return variables.Written.at(n) == 1;
 }
 
 // An entry of the index with the new numbers; what is no number there stays.
@@ -51,7 +51,7 @@ private:
     // references of it would be written differently.
     void visit(int n)
     {
-        const QString &entry = m_variables.refIndex.at(static_cast<std::size_t>(n));
+        const QString &entry = m_variables.refIndex.at(n);
         const QString renumbered = renumberedEntry(entry, m_map);
         const bool rewrites = renumbered != entry;
         if (!rewrites && !m_map.moves(n))
@@ -81,7 +81,7 @@ private:
     bool staysFixed(int n) const
     {
         const bool left = isWritten(m_variables, n) && m_map.moves(n);
-        return !left && m_variables.Unmixable.at(static_cast<std::size_t>(n)) == 1;
+        return !left && m_variables.Unmixable.at(n) == 1;
     }
 
     Variables &m_variables;

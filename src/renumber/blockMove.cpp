@@ -1,8 +1,8 @@
 #include "renumber/blockMove.h"
 
 #include "platform/Guarded.h"
-#include "platform/LenientNumbers.h"
 #include "renumber/RenumberCommands.h"
+#include "store/LenientNumbers.h"
 #include "ui_blockMove.h"
 
 blockMove::blockMove(const Variables &variables, Prompts &prompts, RenumberCommands &commands,

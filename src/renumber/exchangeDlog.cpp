@@ -1,8 +1,8 @@
 #include "renumber/exchangeDlog.h"
 
 #include "platform/Guarded.h"
-#include "platform/LenientNumbers.h"
 #include "renumber/RenumberCommands.h"
+#include "store/LenientNumbers.h"
 #include "ui_exchangeDlog.h"
 
 exchangeDlog::exchangeDlog(const Variables &variables, Prompts &prompts, RenumberCommands &commands,

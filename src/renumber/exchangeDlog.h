@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/NumberDialog.h"
+#include "widgets/NumberDialog.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 #include "renumber/masterMix.h"
 
 #include "platform/Guarded.h"
-#include "platform/LenientNumbers.h"
 #include "renumber/RenumberCommands.h"
+#include "store/LenientNumbers.h"
 #include "ui_masterMix.h"
 
 #include <QRandomGenerator>

@@ -1,8 +1,8 @@
 #include "renumber/packHoles.h"
 
 #include "platform/Guarded.h"
-#include "platform/LenientNumbers.h"
 #include "renumber/RenumberCommands.h"
+#include "store/LenientNumbers.h"
 #include "ui_packHoles.h"
 
 packHoles::packHoles(const Variables &variables, Prompts &prompts, RenumberCommands &commands,

@@ -24,10 +24,10 @@ struct AdventureContents {
     qint16 highest = 1;
     qint16 current = 1;
     QString targetPhrase;
-    std::array<quint8, 2002> written{};
-    std::array<qint32, 2001> sectionOffset{};
-    std::array<quint8, 2002> unmixable{};
-    std::array<QString, 2001> refIndex;
+    ParagraphArray<quint8, 2002> written;
+    ParagraphArray<qint32, 2001> sectionOffset;
+    ParagraphArray<quint8, 2002> unmixable;
+    ParagraphArray<QString, 2001> refIndex;
     std::shared_ptr<OpenedFile> file;
 };
 

@@ -10,7 +10,7 @@
 namespace
 {
 constexpr int LargestShort = 32767; // larger 2-byte numbers are damage
-constexpr std::size_t OldParagraphs = 1000;
+constexpr int OldParagraphs = 1000;
 constexpr int OldVersionWithFlags = 25;
 constexpr int OldPhraseField = 31; // behind its length byte
 constexpr int OldReserved = 64;
@@ -89,16 +89,15 @@ void readFlags(ByteReader &reader, AdventureContents &contents)
     for (int n = contents.lowest; n <= contents.highest; ++n) {
         const char flag = reader.take(1).front();
         if (n <= Variables::LastParagraph)
-            contents.unmixable.at(static_cast<std::size_t>(n)) = flag != 0 ? 1 : 0;
+            contents.unmixable.at(n) = flag != 0 ? 1 : 0;
     }
 }
 
 void readSection(ByteReader &reader, AdventureContents &contents)
 {
-    const int number = reader.takeShort();
-    if (number > Variables::LastParagraph)
+    const int n = reader.takeShort();
+    if (n > Variables::LastParagraph)
         throw FormatError(reader.offset() - 2, QStringLiteral("a paragraph number up to 2000"));
-    const auto n = static_cast<std::size_t>(number);
     const quint32 length = reader.takeLong();
     const qint64 position = reader.offset() + 1;
     if (position > std::numeric_limits<qint32>::max())
@@ -139,12 +138,12 @@ void readOldLayout(ByteReader &reader, AdventureContents &contents)
     contents.targetPhrase = fromWindows1252(reader.take(length));
     reader.skip(OldPhraseField - length + OldReserved);
     if (contents.version == OldVersionWithFlags) {
-        for (std::size_t n = 0; n < OldParagraphs; ++n)
+        for (int n = 0; n < OldParagraphs; ++n)
             contents.unmixable.at(n) = reader.take(1).front() != 0 ? 1 : 0;
     }
-    for (std::size_t n = 0; n <= OldParagraphs; ++n)
+    for (int n = 0; n <= OldParagraphs; ++n)
         contents.sectionOffset.at(n) = clampedOffset(reader.takeLong());
-    for (std::size_t n = 0; n < OldParagraphs; ++n)
+    for (int n = 0; n < OldParagraphs; ++n)
         contents.written.at(n) = contents.sectionOffset.at(n + 1) > contents.sectionOffset.at(n);
 }
 
@@ -155,7 +154,7 @@ void repairRange(AdventureContents &contents)
     qint16 lowest = last;
     qint16 highest = 0;
     for (qint16 n = 0; n <= last; ++n) {
-        if (contents.written.at(static_cast<std::size_t>(n)) == 1) {
+        if (contents.written.at(n) == 1) {
             lowest = std::min(lowest, n);
             highest = n;
         }

@@ -75,7 +75,7 @@ void writeHeader(ByteWriter &out, const Variables &variables)
     out.bytes(phrase);
     out.bytes("UNMX");
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
-        const char flag = variables.Unmixable.at(static_cast<std::size_t>(n)) != 0 ? 1 : 0;
+        const char flag = variables.Unmixable.at(n) != 0 ? 1 : 0;
         out.bytes(QByteArrayView(&flag, 1));
     }
 }
@@ -83,7 +83,7 @@ void writeHeader(ByteWriter &out, const Variables &variables)
 qint32 writeSection(ByteWriter &out, const Variables &variables, int n)
 {
     const QByteArray text = GetParagraphRtf(variables, n);
-    const QByteArray list = listBytes(variables.refIndex.at(static_cast<std::size_t>(n)));
+    const QByteArray list = listBytes(variables.refIndex.at(n));
     out.bytes("SECT");
     out.shortNumber(n);
     out.longNumber(text.size());
@@ -98,13 +98,13 @@ qint32 writeSection(ByteWriter &out, const Variables &variables, int n)
 
 // The sections are compared by where their texts begin, which fixes every length before them.
 void compare(const AdventureContents &read, const Variables &variables,
-             const std::array<qint32, 2001> &offsets, qint64 size)
+             const ParagraphArray<qint32, 2001> &offsets, qint64 size)
 {
     bool same =
         read.lowest == variables.LowestWritten && read.highest == variables.HighestWritten &&
         read.current == variables.CurrentParagraph && read.targetPhrase == variables.TargetPhrase &&
         read.sectionOffset == offsets && read.file->size() == size;
-    for (std::size_t n = 0; same && n < offsets.size(); ++n) {
+    for (int n = 0; same && n < offsets.count(); ++n) {
         const bool inRange = offsets.at(n) != 0;
         same = (read.written.at(n) == 1) == inRange &&
                (!inRange || read.refIndex.at(n) == variables.refIndex.at(n).left(LongestList));
@@ -116,14 +116,13 @@ void compare(const AdventureContents &read, const Variables &variables,
 
 AdventureContents writeAdventure(const Variables &variables, const QString &path)
 {
-    std::array<qint32, 2001> offsets{};
+    ParagraphArray<qint32, 2001> offsets;
     SafeFile file(path, Durability::Data, Links::Replace);
     ByteWriter out(file);
     writeHeader(out, variables);
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
-        const auto index = static_cast<std::size_t>(n);
-        if (variables.Written.at(index) == 1)
-            offsets.at(index) = writeSection(out, variables, n);
+        if (variables.Written.at(n) == 1)
+            offsets.at(n) = writeSection(out, variables, n);
     }
     out.bytes("DONE");
     out.flush();

@@ -20,7 +20,7 @@ void finishLeftJournal(const Variables &variables)
 }
 
 // In the older files text n ends where text n + 1 begins.
-qint64 textLength(const Variables &variables, std::size_t n)
+qint64 textLength(const Variables &variables, int n)
 {
     if (!variables.CurrentFormat)
         return qint64{variables.SectionOffset.at(n + 1)} - variables.SectionOffset.at(n);
@@ -29,7 +29,7 @@ qint64 textLength(const Variables &variables, std::size_t n)
     return qFromBigEndian<quint32>(length.constData());
 }
 
-void saveText(Variables &variables, RichTextBox &box, std::size_t n)
+void saveText(Variables &variables, RichTextBox &box, int n)
 {
     const auto number = static_cast<qint16>(n);
     writeWholeFile(workingFilePath(variables, number), box.rtf(), Durability::Data, Links::Replace);
@@ -39,10 +39,10 @@ void saveText(Variables &variables, RichTextBox &box, std::size_t n)
     variables.LowestWritten = std::min(variables.LowestWritten, number);
 }
 
-void dropText(Variables &variables, std::size_t n)
+void dropText(Variables &variables, int n)
 {
     if (variables.Extracted.at(n) == 1)
-        removeFile(workingFilePath(variables, static_cast<int>(n)));
+        removeFile(workingFilePath(variables, n));
     variables.Extracted.at(n) = 0;
     variables.Written.at(n) = 0;
 }
@@ -72,13 +72,12 @@ QString workingFilePath(const QString &workingFolder, const QString &filePrefix,
 QByteArray GetParagraphRtf(const Variables &variables, int n)
 {
     finishLeftJournal(variables);
-    const auto index = static_cast<std::size_t>(n);
-    if (variables.Extracted.at(index) == 1)
+    if (variables.Extracted.at(n) == 1)
         return readWholeFile(workingFilePath(variables, n), LargestText);
-    if (variables.Written.at(index) == 0 || !variables.AdventureFile)
+    if (variables.Written.at(n) == 0 || !variables.AdventureFile)
         return {};
-    const qint64 length = textLength(variables, index);
-    return variables.AdventureFile->read(qint64{variables.SectionOffset.at(index)} - 1, length);
+    const qint64 length = textLength(variables, n);
+    return variables.AdventureFile->read(qint64{variables.SectionOffset.at(n)} - 1, length);
 }
 
 void SaveCurParg(Variables &variables, RichTextBox &box)
@@ -86,7 +85,7 @@ void SaveCurParg(Variables &variables, RichTextBox &box)
     if (!variables.ParagraphDirty)
         return;
     finishLeftJournal(variables);
-    const auto current = static_cast<std::size_t>(variables.CurrentParagraph);
+    const int current = variables.CurrentParagraph;
     const QString text = box.text();
     if (text.isEmpty())
         dropText(variables, current);
@@ -102,7 +101,7 @@ void DiscardWorkingFiles(Variables &variables)
 {
     finishLeftJournal(variables);
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
-        auto &extracted = variables.Extracted.at(static_cast<std::size_t>(n));
+        auto &extracted = variables.Extracted.at(n);
         if (extracted == 0)
             continue;
         removeFile(workingFilePath(variables, n));

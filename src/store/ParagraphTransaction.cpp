@@ -85,7 +85,7 @@ void ParagraphTransaction::refuseLostTexts(const Journal &journal) const
     for (const Journal::Placed &placed : journal.placed) {
         const bool leaves =
             m_changes.count(placed.after) != 0 || m_emptied.count(placed.after) != 0;
-        const bool written = m_variables.Written.at(static_cast<std::size_t>(placed.after)) == 1;
+        const bool written = m_variables.Written.at(placed.after) == 1;
         if (!taken.insert(placed.after).second || (written && !leaves))
             throw UsmiraError(QStringLiteral("two texts for paragraph %1").arg(placed.after));
     }
@@ -108,14 +108,14 @@ void ParagraphTransaction::place(const Journal &journal)
 void ParagraphTransaction::takeOver(const Journal &journal)
 {
     for (const Journal::Emptied &emptied : journal.emptied) {
-        const auto n = static_cast<std::size_t>(emptied.number);
+        const int n = emptied.number;
         m_variables.Written.at(n) = 0;
         m_variables.Extracted.at(n) = 0;
         m_variables.Unmixable.at(n) = emptied.fixed ? 1 : 0;
         m_variables.refIndex.at(n).clear();
     }
     for (const Journal::Placed &placed : journal.placed) {
-        const auto n = static_cast<std::size_t>(placed.after);
+        const int n = placed.after;
         const auto number = static_cast<qint16>(placed.after);
         m_variables.Written.at(n) = 1;
         m_variables.Extracted.at(n) = 1;

@@ -1,8 +1,8 @@
 #include "store/ReferenceIndex.h"
 
 #include "platform/Errors.h"
-#include "platform/LenientNumbers.h"
 #include "richtext/RtfPlainText.h"
+#include "store/LenientNumbers.h"
 #include "store/ParagraphStore.h"
 
 namespace
@@ -50,14 +50,13 @@ QString referenceEntry(QStringView text, const QString &phrase)
 
 void ScanReferences(Variables &variables, QStringView text, int n)
 {
-    variables.refIndex.at(static_cast<std::size_t>(n)) =
-        referenceEntry(text, variables.TargetPhrase);
+    variables.refIndex.at(n) = referenceEntry(text, variables.TargetPhrase);
 }
 
 void RebuildReferenceIndex(Variables &variables)
 {
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
-        if (variables.Written.at(static_cast<std::size_t>(n)) == 0)
+        if (variables.Written.at(n) == 0)
             continue;
         QString text;
         try {
@@ -92,8 +91,7 @@ QList<int> incomingParagraphs(const Variables &variables, int n)
     QList<int> incoming;
     const QString key = fourDigits(n);
     for (int from = variables.LowestWritten; from <= variables.HighestWritten; ++from) {
-        const auto index = static_cast<std::size_t>(from);
-        if (variables.Written.at(index) == 1 && variables.refIndex.at(index).contains(key))
+        if (variables.Written.at(from) == 1 && variables.refIndex.at(from).contains(key))
             incoming.append(from);
     }
     return incoming;
@@ -107,12 +105,4 @@ int numberAround(QStringView text, qsizetype caret)
     while (before > 0 && isDigit(text.at(before)))
         --before;
     return roundHalfEven(numberAt(text, before + 1));
-}
-
-QString PadNumber(int n)
-{
-    if (n < 0 || n > 999)
-        return n < 0 ? u'-' + fourDigits(-n) : fourDigits(n);
-    const int spaces = n < 10 ? 5 : n < 100 ? 3 : 1;
-    return QString(spaces, u' ') + QString::number(n);
 }

@@ -45,6 +45,3 @@ QList<int> incomingParagraphs(const Variables &variables, int n);
 // A number at the very start of the text is read without its first digit: required, as five
 // characters are always read behind the character that the backward walk stops on.
 int numberAround(QStringView text, qsizetype caret);
-
-// A number as the lists show it, right-aligned in a proportional font: two spaces for a digit.
-QString PadNumber(int n);

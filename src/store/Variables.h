@@ -1,7 +1,8 @@
 #pragma once
 
+#include "store/ParagraphArray.h"
+
 #include <QString>
-#include <array>
 #include <memory>
 
 class OpenedFile;
@@ -25,11 +26,12 @@ struct Variables {
     bool AdventureModified = false; // a paragraph was saved since the adventure file was written
     bool CurrentFormat = true;      // the adventure file has version 35
 
-    std::array<quint8, 2002> Written{};       // 1: the paragraph has text
-    std::array<quint8, 2001> Extracted{};     // 1: its working file holds its current text
-    std::array<qint32, 2001> SectionOffset{}; // 1-based position of its text in the adventure file
-    std::array<quint8, 2002> Unmixable{};     // 1: MasterMix leaves its number alone
-    std::array<QString, 2001> refIndex;       // its references, "0012/0340/"
+    ParagraphArray<quint8, 2002> Written;   // 1: the paragraph has text
+    ParagraphArray<quint8, 2001> Extracted; // 1: its working file holds its current text
+    ParagraphArray<qint32, 2001>
+        SectionOffset;                      // 1-based position of its text in the adventure file
+    ParagraphArray<quint8, 2002> Unmixable; // 1: MasterMix leaves its number alone
+    ParagraphArray<QString, 2001> refIndex; // its references, "0012/0340/"
 
     // The adventure file as it was opened, kept open: texts are read from it even when another
     // program has put a different file under its name. Null for an adventure never written.

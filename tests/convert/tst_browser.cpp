@@ -1,5 +1,5 @@
-#include "convert/CodeSnippet.h"
-#include "convert/HtmlCommands.h"
+#include "convert/html/CodeSnippet.h"
+#include "convert/html/HtmlCommands.h"
 #include "outil/HeadlessView.h"
 #include "platform/OpenedFile.h"
 #include "store/AdventureFile.h"
@@ -127,14 +127,13 @@ class tst_browser : public QObject
     {
         const Variables &v = m_adventure.variables;
         for (int n = v.LowestWritten; n <= v.HighestWritten; ++n) {
-            const auto index = static_cast<std::size_t>(n);
-            QCOMPARE(links.contains(fourDigits(n)), v.Written.at(index) == 1);
+            QCOMPARE(links.contains(fourDigits(n)), v.Written.at(n) == 1);
             QStringList targets;
             const QJsonArray found = links[fourDigits(n)].toArray();
             for (const auto &target : found)
                 targets.append(target.toString() + u'/');
             targets.sort();
-            QStringList references = v.refIndex.at(index).split(u'/', Qt::SkipEmptyParts);
+            QStringList references = v.refIndex.at(n).split(u'/', Qt::SkipEmptyParts);
             for (QString &reference : references)
                 reference += u'/';
             references.sort();

@@ -1,7 +1,7 @@
 #include "app/WindowFixture.h"
-#include "platform/NumberBox.h"
 #include "richtext/HiddenBox.h"
 #include "support/TestTable.h"
+#include "widgets/NumberBox.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "convert/CompileCommand.h"
+#include "convert/rtf/CompileCommand.h"
 #include "outil/HeadlessView.h"
 #include "platform/OpenedFile.h"
 #include "store/AdventureFile.h"
@@ -127,7 +127,7 @@ private Q_SLOTS:
     {
         Scene scene;
         scene.open(Scene::texts().rawText(3, "no RTF").rawText(12, ""));
-        scene.v.Extracted[7] = 1; // its working file is missing
+        scene.v.Extracted.at(7) = 1; // its working file is missing
         scene.prompts.expect("Erreur de lecture de fichier. Paragraphes illisibles : 3, 7.", "BUG");
         QVERIFY(!scene.compile(1, 12, Plain, "livre.rtf"));
         QCOMPARE(scene.document(), "ancien");

@@ -1,5 +1,5 @@
-#include "convert/HtmlText.h"
-#include "convert/RtfToHtml.h"
+#include "convert/html/HtmlText.h"
+#include "convert/html/RtfToHtml.h"
 #include "platform/Errors.h"
 #include "richtext/HiddenBox.h"
 #include "store/ReferenceIndex.h"
@@ -24,7 +24,7 @@ struct Paragraph {
     {
         Variables variables;
         variables.TargetPhrase = phrase;
-        variables.refIndex[7] = list;
+        variables.refIndex.at(7) = list;
         return RtfToHtml(variables, rtf, prefix, n, manyFiles);
     }
 };

@@ -1,5 +1,5 @@
 #include "app/WindowFixture.h"
-#include "convert/SingleParagraph.h"
+#include "convert/rtf/SingleParagraph.h"
 #include "richtext/HiddenBox.h"
 #include "support/TestTable.h"
 

@@ -67,7 +67,7 @@ private Q_SLOTS:
         const QString sentence = QStringLiteral("La porte est close. ");
         adventure.file(QStringLiteral("Dossier Usmira/0005.rtf"), rtfOf(sentence.repeated(20)));
         adventure.file(QStringLiteral("Dossier Usmira/0007.rtf"), "no rich text");
-        for (const std::size_t n : {std::size_t{5}, std::size_t{7}})
+        for (const int n : {5, 7})
             adventure.variables.Written.at(n) = adventure.variables.Extracted.at(n) = 1;
         QCOMPARE(firstWords(adventure.variables, 5),
                  sentence.repeated(4) + QStringLiteral("La porte …"));

@@ -9,7 +9,7 @@ Variables written(const QList<int> &numbers)
 {
     Variables v;
     for (const int n : numbers)
-        v.Written.at(static_cast<std::size_t>(n)) = 1;
+        v.Written.at(n) = 1;
     v.LowestWritten = static_cast<qint16>(numbers.first());
     v.HighestWritten = static_cast<qint16>(numbers.last());
     return v;
@@ -41,8 +41,8 @@ private Q_SLOTS:
     void firstFreeSkipsWrittenAndReferredNumbers()
     {
         Variables v = written({1, 2, 4, 2000});
-        v.refIndex[1] = QStringLiteral("0005/0002/");
-        v.refIndex[3] = QStringLiteral("0006/"); // of a paragraph that is not written: no matter
+        v.refIndex.at(1) = QStringLiteral("0005/0002/");
+        v.refIndex.at(3) = QStringLiteral("0006/"); // of a paragraph that is not written: no matter
         // Behind the referred 5, never to itself, and around to 1 but not to 0.
         const std::pair<int, int> cases[] = {{0, 3}, {4, 6}, {3, 6}, {1999, 3}};
         for (const auto &[from, free] : cases)
@@ -54,7 +54,7 @@ private Q_SLOTS:
         Variables v = written({1, 2000});
         std::fill(v.Written.begin() + 1, v.Written.end() - 1, quint8(1));
         QVERIFY(!firstFree(v, 1200).has_value());
-        v.Written[1200] = 0;
+        v.Written.at(1200) = 0;
         QCOMPARE(firstFree(v, 1200), std::optional(1200));
     }
 

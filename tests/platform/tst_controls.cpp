@@ -1,7 +1,7 @@
 #include "platform/DialogPrompts.h"
-#include "platform/NumberBox.h"
 #include "support/PromptRecorder.h"
 #include "support/TestTable.h"
+#include "widgets/NumberBox.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,4 +1,4 @@
-#include "platform/LenientNumbers.h"
+#include "store/LenientNumbers.h"
 
 #include <QTest>
 

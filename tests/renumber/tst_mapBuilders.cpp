@@ -15,7 +15,7 @@ Marks marks(const QString &numbers)
     for (const QString &range : ranges) {
         const QStringList ends = range.split(u'-');
         for (int n = ends.first().toInt(); n <= ends.last().toInt(); ++n)
-            marks.at(static_cast<std::size_t>(n)) = 1;
+            marks.at(n) = 1;
     }
     return marks;
 }
@@ -51,7 +51,7 @@ bool isPermutation(const RenumberMap &map)
 bool staysWithin(const RenumberMap &map, int low, int high, const Marks &fixed)
 {
     for (int n = 0; n <= Variables::LastParagraph; ++n) {
-        const bool may = n >= low && n <= high && fixed.at(static_cast<std::size_t>(n)) == 0;
+        const bool may = n >= low && n <= high && fixed.at(n) == 0;
         if (map.moves(n) && !may)
             return false;
     }

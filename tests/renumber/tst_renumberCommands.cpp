@@ -50,7 +50,7 @@ struct Scene {
     {
         QStringList texts;
         for (int n = v.LowestWritten; n <= v.HighestWritten; ++n)
-            if (v.Written.at(static_cast<std::size_t>(n)) == 1)
+            if (v.Written.at(n) == 1)
                 texts.append(QString::number(n) + u' ' + rtfToPlainText(GetParagraphRtf(v, n)));
         return texts.join(", ");
     }
@@ -137,7 +137,7 @@ private Q_SLOTS:
     void swappingTheFixedIsAsked()
     {
         Scene scene;
-        scene.v.Unmixable[5] = 1;
+        scene.v.Unmixable.at(5) = 1;
         const QString question = "Vous allez échanger un ou deux paragraphes que vous avez "
                                  "déclarés Fixes. Échanger quand même ?";
         scene.prompts.expect(question, "Attention", Prompts::Buttons::YesNo, Prompts::Answer::No);
@@ -146,7 +146,7 @@ private Q_SLOTS:
         scene.prompts.expect(question, "Attention", Prompts::Buttons::YesNo, Prompts::Answer::Yes);
         QVERIFY(scene.commands.Swap(4, 5));
         QCOMPARE(scene.texts(), "2 deux, 4 cinq, 5 quatre, 9 neuf");
-        QVERIFY(scene.v.Unmixable[4] == 0 && scene.v.Unmixable[5] == 0);
+        QVERIFY(scene.v.Unmixable.at(4) == 0 && scene.v.Unmixable.at(5) == 0);
     }
 
     void aFailureChangesNothing()

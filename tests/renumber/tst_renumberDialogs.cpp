@@ -1,10 +1,10 @@
 #include "app/WindowFixture.h"
-#include "platform/NumberBox.h"
 #include "renumber/RenumberCommands.h"
 #include "renumber/masterMix.h"
 #include "richtext/RtfPlainText.h"
 #include "store/ParagraphStore.h"
 #include "support/TestTable.h"
+#include "widgets/NumberBox.h"
 
 #include <QDir>
 #include <QPushButton>
@@ -67,7 +67,7 @@ QString written(const Variables &variables)
 {
     QStringList texts;
     for (int n = 0; n <= Variables::LastParagraph; ++n) {
-        if (variables.Written.at(static_cast<std::size_t>(n)) == 1)
+        if (variables.Written.at(n) == 1)
             texts.append(QString::number(n) + ' ' + rtfToPlainText(GetParagraphRtf(variables, n)));
     }
     return texts.join(' ');

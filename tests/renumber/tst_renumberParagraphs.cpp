@@ -32,7 +32,7 @@ public:
     }
 
     QString text(int n) const { return rtfToPlainText(GetParagraphRtf(variables, n)); }
-    QString entry(int n) const { return variables.refIndex.at(static_cast<std::size_t>(n)); }
+    QString entry(int n) const { return variables.refIndex.at(n); }
 };
 
 // Forty numbers, about three quarters written, each text with a name of its own and references to
@@ -168,20 +168,20 @@ private Q_SLOTS:
         QCOMPARE(a.text(3), "sept au 7");
         QCOMPARE(a.text(7), "trois, au 1");
         QCOMPARE(a.text(5), "Va au 3"); // left alone, as the index shows nothing
-        QCOMPARE(a.variables.Unmixable[3], quint8{0});
-        QCOMPARE(a.variables.Unmixable[7], quint8{0});
+        QCOMPARE(a.variables.Unmixable.at(3), quint8{0});
+        QCOMPARE(a.variables.Unmixable.at(7), quint8{0});
     }
 
     void marksStayWithNumbersThatNoWrittenParagraphLeaves()
     {
         Opened a(AdventureBuilder({"1: un", "3!: trois", "4: quatre"}));
-        a.variables.Unmixable[6] = 1; // an empty number, reserved
+        a.variables.Unmixable.at(6) = 1; // an empty number, reserved
         a.variables.HighestWritten = 6;
         RenumberMap map = SwapMap(3, 6);
         a.renumber(map);
         QCOMPARE(a.text(6), "trois");
-        QVERIFY(a.variables.Unmixable[6] == 1 && a.variables.Unmixable[3] == 0);
-        QVERIFY(a.variables.Written[3] == 0 && a.variables.Extracted[3] == 0);
+        QVERIFY(a.variables.Unmixable.at(6) == 1 && a.variables.Unmixable.at(3) == 0);
+        QVERIFY(a.variables.Written.at(3) == 0 && a.variables.Extracted.at(3) == 0);
         QCOMPARE(a.variables.HighestWritten, qint16{6});
     }
 
@@ -272,7 +272,7 @@ private Q_SLOTS:
         v.HighestWritten = 900;
         QFETCH(QList<int>, written);
         for (const int n : written)
-            v.Written.at(static_cast<std::size_t>(n)) = 1;
+            v.Written.at(n) = 1;
         RecomputeWrittenRange(v);
         QTEST(int{v.LowestWritten}, "lowest");
         QTEST(int{v.HighestWritten}, "highest");

@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(other.commands.OpenAdventure(copy));
         QCOMPARE(other.v.CurrentParagraph, qint16{26});
         QCOMPARE(other.shown(), QStringLiteral("Fin"));
-        QCOMPARE(other.v.refIndex[12], QStringLiteral("0026/"));
+        QCOMPARE(other.v.refIndex.at(12), QStringLiteral("0026/"));
     }
 
     void savingWithNothingChangedWritesNothing()
@@ -113,7 +113,7 @@ private Q_SLOTS:
         Editor e;
         const QString path = e.adventure.file(Wolf, wolf().oldBytes(25));
         QVERIFY(e.commands.OpenAdventure(path));
-        QCOMPARE(e.v.refIndex[1], QStringLiteral("0002/"));
+        QCOMPARE(e.v.refIndex.at(1), QStringLiteral("0002/"));
         e.type(2, QStringLiteral("Fin"));
         QVERIFY(e.commands.Save());
         QCOMPARE(e.adventure.content(Wolf), wolf().current(2).bytes());
@@ -141,7 +141,7 @@ private Q_SLOTS:
         e.commands.Open();
         QCOMPARE(e.v.AdventureFileName, Wolf);
         QCOMPARE(e.shown(), QStringLiteral("autre fin"));
-        QCOMPARE(e.v.refIndex[1], QStringLiteral("0002/"));
+        QCOMPARE(e.v.refIndex.at(1), QStringLiteral("0002/"));
         e.expectReadFailure();
         QVERIFY(!e.commands.OpenAdventure(e.adventure.path(QStringLiteral("missing.usm"))));
         QCOMPARE(e.v.AdventureFileName, Wolf);
@@ -181,10 +181,10 @@ private Q_SLOTS:
         e.prompts.expectFileDialog(QStringLiteral("Ouvrir une Aventure"), QString());
         e.commands.Open();
         QVERIFY(e.adventure.workingFiles().isEmpty());
-        QCOMPARE(e.v.Written[7], quint8{0});
+        QCOMPARE(e.v.Written.at(7), quint8{0});
         QCOMPARE(e.v.HighestWritten, qint16{2});
         QCOMPARE(e.shown(), QStringLiteral("autre fin au 9"));
-        QCOMPARE(e.v.refIndex[2], QStringLiteral("0009/"));
+        QCOMPARE(e.v.refIndex.at(2), QStringLiteral("0009/"));
         QVERIFY(!e.v.AdventureModified);
     }
 

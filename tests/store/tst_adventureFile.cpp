@@ -15,10 +15,10 @@ class tst_adventureFile : public QObject
         return readAdventure(
             std::make_shared<OpenedFile>(adventure.file(QStringLiteral("a.usm"), bytes)));
     }
-    static QList<int> writtenIn(const std::array<quint8, 2002> &written)
+    static QList<int> writtenIn(const ParagraphArray<quint8, 2002> &written)
     {
         QList<int> numbers;
-        for (std::size_t n = 0; n < written.size(); ++n) {
+        for (int n = 0; n < written.count(); ++n) {
             if (written.at(n) == 1)
                 numbers.append(static_cast<int>(n));
         }
@@ -35,8 +35,8 @@ private Q_SLOTS:
     {
         TestAdventure adventure;
         Variables &v = adventure.variables;
-        v.Unmixable[7] = 1;
-        v.refIndex[7] = QStringLiteral("0001/");
+        v.Unmixable.at(7) = 1;
+        v.refIndex.at(7) = QStringLiteral("0001/");
         takeOver(v, read(adventure, small().current(12).phrase("aller \xE0 ").bytes()));
         QCOMPARE(v.TargetPhrase, QStringLiteral("aller à "));
         QCOMPARE(v.LowestWritten, qint16{0});
@@ -44,8 +44,8 @@ private Q_SLOTS:
         QCOMPARE(v.CurrentParagraph, qint16{12});
         QCOMPARE(writtenIn(v.Written), (QList<int>{0, 3, 12}));
         QCOMPARE(writtenIn(v.Unmixable), QList<int>{3});
-        QCOMPARE(v.refIndex[12], QStringLiteral("0003/"));
-        QCOMPARE(v.refIndex[7], QString());
+        QCOMPARE(v.refIndex.at(12), QStringLiteral("0003/"));
+        QCOMPARE(v.refIndex.at(7), QString());
         QCOMPARE(GetParagraphRtf(v, 12), rtfOf(QStringLiteral("Été au 3")));
         QVERIFY(v.CurrentFormat && v.AdventureOpen && !v.AdventureModified);
     }
@@ -76,8 +76,8 @@ private Q_SLOTS:
     {
         TestAdventure adventure;
         takeOver(adventure.variables, read(adventure, small().oldBytes(25)));
-        adventure.variables.refIndex[3] = QStringLiteral("0012/");
-        adventure.variables.refIndex[12] = QStringLiteral("0003/");
+        adventure.variables.refIndex.at(3) = QStringLiteral("0012/");
+        adventure.variables.refIndex.at(12) = QStringLiteral("0003/");
         writeAdventure(adventure.variables, adventure.path(QStringLiteral("b.usm")));
         QCOMPARE(adventure.content(QStringLiteral("b.usm")), small().bytes());
     }
@@ -184,7 +184,7 @@ private Q_SLOTS:
         bytes.replace(offsets + 4 * 500, 4, QByteArray("\x00\x00\x00\x01", 4));  // 499 falls
         bytes.replace(offsets + 4 * 1000, 4, QByteArray("\xFF\xFF\xFF\xFF", 4)); // 999 is far
         takeOver(adventure.variables, read(adventure, bytes));
-        QCOMPARE(adventure.variables.Written[499], quint8{0});
+        QCOMPARE(adventure.variables.Written.at(499), quint8{0});
         QCOMPARE(GetParagraphRtf(adventure.variables, 12), rtfOf(QStringLiteral("Été au 3")));
         QVERIFY_THROWS_EXCEPTION(FileError, GetParagraphRtf(adventure.variables, 999));
     }
@@ -193,10 +193,10 @@ private Q_SLOTS:
     {
         TestAdventure adventure;
         takeOver(adventure.variables, read(adventure, small().bytes()));
-        adventure.variables.refIndex[3] = QStringLiteral("0012/").repeated(7000);
+        adventure.variables.refIndex.at(3) = QStringLiteral("0012/").repeated(7000);
         const AdventureContents read =
             writeAdventure(adventure.variables, adventure.path(QStringLiteral("b.usm")));
-        QCOMPARE(read.refIndex[3], QStringLiteral("0012/").repeated(6553));
+        QCOMPARE(read.refIndex.at(3), QStringLiteral("0012/").repeated(6553));
     }
 
     void listsOfOddCharactersAreKept()

@@ -59,10 +59,10 @@ private Q_SLOTS:
         type(v, box, 12, QStringLiteral("Rendez-vous au 26"));
         QCOMPARE(adventure.workingFiles(), QStringList{QStringLiteral("a-0012.rtf")});
         QCOMPARE(GetParagraphRtf(v, 12), rtfOf(QStringLiteral("Rendez-vous au 26")));
-        QCOMPARE(v.refIndex[12], QStringLiteral("0026/"));
+        QCOMPARE(v.refIndex.at(12), QStringLiteral("0026/"));
         QCOMPARE(v.LowestWritten, qint16{2});
         QCOMPARE(v.HighestWritten, qint16{12});
-        QVERIFY(v.Written[12] == 1 && v.Extracted[12] == 1);
+        QVERIFY(v.Written.at(12) == 1 && v.Extracted.at(12) == 1);
         QVERIFY(v.AdventureModified && !v.ParagraphDirty);
         type(v, box, 0, QStringLiteral("note"));
         type(v, box, 2000, QStringLiteral("fin"));
@@ -91,8 +91,8 @@ private Q_SLOTS:
         type(v, box, 9, QString());
         type(v, box, 2, QString());
         QVERIFY(adventure.workingFiles().isEmpty());
-        QVERIFY(v.Written[9] == 0 && v.Extracted[9] == 0 && v.Written[2] == 0);
-        QCOMPARE(v.refIndex[9], QString());
+        QVERIFY(v.Written.at(9) == 0 && v.Extracted.at(9) == 0 && v.Written.at(2) == 0);
+        QCOMPARE(v.refIndex.at(9), QString());
         QCOMPARE(v.LowestWritten, qint16{2});
         QCOMPARE(v.HighestWritten, qint16{9});
         QCOMPARE(GetParagraphRtf(v, 2), QByteArray());
@@ -110,7 +110,7 @@ private Q_SLOTS:
         v.ParagraphDirty = true;
         QVERIFY_THROWS_EXCEPTION(FileError, SaveCurParg(v, box));
         QVERIFY(v.ParagraphDirty && !v.AdventureModified);
-        QVERIFY(v.Written[20] == 0 && v.HighestWritten == 9);
+        QVERIFY(v.Written.at(20) == 0 && v.HighestWritten == 9);
         QCOMPARE(box.text(), QStringLiteral("précieux"));
     }
 
@@ -151,7 +151,7 @@ private Q_SLOTS:
         adventure.file(QStringLiteral("Dossier Usmira/b-0002.rtf"), "another's");
         DiscardWorkingFiles(adventure.variables);
         QCOMPARE(adventure.workingFiles(), QStringList{QStringLiteral("b-0002.rtf")});
-        QCOMPARE(adventure.variables.Extracted[9], quint8{0});
+        QCOMPARE(adventure.variables.Extracted.at(9), quint8{0});
     }
 };
 

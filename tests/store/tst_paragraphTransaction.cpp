@@ -60,12 +60,11 @@ public:
         QStringList lines;
         const Variables &v = variables();
         for (int n = 0; n <= 12; ++n) {
-            const auto index = static_cast<std::size_t>(n);
             lines.append(QStringLiteral("%1 %2 %3 %4 %5")
                              .arg(n)
-                             .arg(v.Written.at(index))
-                             .arg(v.Unmixable.at(index))
-                             .arg(v.refIndex.at(index), rtfToPlainText(GetParagraphRtf(v, n))));
+                             .arg(v.Written.at(n))
+                             .arg(v.Unmixable.at(n))
+                             .arg(v.refIndex.at(n), rtfToPlainText(GetParagraphRtf(v, n))));
         }
         return lines << QString::number(v.LowestWritten) << QString::number(v.HighestWritten);
     }

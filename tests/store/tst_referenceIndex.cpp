@@ -1,3 +1,4 @@
+#include "editor/PadNumber.h"
 #include "platform/OpenedFile.h"
 #include "store/AdventureFile.h"
 #include "store/ReferenceIndex.h"
@@ -41,10 +42,10 @@ private Q_SLOTS:
         Variables v;
         QFETCH(QString, phrase);
         v.TargetPhrase = phrase;
-        v.refIndex[7] = QStringLiteral("0001/");
+        v.refIndex.at(7) = QStringLiteral("0001/");
         QFETCH(QString, text);
         ScanReferences(v, text, 7);
-        QTEST(v.refIndex[7], "entry");
+        QTEST(v.refIndex.at(7), "entry");
     }
 
     void rebuildScansEveryWrittenParagraphAndSkipsDamage()
@@ -59,9 +60,9 @@ private Q_SLOTS:
                 .bytes());
         takeOver(adventure.variables, readAdventure(std::make_shared<OpenedFile>(path)));
         RebuildReferenceIndex(adventure.variables);
-        QCOMPARE(adventure.variables.refIndex[3], QStringLiteral("0007/"));
-        QCOMPARE(adventure.variables.refIndex[7], QStringLiteral("0003/0009/"));
-        QCOMPARE(adventure.variables.refIndex[9], QString());
+        QCOMPARE(adventure.variables.refIndex.at(3), QStringLiteral("0007/"));
+        QCOMPARE(adventure.variables.refIndex.at(7), QStringLiteral("0003/0009/"));
+        QCOMPARE(adventure.variables.refIndex.at(9), QString());
         QCOMPARE(incomingParagraphs(adventure.variables, 3), QList<int>{7});
     }
 
@@ -70,12 +71,12 @@ private Q_SLOTS:
         Variables v;
         v.LowestWritten = 2;
         v.HighestWritten = 9;
-        for (const std::size_t n : {std::size_t{2}, std::size_t{5}, std::size_t{9}})
+        for (const int n : {2, 5, 9})
             v.Written.at(n) = 1;
-        v.refIndex[2] = QStringLiteral("0005/0026/0005/");
-        v.refIndex[5] = QStringLiteral("0005/");
-        v.refIndex[6] = QStringLiteral("0005/"); // not written
-        v.refIndex[9] = QStringLiteral("0050/0500/");
+        v.refIndex.at(2) = QStringLiteral("0005/0026/0005/");
+        v.refIndex.at(5) = QStringLiteral("0005/");
+        v.refIndex.at(6) = QStringLiteral("0005/"); // not written
+        v.refIndex.at(9) = QStringLiteral("0050/0500/");
         QCOMPARE(incomingParagraphs(v, 5), (QList<int>{2, 5}));
         QCOMPARE(incomingParagraphs(v, 26), QList<int>{2});
         QCOMPARE(incomingParagraphs(v, 1), QList<int>());

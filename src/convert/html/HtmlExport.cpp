@@ -1,0 +1,71 @@
+#include "convert/html/HtmlExport.h"
+
+#include "convert/ExportTarget.h"
+#include "convert/html/HtmlCharset.h"
+#include "convert/html/RtfToHtml.h"
+#include "platform/Errors.h"
+#include "platform/FileBatch.h"
+#include "platform/SafeFile.h"
+#include "richtext/HiddenBox.h"
+#include "store/ParagraphStore.h"
+
+namespace
+{
+QString withNumber(QString code, int n)
+{
+    return code.replace(QStringLiteral("<999>"), QString::number(n));
+}
+
+// Codes as they go into a file.
+QByteArray codeBytes(QString code, HtmlCharset charset)
+{
+    code.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return htmlBytes(code.replace(u'\n', QStringLiteral("\r\n")), charset);
+}
+
+// A text that no box of ours wrote may lack what the conversion relies on. The box makes it one of
+// ours.
+QByteArray htmlOf(const Variables &variables, int n, const QString &prefix, bool manyFiles)
+{
+    const QByteArray rtf = GetParagraphRtf(variables, n);
+    try {
+        return RtfToHtml(variables, rtf, prefix, n, manyFiles);
+    } catch (const FormatError &) {
+        HiddenBox box;
+        box.setRtf(rtf);
+        return RtfToHtml(variables, box.rtf(), prefix, n, manyFiles);
+    }
+}
+} // namespace
+
+int exportOneFile(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
+                  SafeFile &file, const Progress &progress)
+{
+    const HtmlCharset charset = declaredCharset(codes.header);
+    file.write(codeBytes(codes.header, charset) + "\r\n");
+    const int written = forEachWritten(variables, range, progress, [&](int n) {
+        const QByteArray html = htmlOf(variables, n, QStringLiteral("Irrelevant"), false);
+        const QByteArray anchor = "<A NAME=\"P" + fourDigits(n).toLatin1() + "\"></A>";
+        file.write(anchor + codeBytes(withNumber(codes.numbers, n), charset) +
+                   recodedHtml(html, charset) + "\r\n");
+    });
+    file.write(codeBytes(codes.footer, charset) + "\r\n");
+    file.commit();
+    return written;
+}
+
+int exportManyFiles(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
+                    const QString &folder, const QString &prefix, const Progress &progress)
+{
+    const HtmlCharset charset = declaredCharset(codes.header);
+    const QByteArray footer = codeBytes(codes.footer, charset) + "\r\n";
+    FileBatch pages;
+    const int written = forEachWritten(variables, range, progress, [&](int n) {
+        const QString path = folder + u'/' + prefix + fourDigits(n) + QStringLiteral(".htm");
+        refuseOwnFiles(variables, path);
+        const QByteArray header = codeBytes(withNumber(codes.header, n), charset);
+        pages.add(path, header + recodedHtml(htmlOf(variables, n, prefix, true), charset) + footer);
+    });
+    pages.commit();
+    return written;
+}

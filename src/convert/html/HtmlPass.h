@@ -1,0 +1,52 @@
+#pragma once
+
+#include "convert/html/HtmlColours.h"
+#include "convert/html/HtmlText.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <array>
+#include <optional>
+
+// The first pass from RTF to HTML: left to right over the bytes, in time that grows as they do.
+// Text is copied as it stands. A control run is everything from a backslash to the next space and
+// counts as a whole; the space is part of it. Views the RTF, which must outlive it.
+class HtmlPass
+{
+public:
+    explicit HtmlPass(QByteArrayView rtf) : m_rtf(rtf), m_colours(rtf) {}
+
+    // Call once. Throws FormatError when there is no body, when no space follows a control run or
+    // no brace the last text, and LimitError when the HTML grows too large.
+    QByteArray convert();
+
+private:
+    struct Style {
+        QByteArrayView word;
+        QByteArrayView start;
+        QByteArrayView end;
+        bool isOpen = false;
+    };
+
+    qsizetype bodyStart() const;
+    void takeLastText();
+    void takeControl();
+    void takeHexadecimal();
+    void takeRun();
+    void takeCharacter(char32_t character);
+    std::optional<char32_t> takeLowSurrogate();
+    void skipFallback();
+    std::optional<QByteArrayView> runAt(qsizetype from) const;
+    void applyRun(QByteArrayView run);
+    void applyColour(QByteArrayView run);
+    void applyAlignment(QByteArrayView run);
+    void closeFont();
+
+    QByteArrayView m_rtf;
+    qsizetype m_at = 0;
+    HtmlText m_html;
+    HtmlColours m_colours;
+    std::array<Style, 3> m_styles{
+        {{"\\b", "<B>", "</B>"}, {"\\i", "<I>", "</I>"}, {"\\ul", "<U>", "</U>"}}};
+    bool m_fontOpen = false;
+};

@@ -1,0 +1,60 @@
+#include "convert/html/onebigHTML.h"
+
+#include "convert/ExportTarget.h"
+#include "convert/WorkInDialog.h"
+#include "convert/html/HtmlCommands.h"
+#include "platform/Guarded.h"
+#include "store/LenientNumbers.h"
+#include "ui_onebigHTML.h"
+
+onebigHTML::onebigHTML(const Variables &variables, Prompts &prompts, AdventureView &view,
+                       QWidget *parent)
+    : NumberDialog(prompts, Enter::Beeps, parent), m_variables(variables), m_prompts(prompts),
+      m_view(view), m_ui(std::make_unique<Ui::onebigHTML>())
+{
+    m_ui->setupUi(this);
+    connectForm(*m_ui->Cancel, *m_ui->txtLow);
+    connectCodeBoxes();
+    connectGuarded(m_ui->HTML, &QPushButton::clicked, this, prompts, [this] { HTML_Click(); });
+    Form_Load();
+}
+
+onebigHTML::~onebigHTML() = default;
+
+void onebigHTML::connectCodeBoxes()
+{
+    const CodeBox::FileKind kind{QStringLiteral("Fichiers TXT (*.txt)|*.txt"),
+                                 QStringLiteral("txt")};
+    m_ui->txtHeader->connectButtons(m_variables, m_prompts, *m_ui->btnLoad1, *m_ui->btnSave1, kind);
+    m_ui->txtFooter->connectButtons(m_variables, m_prompts, *m_ui->btnLoad2, *m_ui->btnSave2, kind);
+    m_ui->txtNumbers->connectButtons(m_variables, m_prompts, *m_ui->btnLoad3, *m_ui->btnSave3,
+                                     kind);
+}
+
+// The end of the file is by default the end that pages of their own have.
+void onebigHTML::Form_Load()
+{
+    for (NumberBox *box : {m_ui->txtLow, m_ui->txtHigh})
+        setCodeFont(*box);
+    fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
+    const QString &folder = m_variables.WorkingFolder;
+    m_ui->txtHeader->readFile(folder + QStringLiteral("Début du Fichier Unique.txt"));
+    m_ui->txtFooter->readFile(folder + QStringLiteral("Fin de Chaque Paragraphe.txt"));
+    m_ui->txtNumbers->readFile(folder + QStringLiteral("Numéros de Paragraphes.txt"));
+}
+
+void onebigHTML::HTML_Click()
+{
+    const double low = lenientNumber(m_ui->txtLow->text());
+    const double high = lenientNumber(m_ui->txtHigh->text());
+    const QString path = m_prompts.saveName(QStringLiteral("Enregistrer Fichier HTML"),
+                                            QStringLiteral("Fichiers HTML (*.htm)|*.htm"),
+                                            QStringLiteral("htm"), proposedName(m_variables));
+    if (path.isEmpty())
+        return;
+    const HtmlCodes codes{m_ui->txtHeader->code(), m_ui->txtNumbers->code(),
+                          m_ui->txtFooter->code()};
+    WorkInDialog work(m_view, *m_ui->barWork);
+    if (exportToOneFile(m_variables, m_prompts, work, low, high, codes, path))
+        accept();
+}
