@@ -2,10 +2,11 @@
 # Installs what is missing, builds Usmira and opens it.
 #   ./run.sh [--vnc] [adventure.usm]
 # Without an adventure it opens your copy of the bundled sample. --vnc shows the editor to a VNC
-# viewer on port 5900 of this machine, for machines without a screen.
+# viewer, for machines without a screen: only through the loopback, with a password made for the run.
 caller=$PWD
 cd "$(dirname "$0")"
 . scripts/setup.sh
+. scripts/vnc.sh
 
 vnc=no
 if [ "${1:-}" = --vnc ]; then
@@ -29,6 +30,7 @@ sample_copy() {
     printf '%s' "$copy"
 }
 
+[ $vnc = no ] || PACKAGES+=("${VNC_PACKAGES[@]}")
 install_missing "${PACKAGES[@]}"
 build release usmira
 
@@ -40,12 +42,13 @@ else
 fi
 
 if [ $vnc = yes ]; then
-    say "Opening $adventure for a VNC viewer on port 5900 (without a password: whoever reaches it can use it)"
-    exec env QT_QPA_PLATFORM=vnc build/release/src/app/usmira "$adventure"
+    say "Opening $adventure"
+    vnc_show build/release/src/app/usmira "$adventure"
+    exit
 fi
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ] && [ -z "${QT_QPA_PLATFORM:-}" ]; then
     fail "Usmira is built, but there is no display to show it on. Run ./run.sh on a desktop, or
-./run.sh --vnc and connect a VNC viewer to port 5900 of this machine."
+./run.sh --vnc and connect a VNC viewer as it says."
 fi
 say "Opening $adventure"
 exec build/release/src/app/usmira "$adventure"
