@@ -10,6 +10,24 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+
+namespace
+{
+// Qt gives the field within a box less than the field asks for where the letters are tall.
+void giveFieldItsHeight(QComboBox &combo)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&combo);
+    option.editable = true;
+    option.rect.setSize(combo.sizeHint());
+    const QRect field = combo.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                      QStyle::SC_ComboBoxEditField, &combo);
+    const int frame = option.rect.height() - field.height();
+    combo.setMinimumHeight(combo.lineEdit()->sizeHint().height() + frame);
+}
+} // namespace
 
 FormattingBar::FormattingBar(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::FormattingBar>())
@@ -21,6 +39,8 @@ FormattingBar::FormattingBar(QWidget *parent)
     const QList<QWidget *> groups = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget *group : groups)
         flow->addWidget(group);
+    giveFieldItsHeight(*m_ui->comboFonts);
+    giveFieldItsHeight(*m_ui->comboSizes);
     m_colors = findChildren<ColorButton *>();
     drawIcons();
 }

@@ -71,7 +71,7 @@ int FlowLayout::flow(const QRect &rect, Action action) const
         if (i > first && x + size.width() > area.width()) {
             if (action == Action::Place)
                 placeRow(first, i, area.topLeft() + QPoint(0, y), rowHeight);
-            y += rowHeight + spacing();
+            y += rowHeight + spacing() / 2;
             first = i;
             x = 0;
             rowHeight = 0;
