@@ -62,10 +62,11 @@ void makeStyles(RichTextBox &box)
 
 void makeParagraphs(RichTextBox &box)
 {
-    box.setText("Titre\r\ncorde\r\nclé\r\nsuite {\\b}\r\n★a📘★œuf…");
+    box.setText("Titre\r\ncorde\r\nclé\r\n\r\nsuite {\\b}\r\n★a📘★œuf…\r\nlivre");
     found(box, "Titre").setSelAlignment(RichTextBox::Alignment::Centre);
     box.setSelColor(qRgb(0, 0, 255));
-    found(box, "corde\r\nclé").setSelBullet(true);
+    found(box, "corde\r\nclé\r\n\r\n").setSelBullet(true);
+    found(box, "livre").setSelBullet(true);
     found(box, "★a📘★œ").setSelBold(true);
     box.setSelAlignment(RichTextBox::Alignment::Right);
 }
@@ -210,6 +211,8 @@ private Q_SLOTS:
                             "<A HREF=\"\xc9\xbb&#321;&#128216;-1234.htm\">1234</A>."));
         paragraph.prefix.clear();
         QVERIFY(paragraph.html().startsWith("Va au <A HREF=\"0026.htm\">26</A>"));
+        paragraph.prefix = "a #1 %23\"?";
+        QVERIFY(paragraph.html().contains("<A HREF=\"a %231 %2523%22%3F0026.htm\">26</A>"));
     }
 
     void textsOfTheEditorAreConverted_data()
@@ -224,9 +227,11 @@ private Q_SLOTS:
               "&nbsp;ou au <B>10</B>3 &#151; fin\r\n<BR>"},
              {"paragraphs", makeParagraphs,
               "<P ALIGN=\"Center\"><FONT COLOR=\"#0000FF\">Titre\r\n<BR>"
-              "<P ALIGN=\"Left\"></FONT>corde\r\n<BR>cl&#233;\r\n<BR><P ALIGN=\"Left\">suite "
+              "<P ALIGN=\"Left\">&#149;&nbsp;</FONT>corde\r\n<BR>&#149;&nbsp;cl&#233;\r\n<BR>"
+              "&#149;&nbsp;\r\n<BR><P ALIGN=\"Left\">suite "
               "&#123;&#092;b&#125;\r\n<BR>"
-              "<P ALIGN=\"Right\"><B>&#9733;a&#128216;&#9733;&#156;</B>uf&#133;\r\n<BR>"}});
+              "<P ALIGN=\"Right\"><B>&#9733;a&#128216;&#9733;&#156;</B>uf&#133;\r\n<BR>"
+              "<P ALIGN=\"Left\">&#149;&nbsp;livre\r\n<BR>"}});
     }
     void textsOfTheEditorAreConverted()
     {

@@ -2,8 +2,8 @@
 
 #include "convert/ExportTarget.h"
 #include "convert/html/HtmlCharset.h"
+#include "convert/html/HtmlLosses.h"
 #include "convert/html/RtfToHtml.h"
-#include "platform/Errors.h"
 #include "platform/FileBatch.h"
 #include "platform/SafeFile.h"
 #include "richtext/HiddenBox.h"
@@ -23,18 +23,16 @@ QByteArray codeBytes(QString code, HtmlCharset charset)
     return htmlBytes(code.replace(u'\n', QStringLiteral("\r\n")), charset);
 }
 
-// A text that no box of ours wrote may lack what the conversion relies on. The box makes it one of
-// ours.
+// The box makes a text of ours of what another program wrote, where the pass would lose some of it.
 QByteArray htmlOf(const Variables &variables, int n, const QString &prefix, bool manyFiles)
 {
-    const QByteArray rtf = GetParagraphRtf(variables, n);
-    try {
-        return RtfToHtml(variables, rtf, prefix, n, manyFiles);
-    } catch (const FormatError &) {
+    QByteArray rtf = GetParagraphRtf(variables, n);
+    if (losesInHtml(rtf)) {
         HiddenBox box;
         box.setRtf(rtf);
-        return RtfToHtml(variables, box.rtf(), prefix, n, manyFiles);
+        rtf = box.rtf();
     }
+    return RtfToHtml(variables, rtf, prefix, n, manyFiles);
 }
 } // namespace
 

@@ -4,19 +4,28 @@
 
 #include <QChar>
 #include <algorithm>
-#include <utility>
 
 namespace
 {
-// Runs that stand for text. They leave the styles alone, and so must be nothing else: "\par\pard"
-// is none of them.
-constexpr std::array<std::pair<QByteArrayView, QByteArrayView>, 5> Signs{{
-    {"\\par", "<BR>"},
-    {"\\tab", "&nbsp; &nbsp; &nbsp;"},
-    {"\\bullet", "&#149;"},
-    {"\\endash", "&#150;"},
-    {"\\emdash", "&#151;"},
+// A run that stands for text, as HTML and as plain text.
+struct Sign {
+    QByteArrayView run;
+    QByteArrayView html;
+    QByteArrayView text;
+};
+
+// They leave the styles alone, and so must be nothing else: "\par\pard" is none of them.
+constexpr QByteArrayView LineEnd = "\\par";
+constexpr std::array<Sign, 5> Signs{{
+    {LineEnd, "<BR>", "\n"},
+    {"\\tab", "&nbsp; &nbsp; &nbsp;", "\t"},
+    {"\\bullet", "&#149;", "\x95"},
+    {"\\endash", "&#150;", "\x96"},
+    {"\\emdash", "&#151;", "\x97"},
 }};
+
+constexpr QByteArrayView BulletHtml = "&#149;&nbsp;";
+constexpr QByteArrayView BulletText = "\x95 ";
 
 // The character of a run that is \uN and nothing more. N is a signed 16-bit number; what some
 // programs write above that is taken for the character's own number.
@@ -65,10 +74,15 @@ QByteArray HtmlPass::convert()
     }
     for (const Style &style : m_styles) {
         if (style.isOpen)
-            m_html.append(style.end);
+            append(style.end);
     }
     closeFont();
     return m_html.bytes();
+}
+
+void HtmlPass::append(QByteArrayView html, QByteArrayView text)
+{
+    m_html.append(m_gives == Gives::Html ? html : text);
 }
 
 // The first backslash behind the last brace but one, which closes the last table.
@@ -96,7 +110,7 @@ void HtmlPass::takeControl()
     if (rest.startsWith('\'')) {
         takeHexadecimal();
     } else if (rest.startsWith('~')) {
-        m_html.append("&nbsp;");
+        append("&nbsp;", "\xa0");
         m_at += 2;
     } else {
         takeRun();
@@ -117,7 +131,8 @@ void HtmlPass::takeHexadecimal()
     }
     const auto digit = [code](int unit) { return static_cast<char>('0' + code / unit % 10); };
     const std::array entity{'&', '#', digit(100), digit(10), digit(1), ';'};
-    m_html.append(entity);
+    const std::array byte{static_cast<char>(code)};
+    append(entity, byte);
     m_at += 4;
 }
 
@@ -136,13 +151,21 @@ void HtmlPass::takeRun()
         throw FormatError(m_at, QStringLiteral("a space behind the control run"));
     m_at += run->size() + 1;
     const auto sign = std::find_if(Signs.begin(), Signs.end(),
-                                   [&run](const auto &entry) { return entry.first == *run; });
+                                   [&run](const Sign &entry) { return entry.run == *run; });
     if (sign != Signs.end())
-        m_html.append(sign->second);
+        takeSign(sign->html, sign->text, *run == LineEnd);
     else if (const std::optional<char32_t> character = unicodeCharacter(*run))
         takeCharacter(*character);
     else
         applyRun(*run);
+}
+
+void HtmlPass::takeSign(QByteArrayView html, QByteArrayView text, bool isLineEnd)
+{
+    append(html, text);
+    const QByteArrayView rest = m_rtf.sliced(m_at);
+    if (isLineEnd && m_bullet && !rest.startsWith('}') && !rest.startsWith("\\pard"))
+        append(BulletHtml, BulletText);
 }
 
 // A character outside Windows-1252. Unlike every other run this one is text and closes no style.
@@ -154,7 +177,8 @@ void HtmlPass::takeCharacter(char32_t character)
             character = QChar::surrogateToUcs4(static_cast<char16_t>(character),
                                                static_cast<char16_t>(*low));
     }
-    m_html.append(numericEntity(character));
+    m_html.append(m_gives == Gives::Html ? numericEntity(character)
+                                         : toHtmlBytes(QString::fromUcs4(&character, 1)));
 }
 
 // The other half of a character, when it follows at once; else nothing is taken.
@@ -189,11 +213,21 @@ void HtmlPass::applyRun(QByteArrayView run)
     for (Style &style : m_styles) {
         const bool has = run.contains(style.word);
         if (has != style.isOpen)
-            m_html.append(has ? style.start : style.end);
+            append(has ? style.start : style.end);
         style.isOpen = has;
     }
     applyColour(run);
     applyAlignment(run);
+    if (run.contains("\\pard"))
+        startParagraphs(hasBullet(run));
+}
+
+// What \pard says holds for the paragraphs that follow as well, up to the next one.
+void HtmlPass::startParagraphs(bool bullet)
+{
+    m_bullet = bullet;
+    if (bullet)
+        append(BulletHtml, BulletText);
 }
 
 void HtmlPass::applyColour(QByteArrayView run)
@@ -203,7 +237,7 @@ void HtmlPass::applyColour(QByteArrayView run)
     if (found >= 0) {
         closeFont();
         const QByteArray hex = m_colours.hexOf(run.sliced(found + word.size()));
-        m_html.append("<FONT COLOR=\"#" + hex + "\">");
+        append("<FONT COLOR=\"#" + hex + "\">");
         m_fontOpen = true;
     } else if (run.startsWith("\\plain")) {
         closeFont();
@@ -214,16 +248,21 @@ void HtmlPass::applyColour(QByteArrayView run)
 void HtmlPass::applyAlignment(QByteArrayView run)
 {
     if (run.contains("\\qc"))
-        m_html.append("<P ALIGN=\"Center\">");
+        append("<P ALIGN=\"Center\">", "\n");
     if (run.contains("\\qr"))
-        m_html.append("<P ALIGN=\"Right\">");
+        append("<P ALIGN=\"Right\">", "\n");
     if (run.contains("\\pard") && !run.contains("\\q"))
-        m_html.append("<P ALIGN=\"Left\">");
+        append("<P ALIGN=\"Left\">", "\n");
 }
 
 void HtmlPass::closeFont()
 {
     if (m_fontOpen)
-        m_html.append("</FONT>");
+        append("</FONT>");
     m_fontOpen = false;
+}
+
+bool hasBullet(QByteArrayView run)
+{
+    return run.contains("\\pard") && run.endsWith("\\ls1");
 }

@@ -9,11 +9,20 @@
 
 namespace
 {
+// What would end an address or begin another part of it. File names themselves stay.
+QString percentEncoded(QString name)
+{
+    name.replace(u'%', QStringLiteral("%25"));
+    name.replace(u'#', QStringLiteral("%23"));
+    name.replace(u'?', QStringLiteral("%3F"));
+    return name.replace(u'"', QStringLiteral("%22"));
+}
+
 LinkForm linkForm(const QString &filePrefix, bool manyFiles)
 {
     if (!manyFiles)
         return {"<A HREF=\"#P", "\">"};
-    return {"<A HREF=\"" + toHtmlBytes(filePrefix), ".htm\">"};
+    return {"<A HREF=\"" + toHtmlBytes(percentEncoded(filePrefix)), ".htm\">"};
 }
 } // namespace
 

@@ -15,7 +15,7 @@
 // passes must not be made cleverer.
 //
 // Links go to refIndex[n]'s paragraphs: to the anchors "P0026" of the same file, or with manyFiles
-// to the files filePrefix + "0026.htm".
+// to the files filePrefix + "0026.htm", in whose addresses # % ? and " are percent-encoded.
 //
 // The result is in Windows-1252; of RTF that the editor wrote it is 7-bit, the prefix aside. What
 // Windows-1252 lacks is written as numeric entities. Empty bytes give an empty result.
