@@ -6,6 +6,8 @@
 #include "store/ParagraphTransaction.h"
 #include "store/ReferenceIndex.h"
 
+#include <QTextCursor>
+
 namespace
 {
 bool isWritten(const Variables &variables, int n)
@@ -111,19 +113,31 @@ void RecomputeWrittenRange(Variables &variables)
     variables.HighestWritten = none ? qint16{1} : highest;
 }
 
-// The text changes under the search, which goes on just behind each phrase: also in the digits
-// that have come in.
+// The text changes under the search, which goes on just behind each phrase: also in the digits that
+// have come in. Only what is ahead of the search is kept as it is in the box, so that a new number
+// need not move all of it: it is written backwards, over what has been searched.
 void rewriteReferences(RichTextBox &box, const QString &targetPhrase, const RenumberMap &map)
 {
+    QTextCursor step(box.document()); // one step, in which no change is measured for its own sake
+    step.beginEditBlock();
     QString text = box.text();
     qsizetype from = 0;
+    qsizetype offset = 0; // of a position in the box from the same in text
     while (const std::optional<Reference> reference = nextReference(text, targetPhrase, from)) {
-        from = reference->position;
         const int number = roundHalfEven(reference->number);
         const auto length = QString::number(number).size();
-        box.select(static_cast<int>(from), static_cast<int>(length));
         const QString newNumber = QString::number(map.of(number));
-        text.replace(from, box.selLength(), newNumber);
+        const qsizetype inBox = reference->position + offset;
+        box.select(static_cast<int>(inBox), static_cast<int>(length));
+        from = reference->position + box.selLength() - newNumber.size();
         box.setSelText(newNumber);
+        if (from < 0) {
+            const qsizetype room = text.size() + newNumber.size();
+            text.prepend(QString(room, u' '));
+            from += room;
+        }
+        text.replace(from, newNumber.size(), newNumber);
+        offset = inBox - from;
     }
+    step.endEditBlock();
 }

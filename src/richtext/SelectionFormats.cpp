@@ -84,8 +84,15 @@ void SelectionFormats::forEachBlock(const QTextCursor &selection,
     } while (block.isValid() && block.position() < selection.selectionEnd());
 }
 
+// Asked for directly where it can be: the run that the character is in may be a long one.
 QTextCharFormat SelectionFormats::firstCharFormat(const QTextCursor &selection)
 {
+    QTextCursor behind(selection.document());
+    behind.setPosition(selection.selectionStart());
+    if (selection.hasSelection() && !behind.atBlockEnd()) {
+        behind.setPosition(selection.selectionStart() + 1);
+        return behind.charFormat();
+    }
     QTextCharFormat first;
     forEachRun(selection, [&](const QTextCharFormat &format) {
         first = format;

@@ -9,6 +9,7 @@
 #include "support/AdventureBuilder.h"
 #include "support/TestTable.h"
 
+#include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTest>
@@ -137,6 +138,21 @@ private Q_SLOTS:
         box.setText(text);
         rewriteReferences(box, phrase, map);
         QTEST(box.text(), "rewritten");
+    }
+
+    // Only work that grows faster than the line comes near this time.
+    void manyReferencesOfALineAreRewritten()
+    {
+        constexpr int many = 40000;
+        HiddenBox box;
+        box.setText(QStringLiteral(" au 26.").repeated(many));
+        RenumberMap map;
+        map.exchange(26, 1234);
+        QElapsedTimer timer;
+        timer.start();
+        rewriteReferences(box, QStringLiteral(" au "), map);
+        QVERIFY(timer.elapsed() < 20000);
+        QCOMPARE(box.text(), QStringLiteral(" au 1234.").repeated(many));
     }
 
     void theNewNumberLooksLikeTheOld()
