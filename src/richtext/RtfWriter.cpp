@@ -9,6 +9,7 @@
 #include <QTextDocument>
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace
 {
@@ -44,6 +45,8 @@ QByteArray escapedFontName(const QString &name)
     return bytes;
 }
 
+constexpr const char *DocumentEnd = "\r\n\\par }";
+
 // Assigns numbers in the order of first use.
 template <typename Key> class Numbering
 {
@@ -63,13 +66,16 @@ private:
     QList<Key> m_keys;
 };
 
-class Writer
+} // namespace
+
+class RtfStream::Writer
 {
 public:
     explicit Writer(const QFont &base) : m_base(base) { m_colours.of(qRgb(0, 0, 0)); }
 
-    void writeBody(const QTextDocument &document, int from, int to);
-    QByteArray wholeText() const;
+    void writeBlocks(const QTextDocument &document, int from, int to);
+    QByteArray takeBody() { return std::exchange(m_body, QByteArray()); }
+    QByteArray header() const;
 
 private:
     void writeBlock(const QTextBlock &block, int from, int to);
@@ -77,7 +83,6 @@ private:
     void writeText(const QString &text, const CharState &state);
     void writeChar(QChar c);
     void writeCharState(const CharState &state);
-    QByteArray header() const;
 
     QFont m_base;
     QByteArray m_body;
@@ -88,7 +93,7 @@ private:
     std::optional<CharState> m_chars; // in force at this place, empty when none was written
 };
 
-void Writer::writeBody(const QTextDocument &document, int from, int to)
+void RtfStream::Writer::writeBlocks(const QTextDocument &document, int from, int to)
 {
     const QTextBlock last = document.findBlock(to);
     for (QTextBlock block = document.findBlock(from); block.isValid(); block = block.next()) {
@@ -97,10 +102,9 @@ void Writer::writeBody(const QTextDocument &document, int from, int to)
         if (block == last)
             break;
     }
-    m_body += "\r\n\\par }";
 }
 
-void Writer::writeBlock(const QTextBlock &block, int from, int to)
+void RtfStream::Writer::writeBlock(const QTextBlock &block, int from, int to)
 {
     ParagraphState state = ParagraphState::of(block);
     state.settleBullet();
@@ -124,7 +128,7 @@ void Writer::writeBlock(const QTextBlock &block, int from, int to)
     }
 }
 
-void Writer::startParagraph(const ParagraphState &state)
+void RtfStream::Writer::startParagraph(const ParagraphState &state)
 {
     m_body += m_paragraph ? "\r\n\\par " : "\\deflang1036";
     if (m_paragraph == state)
@@ -148,7 +152,7 @@ void Writer::startParagraph(const ParagraphState &state)
     m_body += state.bullet ? "\\ls1 " : " ";
 }
 
-void Writer::writeText(const QString &text, const CharState &state)
+void RtfStream::Writer::writeText(const QString &text, const CharState &state)
 {
     const QString cleaned = cleanedText(text);
     for (const QChar c : cleaned) {
@@ -158,7 +162,7 @@ void Writer::writeText(const QString &text, const CharState &state)
     }
 }
 
-void Writer::writeChar(QChar c)
+void RtfStream::Writer::writeChar(QChar c)
 {
     if (c == u'\t') {
         m_body += "\\tab ";
@@ -176,7 +180,7 @@ void Writer::writeChar(QChar c)
         m_body += escaped(c);
 }
 
-void Writer::writeCharState(const CharState &state)
+void RtfStream::Writer::writeCharState(const CharState &state)
 {
     m_chars = state;
     m_body += "\\plain\\f" + number(m_fonts.of(state.family));
@@ -194,7 +198,7 @@ void Writer::writeCharState(const CharState &state)
     m_body += ' ';
 }
 
-QByteArray Writer::header() const
+QByteArray RtfStream::Writer::header() const
 {
     QByteArray header = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deftab720{\\fonttbl";
     for (int i = 0; i < m_fonts.keys().size(); ++i)
@@ -212,11 +216,31 @@ QByteArray Writer::header() const
     return header;
 }
 
-QByteArray Writer::wholeText() const
+RtfStream::RtfStream(const QFont &base) : m_writer(std::make_unique<Writer>(base)) {}
+
+RtfStream::~RtfStream() = default;
+
+QByteArray RtfStream::paragraphs(const QTextDocument &part)
 {
-    return header() + m_body;
+    m_writer->writeBlocks(part, 0, part.lastBlock().position() - 1);
+    return m_writer->takeBody();
 }
-} // namespace
+
+QByteArray RtfStream::end(const QTextDocument &part)
+{
+    return end(part, part.lastBlock().position(), part.characterCount() - 1);
+}
+
+QByteArray RtfStream::end(const QTextDocument &part, int from, int to)
+{
+    m_writer->writeBlocks(part, from, to);
+    return m_writer->takeBody().append(DocumentEnd);
+}
+
+QByteArray RtfStream::header() const
+{
+    return m_writer->header();
+}
 
 QByteArray writeRtf(const QTextDocument &document, const QFont &base)
 {
@@ -225,7 +249,7 @@ QByteArray writeRtf(const QTextDocument &document, const QFont &base)
 
 QByteArray writeRtf(const QTextDocument &document, const QFont &base, int from, int to)
 {
-    Writer writer(base);
-    writer.writeBody(document, from, to);
-    return writer.wholeText();
+    RtfStream stream(base);
+    const QByteArray body = stream.end(document, from, to);
+    return stream.header() + body;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <memory>
 
 class QFont;
 class QTextDocument;
@@ -19,3 +20,27 @@ class QTextDocument;
 // font. Frames and pictures are left out.
 QByteArray writeRtf(const QTextDocument &document, const QFont &base);
 QByteArray writeRtf(const QTextDocument &document, const QFont &base, int from, int to);
+
+// Writes one document as the parts of it come, for texts that are larger than a document should be.
+// Put together, header() and all that the other calls gave are what writeRtf would give.
+class RtfStream
+{
+public:
+    explicit RtfStream(const QFont &base);
+    ~RtfStream();
+    RtfStream(const RtfStream &) = delete;
+    RtfStream &operator=(const RtfStream &) = delete;
+
+    // The paragraphs of a part that are whole: the text goes on in its last one. At least two.
+    QByteArray paragraphs(const QTextDocument &part);
+    // The last paragraph of the last part, or what stands between two positions of it, and the end.
+    QByteArray end(const QTextDocument &part);
+    QByteArray end(const QTextDocument &part, int from, int to);
+
+    // What stands in front of all that: it lists the fonts and the colours that have been used.
+    QByteArray header() const;
+
+private:
+    class Writer;
+    std::unique_ptr<Writer> m_writer;
+};

@@ -1,0 +1,37 @@
+#include "platform/ScratchFile.h"
+
+#include "platform/Errors.h"
+#include "platform/SafeFile.h"
+
+#include <QFileInfo>
+
+ScratchFile::ScratchFile(const QString &target)
+    : m_file(QFileInfo(resolvedTarget(target)).absolutePath() + QStringLiteral("/XXXXXX"))
+{
+    if (!m_file.open())
+        fail();
+}
+
+void ScratchFile::write(QByteArrayView bytes)
+{
+    if (m_file.write(bytes.data(), bytes.size()) != bytes.size())
+        fail();
+}
+
+void ScratchFile::copyTo(SafeFile &file)
+{
+    constexpr qint64 atOnce = 1024 * 1024;
+    if (!m_file.seek(0)) // which also writes what has waited in memory
+        fail();
+    while (!m_file.atEnd()) {
+        const QByteArray bytes = m_file.read(atOnce);
+        if (bytes.isEmpty())
+            fail();
+        file.write(bytes);
+    }
+}
+
+void ScratchFile::fail()
+{
+    throw FileError(FileError::Operation::Write, m_file.fileTemplate(), m_file.errorString());
+}
