@@ -1,11 +1,24 @@
 #include "platform/Errors.h"
 
-FileError::FileError(Operation operation, const QString &path, const QString &systemText)
-    : UsmiraError(
-          QStringLiteral("%1 \"%2\": %3")
-              .arg(operation == Operation::Read ? QStringLiteral("read") : QStringLiteral("write"),
-                   path, systemText)),
-      m_operation(operation), m_path(path)
+namespace
+{
+QString fileErrorText(FileError::Operation operation, const QString &path, const QString &text)
+{
+    const QString verb =
+        operation == FileError::Operation::Read ? QStringLiteral("read") : QStringLiteral("write");
+    return QStringLiteral("%1 \"%2\": %3").arg(verb, path, text);
+}
+} // namespace
+
+FileError::FileError(Operation operation, const QString &path, std::error_code why)
+    : UsmiraError(fileErrorText(operation, path, QString::fromLocal8Bit(why.message().c_str()))),
+      m_operation(operation), m_path(path), m_why(why)
+{
+}
+
+FileError::FileError(Operation operation, const QString &path, const QString &text, std::errc why)
+    : UsmiraError(fileErrorText(operation, path, text)), m_operation(operation), m_path(path),
+      m_why(std::make_error_code(why))
 {
 }
 

@@ -1,5 +1,7 @@
 #include "platform/Failures.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QStringList>
 #include <algorithm>
 
@@ -17,19 +19,85 @@ QString named(const QList<int> &paragraphs)
     return paragraphs.size() > MostNamed ? list + QStringLiteral("...") : list + u'.';
 }
 
-QString failureText(const UsmiraError &error)
+struct Reason {
+    std::errc why;
+    const char *text;
+};
+
+constexpr Reason Reasons[] = {
+    {std::errc::no_space_on_device, QT_TRANSLATE_NOOP("Failures", "le disque est plein")},
+    {std::errc::file_too_large, QT_TRANSLATE_NOOP("Failures", "le fichier est trop grand")},
+    {std::errc::permission_denied, QT_TRANSLATE_NOOP("Failures", "l'accès est refusé")},
+    {std::errc::operation_not_permitted, QT_TRANSLATE_NOOP("Failures", "l'accès est refusé")},
+    {std::errc::read_only_file_system,
+     QT_TRANSLATE_NOOP("Failures", "le disque est protégé en écriture")},
+    {std::errc::not_a_directory, QT_TRANSLATE_NOOP("Failures", "le dossier n'existe pas")},
+    {std::errc::is_a_directory, QT_TRANSLATE_NOOP("Failures", "ce n'est pas un fichier")},
+    {std::errc::filename_too_long, QT_TRANSLATE_NOOP("Failures", "le nom est trop long")},
+    {std::errc::io_error, QT_TRANSLATE_NOOP("Failures", "le disque est en erreur")},
+    {std::errc::no_such_device, QT_TRANSLATE_NOOP("Failures", "le disque n'est plus là")},
+    {std::errc::no_such_device_or_address,
+     QT_TRANSLATE_NOOP("Failures", "le disque n'est plus là")},
+    {std::errc::too_many_files_open,
+     QT_TRANSLATE_NOOP("Failures", "trop de fichiers sont ouverts")},
+    {std::errc::too_many_symbolic_link_levels,
+     QT_TRANSLATE_NOOP("Failures", "les liens tournent en rond")},
+    {std::errc::text_file_busy,
+     QT_TRANSLATE_NOOP("Failures", "ce fichier sert à l'aventure ouverte")},
+    {std::errc::device_or_resource_busy,
+     QT_TRANSLATE_NOOP("Failures", "un autre programme s'en sert")},
+    {std::errc::bad_message,
+     QT_TRANSLATE_NOOP("Failures", "un autre programme en a changé le contenu")}};
+
+// A file that is not there can only be missed when it is read: to write, it takes a folder.
+QString reasonOf(const FileError &error)
+{
+    if (error.why() == std::errc::no_such_file_or_directory)
+        return error.operation() == FileError::Operation::Read
+                   ? QCoreApplication::translate("Failures", "le fichier est introuvable")
+                   : QCoreApplication::translate("Failures", "le dossier n'existe pas");
+    for (const Reason &reason : Reasons)
+        if (error.why() == reason.why)
+            return QCoreApplication::translate("Failures", reason.text);
+    return {};
+}
+
+// Empty when the failure concerns no file.
+QString fileAndReason(const UsmiraError &error)
+{
+    const auto *file = dynamic_cast<const FileError *>(&error);
+    if (file == nullptr)
+        return {};
+    const QString path = QDir::toNativeSeparators(file->path());
+    const QString reason = reasonOf(*file);
+    return reason.isEmpty() ? path
+                            : QCoreApplication::translate("Failures", "%1 : %2.").arg(path, reason);
+}
+
+bool isWriting(const UsmiraError &error)
+{
+    const auto *file = dynamic_cast<const FileError *>(&error);
+    return file != nullptr ? file->operation() == FileError::Operation::Write
+                           : dynamic_cast<const LimitError *>(&error) != nullptr;
+}
+
+QString words(const UsmiraError &error)
 {
     if (const auto *texts = dynamic_cast<const UnreadableTexts *>(&error))
         return QStringLiteral("Erreur de lecture de fichier. Paragraphes illisibles : ") +
                named(texts->paragraphs());
-    const auto *file = dynamic_cast<const FileError *>(&error);
-    if (file != nullptr && file->operation() == FileError::Operation::Write)
-        return QStringLiteral("Erreur pendant l'écriture du fichier.");
-    return QStringLiteral("Erreur de lecture de fichier.");
+    return isWriting(error) ? QStringLiteral("Erreur pendant l'écriture du fichier.")
+                            : QStringLiteral("Erreur de lecture de fichier.");
 }
 } // namespace
 
+QString failureText(const QString &words, const UsmiraError &error)
+{
+    const QString below = fileAndReason(error);
+    return below.isEmpty() ? words : words + u'\n' + below;
+}
+
 void reportFailure(Prompts &prompts, const UsmiraError &error)
 {
-    prompts.message(failureText(error), QStringLiteral("BUG"), Prompts::Buttons::Ok);
+    prompts.message(failureText(words(error), error), QStringLiteral("BUG"), Prompts::Buttons::Ok);
 }

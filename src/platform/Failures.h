@@ -3,8 +3,13 @@
 #include "platform/Errors.h"
 #include "platform/Prompts.h"
 
-// Tells the author of a failure for which the command has no words of its own.
+// Tells the author of a failure for which the command has no words of its own. A limit is met in
+// what is written, a wrong form in what is read.
 void reportFailure(Prompts &prompts, const UsmiraError &error);
+
+// The words of a command, and on a line of its own below them which file and why, in French:
+// "/home/moi/Le Loup.usm : le disque est plein.". What is not known is left out.
+QString failureText(const QString &words, const UsmiraError &error);
 
 // Runs action, which returns whether it succeeded. A failure is reported and gives false.
 template <typename Action> bool reportingFailures(Prompts &prompts, Action action)

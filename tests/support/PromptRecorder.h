@@ -7,7 +7,9 @@
 
 // Prompts that tests answer beforehand. Every box must have been expected with its text and is
 // answered as told; one that nobody expected fails the test, and so does an expected one that
-// never came, when the recorder goes.
+// never came, when the recorder goes. Of a text of several lines the first is what the author is
+// told at any rate, and those below say which file failed and why: when what was expected is one
+// line, only the first is compared, else all of them.
 class PromptRecorder : public Prompts
 {
 public:

@@ -6,10 +6,10 @@
 
 namespace
 {
-bool saveFailed(Prompts &prompts)
+bool saveFailed(Prompts &prompts, const FileError &error)
 {
-    prompts.message(QStringLiteral("Erreur d'enregistrement du fichier"), QStringLiteral("BUG"),
-                    Prompts::Buttons::Ok);
+    prompts.message(failureText(QStringLiteral("Erreur d'enregistrement du fichier"), error),
+                    QStringLiteral("BUG"), Prompts::Buttons::Ok);
     return false;
 }
 } // namespace
@@ -26,8 +26,8 @@ bool compileToRtf(const Variables &variables, Prompts &prompts, AdventureView &v
                            [&work](int done, int total) { work.progress(done, total); });
             announceExport(view, written, path);
             return true;
-        } catch (const FileError &) {
-            return saveFailed(prompts);
+        } catch (const FileError &error) {
+            return saveFailed(prompts, error);
         }
     });
 }
