@@ -25,7 +25,7 @@ bool isWorkingFileName(const QString &path)
 bool isAdventure(const Variables &variables, const QString &path)
 {
     return isSameFile(path, variables.AdventurePath) ||
-           (variables.AdventureFile && variables.AdventureFile->isStillAt(path));
+           (variables.AdventureFile && variables.AdventureFile->isNamed(path));
 }
 
 bool isWorkingFile(const Variables &variables, const QString &path)
@@ -47,7 +47,7 @@ void refuseOwnFiles(const Variables &variables, const QString &path)
 {
     if (isAdventure(variables, path) || isWorkingFile(variables, path))
         throw FileError(FileError::Operation::Write, path,
-                        QStringLiteral("belongs to the open adventure"));
+                        QStringLiteral("belongs to the open adventure"), std::errc::text_file_busy);
 }
 
 QString proposedName(const Variables &variables)

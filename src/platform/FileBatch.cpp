@@ -2,6 +2,7 @@
 
 #include "platform/Errors.h"
 #include "platform/SafeFile.h"
+#include "platform/SameFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -27,7 +28,7 @@ FileBatch::~FileBatch()
 
 void FileBatch::add(const QString &path, QByteArrayView bytes)
 {
-    const QString target = resolvedTarget(path);
+    const QString target = finalPath(path);
     refuseUnreplaceable(target);
     m_targets.append(target); // first, so that half a file goes too
     writeForLater(partOf(target), bytes);
@@ -46,5 +47,5 @@ void FileBatch::commit()
         m_targets.removeFirst();
     }
     for (const QString &folder : std::as_const(folders))
-        syncFolder(folder);
+        trySyncFolder(folder);
 }

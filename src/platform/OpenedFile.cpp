@@ -1,56 +1,127 @@
 #include "platform/OpenedFile.h"
 
 #include "platform/Errors.h"
+#include "platform/SafeFile.h"
 
-#include <QFileInfo>
-#include <sys/stat.h>
+#include <QHashFunctions>
+#include <algorithm>
 
 namespace
 {
-[[noreturn]] void failRead(const QString &path, const QString &why)
+constexpr qint64 BlockSize = 64 * 1024;
+constexpr qint64 LargestFile = qint64{4} * 1024 * 1024 * 1024;
+
+// Unbuffered: every read is one whole piece, and a buffer would hide a change.
+constexpr QIODevice::OpenMode Mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
+
+using Operation = FileError::Operation;
+
+// The bytes are not those that were there.
+[[noreturn]] void failChanged(const QFile &file, const QString &how)
 {
-    throw FileError(FileError::Operation::Read, path, why);
+    throw FileError(Operation::Read, file.fileName(), how, std::errc::bad_message);
+}
+
+// The sums never leave the process, so that the fastest ones will do.
+size_t checksum(QByteArrayView bytes)
+{
+    return qHashBits(bytes.data(), static_cast<size_t>(bytes.size()), 0x55736d69);
+}
+
+// Of the file from where it stands to its end.
+QList<size_t> checksums(QFile &file)
+{
+    QByteArray block(BlockSize, Qt::Uninitialized);
+    QList<size_t> sums;
+    for (;;) {
+        const qint64 length = file.read(block.data(), block.size());
+        if (length < 0)
+            throw FileError(Operation::Read, file.fileName(), failureOf(file));
+        if (length == 0)
+            return sums;
+        sums.append(checksum(QByteArrayView(block).first(length)));
+    }
 }
 } // namespace
 
-OpenedFile::Identity OpenedFile::identityOf(const struct stat &status)
-{
-    return {status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec, status.st_ino,
-            status.st_dev};
-}
-
 OpenedFile::OpenedFile(const QString &path) : m_file(path)
 {
-    // Asked before opening, because opening a pipe would wait for its other end.
-    if (!QFileInfo(path).isFile())
-        failRead(path, QStringLiteral("no regular file"));
-    // Unbuffered: every read below is one whole piece, and a buffer would hide a change.
-    if (!m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        failRead(path, m_file.errorString());
-    struct stat status = {};
-    if (::fstat(m_file.handle(), &status) != 0)
-        failRead(path, QStringLiteral("no status"));
-    m_identity = identityOf(status);
+    openRegular(m_file, Mode);
+    // Before the bytes, so that a change while they are read shows later.
+    const std::optional<FileStamp> stamp = stampOf(m_file);
+    if (!stamp)
+        throw FileError(Operation::Read, path, QStringLiteral("no status"));
+    m_stamp = *stamp;
+    if (size() > LargestFile)
+        throw FileError(Operation::Read, path,
+                        QStringLiteral("longer than %1 bytes").arg(LargestFile),
+                        std::errc::file_too_large);
+    m_blocks = checksums(m_file);
+}
+
+bool OpenedFile::isUntouched() const
+{
+    return stampOf(m_file) == m_stamp;
 }
 
 QByteArray OpenedFile::read(qint64 offset, qint64 length)
 {
     if (offset < 0 || length < 0 || offset > size() || length > size() - offset)
-        failRead(m_file.fileName(), QStringLiteral("outside the file"));
-    struct stat status = {};
-    if (::fstat(m_file.handle(), &status) != 0 || identityOf(status) != m_identity)
-        failRead(m_file.fileName(), QStringLiteral("changed since it was opened"));
+        throw FileError(Operation::Read, m_file.fileName(), QStringLiteral("outside the file"));
+    return isUntouched() ? readAt(offset, length) : readVerified(offset, length);
+}
+
+// Reads the blocks whole that the bytes lie in. It is these bytes that are compared and given, so
+// that no change can come in between.
+QByteArray OpenedFile::readVerified(qint64 offset, qint64 length)
+{
+    const qint64 first = offset / BlockSize;
+    const qint64 start = first * BlockSize;
+    const qint64 end = std::min((offset + length + BlockSize - 1) / BlockSize * BlockSize, size());
+    const QByteArray blocks = readAt(start, end - start);
+    for (qint64 at = 0; at < blocks.size(); at += BlockSize) {
+        const QByteArrayView block =
+            QByteArrayView(blocks).sliced(at, std::min(BlockSize, blocks.size() - at));
+        if (checksum(block) != m_blocks.value(first + at / BlockSize))
+            failChanged(m_file, QStringLiteral("changed since it was opened"));
+    }
+    return blocks.mid(offset - start, length);
+}
+
+QByteArray OpenedFile::readAt(qint64 offset, qint64 length)
+{
     if (!m_file.seek(offset))
-        failRead(m_file.fileName(), m_file.errorString());
+        throw FileError(Operation::Read, m_file.fileName(), failureOf(m_file));
     QByteArray bytes = m_file.read(length);
     if (bytes.size() != length)
-        failRead(m_file.fileName(), QStringLiteral("shorter than it was"));
+        failChanged(m_file, QStringLiteral("shorter than it was"));
     return bytes;
 }
 
-bool OpenedFile::isStillAt(const QString &path) const
+bool OpenedFile::isStillAt(const QString &path)
 {
-    struct stat status = {};
-    return ::stat(QFile::encodeName(path).constData(), &status) == 0 &&
-           identityOf(status) == m_identity;
+    const std::optional<FileStamp> stamp = stampOf(path);
+    if (!stamp || stamp->size != size())
+        return false;
+    const bool sameFile = isOneFile(*stamp, m_stamp);
+    if (sameFile && *stamp == m_stamp)
+        return true;
+    try {
+        QFile file(path);
+        openRegular(file, Mode);
+        if (checksums(file) != m_blocks)
+            return false;
+    } catch (const FileError &) {
+        return false;
+    }
+    // Later reads need not compare again.
+    if (sameFile)
+        m_stamp = *stamp;
+    return true;
+}
+
+bool OpenedFile::isNamed(const QString &path) const
+{
+    const std::optional<FileStamp> stamp = stampOf(path);
+    return stamp && isOneFile(*stamp, m_stamp);
 }

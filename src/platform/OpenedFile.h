@@ -1,39 +1,42 @@
 #pragma once
 
+#include "platform/SystemFiles.h"
+
 #include <QByteArray>
 #include <QFile>
+#include <QList>
 #include <QString>
-#include <optional>
 
-// A regular file kept open for reading, with what it was when it was opened. Its bytes stay
-// readable when another file takes its name or its name goes away; when its own bytes change, every
-// read fails, so that another file's bytes are never taken for its own.
+// A regular file kept open for reading, with checksums of its bytes when it was opened. The bytes
+// stay readable when another file takes its name or its name goes away. Another file's bytes are
+// never taken for its own: once its stamp has changed, bytes are compared with the checksums. So a
+// file that was merely touched, or written again with the same bytes, is as good as before, and of
+// one that was written over, the parts that stayed are still read.
 class OpenedFile
 {
 public:
-    // Throws FileError (Read), also for anything but a regular file.
+    // Reads the file once, from its start to its end. Throws FileError (Read), also for anything
+    // but a regular file and above 4 GiB, twice what an adventure may have.
     explicit OpenedFile(const QString &path);
 
-    qint64 size() const { return m_identity.size; }
+    qint64 size() const { return m_stamp.size; }
 
     // length bytes from the 0-based offset. Throws FileError (Read) when they lie outside the file
-    // or the file has changed.
+    // or are no longer those that were there.
     QByteArray read(qint64 offset, qint64 length);
 
-    // True while path still names this very file, unchanged.
-    bool isStillAt(const QString &path) const;
+    // True while the file at path, this one or another, has the bytes that were opened.
+    bool isStillAt(const QString &path);
+
+    // True when path names this very file, whatever its bytes are by now.
+    bool isNamed(const QString &path) const;
 
 private:
-    struct Identity {
-        qint64 size = -1;
-        qint64 seconds = 0;
-        qint64 nanoseconds = 0;
-        quint64 inode = 0;
-        quint64 device = 0;
-        bool operator==(const Identity &) const = default;
-    };
-    static Identity identityOf(const struct stat &status);
+    bool isUntouched() const;
+    QByteArray readVerified(qint64 offset, qint64 length);
+    QByteArray readAt(qint64 offset, qint64 length);
 
     QFile m_file;
-    Identity m_identity;
+    FileStamp m_stamp;      // when the bytes last were known to be right
+    QList<size_t> m_blocks; // checksums of BlockSize bytes each, the last may be shorter
 };

@@ -1,24 +1,27 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QSaveFile>
 #include <QString>
+#include <system_error>
 
 // How much of a write must have reached the disk when the call returns.
 enum class Durability {
-    Full, // the bytes and the folder's entry
+    Full, // the bytes and, if the disk can do it, the folder's entry
     Data, // the bytes alone
 };
 
 // What a symbolic link of the target's name means.
 enum class Links {
-    Follow,  // the file that the link names is replaced, the link stays
+    Follow,  // the file that a chain of links ends in is replaced, the links stay
     Replace, // the link itself is replaced: in the working folder nothing leads elsewhere
 };
 
 // One file being written: with writeForLater() the only way in which the program writes files. The
 // target is replaced whole by commit() or left untouched. Every failure throws FileError (Write)
-// and leaves nothing behind. Only regular files are replaced.
+// and leaves nothing behind; once the new file is in its place nothing fails any more. Only regular
+// files are replaced.
 class SafeFile
 {
 public:
@@ -33,7 +36,7 @@ public:
     void commit();
 
 private:
-    [[noreturn]] void fail();
+    [[noreturn]] void fail(std::error_code why);
 
     QSaveFile m_file;
     Durability m_durability;
@@ -49,6 +52,10 @@ void writeForLater(const QString &path, QByteArrayView bytes);
 // Brings everything written to the file system of a folder onto the disk. Throws FileError (Write).
 void syncFileSystem(const QString &folder);
 
+// Opens a file for reading. Throws FileError (Read), also for anything but a regular file: opening
+// a pipe would wait for its other end.
+void openRegular(QFile &file, QIODevice::OpenMode mode);
+
 // The whole of a regular file. Throws FileError (Read) when it cannot be read, is no regular file
 // or is longer than limit bytes.
 QByteArray readWholeFile(const QString &path, qint64 limit);
@@ -56,24 +63,29 @@ QByteArray readWholeFile(const QString &path, qint64 limit);
 // Removes a file or a link. A file that is not there is no error. Throws FileError (Write).
 void removeFile(const QString &path);
 
+// The same for a file that counts no more, so that one that stays does no harm. False: it stays.
+bool tryRemoveFile(const QString &path);
+
 // Gives a file another name on the same file system; a file or link of that name goes. Throws
 // FileError (Write) and changes nothing.
 void renameFile(const QString &source, const QString &target);
 
 // Puts the complete file source in the place of target (links followed, permissions of the target
-// kept) and removes source: by rename on one file system, else by a safe copy. On failure throws
-// FileError (Write), and both files are as they were.
+// kept) and removes source: by rename on one file system, else by a safe copy, and then a source
+// that cannot be removed is left. On failure throws FileError (Write), and both files are as they
+// were.
 void moveIntoPlace(const QString &source, const QString &target);
 
 // A safe copy of a regular file; a file of the target's name is replaced. Throws FileError.
 void copyFile(const QString &source, const QString &target);
 
-// The file that a chain of links ends in, also when that file does not exist yet.
-QString resolvedTarget(const QString &path);
-
 // Throws FileError (Write) when something is there that is no regular file or cannot be written: a
 // rename would replace a read-only file all the same, and it is meant to stay.
 void refuseUnreplaceable(const QString &path);
 
-// Makes the entries of a folder durable. A system without such a call does nothing.
+// Makes the entries of a folder durable. A system without such a call does nothing. Throws
+// FileError (Write).
 void syncFolder(const QString &folder);
+
+// The same behind a file that is in its place already: that has succeeded, whatever the disk says.
+void trySyncFolder(const QString &folder);

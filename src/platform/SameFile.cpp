@@ -1,30 +1,53 @@
 #include "platform/SameFile.h"
 
-#include <QDir>
+#include "platform/Errors.h"
+
 #include <QFileInfo>
 #include <filesystem>
 
+namespace fs = std::filesystem;
+
+namespace
+{
+fs::path systemPath(const QString &path)
+{
+    return QFileInfo(path).filesystemFilePath();
+}
+
+[[noreturn]] void fail(const QString &path, std::error_code why)
+{
+    throw FileError(FileError::Operation::Write, path, why);
+}
+} // namespace
+
+// What Qt and the standard library offer either stop at a link that leads to no file, or know only
+// one link.
 QString finalPath(const QString &path)
 {
-    constexpr int mostLinks = 128; // links may lead in a circle
-    QFileInfo info(path);
-    for (int links = 0; info.isSymLink() && links < mostLinks; ++links)
-        info.setFile(info.symLinkTarget());
-    return QDir(info.absolutePath()).canonicalPath() + u'/' + info.fileName();
+    constexpr int MostLinks = 40; // as many as the system follows
+    std::error_code why;
+    fs::path place = systemPath(path);
+    for (int links = 0; fs::is_symlink(fs::symlink_status(place, why)); ++links) {
+        if (links == MostLinks)
+            fail(path, std::make_error_code(std::errc::too_many_symbolic_link_levels));
+        place = place.parent_path() / fs::read_symlink(place, why);
+    }
+    const fs::path folder = fs::weakly_canonical(fs::absolute(place).parent_path(), why);
+    if (why)
+        fail(path, why);
+    return QFileInfo(folder / place.filename()).filePath();
 }
 
 bool isSameFile(const QString &one, const QString &other)
 {
     std::error_code missing; // one of them does not exist: then no hard link joins them
     return finalPath(one) == finalPath(other) ||
-           std::filesystem::equivalent(QFileInfo(one).filesystemFilePath(),
-                                       QFileInfo(other).filesystemFilePath(), missing);
+           fs::equivalent(systemPath(one), systemPath(other), missing);
 }
 
 bool hasOtherNames(const QString &path)
 {
     std::error_code missing;
-    const auto names =
-        std::filesystem::hard_link_count(QFileInfo(path).filesystemFilePath(), missing);
+    const auto names = fs::hard_link_count(systemPath(path), missing);
     return !missing && names > 1;
 }

@@ -1,7 +1,11 @@
 #include "platform/Errors.h"
+#include "platform/FileBatch.h"
 #include "platform/OpenedFile.h"
 #include "platform/SafeFile.h"
+#include "platform/SameFile.h"
+#include "support/TestTable.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
@@ -12,6 +16,8 @@
 class tst_safeFile : public QObject
 {
     Q_OBJECT
+
+    static constexpr qint64 Size = 4 * 65536 - 100; // four blocks
 
     QTemporaryDir *m_folder = nullptr;
 
@@ -64,17 +70,58 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList("a"));
     }
 
-    void linksAreFollowedOrReplacedAsAsked()
+    void aLinkIsReplacedWhereItIsAsked()
     {
-        const QFileInfo link(path("link"));
-        QVERIFY(QFile::link(written("real", "old"), link.filePath()));
-        written("link", "new", Links::Follow);
-        QCOMPARE(content("real"), "new");
-        QVERIFY(link.isSymLink());
+        QVERIFY(QFile::link(written("real", "old"), path("link")));
         written("link", "own", Links::Replace);
-        QCOMPARE(content("real"), "new");
+        QCOMPARE(content("real"), "old");
         QCOMPARE(content("link"), "own");
         QVERIFY(!QFileInfo(path("link")).isSymLink());
+    }
+
+    // By every way of writing; all the links stay.
+    void chainsOfLinksAreFollowedToTheirEnd_data()
+    {
+        addTable<QStringList, QString>(
+            {"links", "end"}, {{"a link to a link", {"link>@/middle", "middle>@/real"}, "real"},
+                               {"relative", {"link>sub/middle", "sub/middle>../real"}, "real"},
+                               {"through a linked folder",
+                                {"far>sub/deep", "link>far/middle", "sub/deep/middle>../real"},
+                                "sub/real"},
+                               {"to no file yet", {"link>middle", "middle>new"}, "new"},
+                               {"in a circle", {"link>middle", "middle>link"}, QString()},
+                               {"to itself", {"link>link"}, QString()}});
+    }
+    void chainsOfLinksAreFollowedToTheirEnd()
+    {
+        QFETCH(QStringList, links);
+        QFETCH(QString, end);
+        QVERIFY(QDir(m_folder->path()).mkpath("sub/deep"));
+        written("real", "old");
+        written("sub/real", "old");
+        for (const QString &link : links)
+            QVERIFY(QFile::link(link.section(u'>', 1).replace(u'@', m_folder->path()),
+                                path(link.section(u'>', 0, 0))));
+        const QList<std::function<void(const QByteArray &)>> ways{
+            [&](const QByteArray &bytes) { written("link", bytes, Links::Follow); },
+            [&](const QByteArray &bytes) { moveIntoPlace(written("source", bytes), path("link")); },
+            [&](const QByteArray &bytes) {
+                FileBatch batch;
+                batch.add(path("link"), bytes);
+                batch.commit();
+            }};
+        for (qsizetype way = 0; way < ways.size(); ++way) {
+            const QByteArray bytes = QByteArray::number(way);
+            if (end.isEmpty()) {
+                QVERIFY_THROWS_EXCEPTION(FileError, ways.at(way)(bytes));
+            } else {
+                ways.at(way)(bytes);
+                QCOMPARE(content(end), bytes);
+                QVERIFY(isSameFile(path("link"), path(end)));
+            }
+        }
+        for (const QString &link : links)
+            QVERIFY(QFileInfo(path(link.section(u'>', 0, 0))).isSymLink());
     }
 
     void onlyRegularFilesAreReadOrReplaced()
@@ -101,24 +148,48 @@ private Q_SLOTS:
         QVERIFY(!(QFile::permissions(target) & QFile::ReadGroup));
     }
 
-    void openedFileKeepsItsBytesOrRefuses()
+    void openedFileKeepsItsBytesWhateverTakesItsName()
     {
         OpenedFile opened(written("a", "first"));
         QVERIFY(opened.isStillAt(path("a")));
         written("a", "other");
         QVERIFY(!opened.isStillAt(path("a")));
         QCOMPARE(opened.read(1, 3), "irs");
+        written("a", "first");
+        QVERIFY(opened.isStillAt(path("a")));
         QFile::remove(path("a"));
         QCOMPARE(opened.read(0, 5), "first");
         QVERIFY_THROWS_EXCEPTION(FileError, opened.read(3, 3));
         QVERIFY_THROWS_EXCEPTION(FileError, opened.read(-1, 1));
-        // Bytes that changed under it are not the ones that were opened.
-        OpenedFile touched(written("b", "first"));
-        QFile intruder(path("b"));
-        QVERIFY(intruder.open(QIODevice::Append));
-        intruder.write("!");
-        intruder.close();
-        QVERIFY_THROWS_EXCEPTION(FileError, touched.read(0, 5));
+    }
+
+    // Written over in its place: what was there is never mixed with what is there.
+    void openedFileComparesWhatIsUsed_data()
+    {
+        addTable<qint64, QByteArray, bool, bool>({"at", "bytes", "whole", "end"},
+                                                 {{"touched", 0, "x", true, true},
+                                                  {"its beginning", 0, "y", false, true},
+                                                  {"its end", Size - 1, "y", false, false},
+                                                  {"longer", Size, "y", false, true}});
+    }
+    void openedFileComparesWhatIsUsed()
+    {
+        QFETCH(qint64, at);
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, end);
+        OpenedFile opened(written("a", QByteArray(Size, 'x')));
+        QFile file(path("a"));
+        QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && file.seek(at));
+        QCOMPARE(file.write(bytes), 1);
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(1),
+                                 QFileDevice::FileModificationTime));
+        file.close();
+        QTEST(opened.isStillAt(path("a")), "whole");
+        if (end)
+            QCOMPARE(opened.read(Size - 2, 2), "xx");
+        else
+            QVERIFY_THROWS_EXCEPTION(FileError, opened.read(Size - 2, 2));
+        QCOMPARE(opened.read(2 * 65536 - 1, 2), "xx"); // from two blocks that nobody touched
     }
 };
 

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+#include <optional>
+#include <system_error>
+
+class QFile;
+class QFileDevice;
+
+// What only some systems offer for files. Every function here has two bodies: one for Linux, and
+// one of plain Qt and standard calls, which do what they can everywhere else (USMIRA_PORTABLE
+// builds those here too). Functions that give an error_code give an empty one on success.
+
+// What a file can be told by without reading it. Equal stamps of one file: nobody has written to
+// it meanwhile. Unequal ones say nothing: it may have been touched, or written again with the same
+// bytes. Times in nanoseconds since 1970; what a system does not know stays 0.
+struct FileStamp {
+    qint64 size = 0;
+    qint64 modified = 0;
+    qint64 changed = 0;
+    quint64 inode = 0;
+    quint64 device = 0;
+    bool operator==(const FileStamp &) const = default;
+};
+
+// Empty when there is no such file, or the system does not answer.
+std::optional<FileStamp> stampOf(const QString &path);
+std::optional<FileStamp> stampOf(const QFile &open);
+
+// True when two stamps are those of one file, whatever was written to it in between. False also
+// when the system cannot tell.
+bool isOneFile(const FileStamp &one, const FileStamp &other);
+
+// Why a call of file has failed; to be asked at once.
+std::error_code failureOf(const QFileDevice &file);
+
+// Writes a file that is not there yet, not necessarily onto the disk: see syncFileSystemOf().
+std::error_code writeNew(const QString &path, QByteArrayView bytes);
+
+// A file or link of the target's name goes. errc::cross_device_link when the two names lie on
+// different file systems.
+std::error_code renameOver(const QString &source, const QString &target);
+
+// Removes a file or a link; there must be one.
+std::error_code removeEntry(const QString &path);
+
+// Bring onto the disk: the bytes of an open file, the entries of a folder, and all that was written
+// by writeNew() to the file system on which a folder lies.
+std::error_code syncFile(const QFileDevice &file);
+std::error_code syncEntries(const QString &folder);
+std::error_code syncFileSystemOf(const QString &folder);

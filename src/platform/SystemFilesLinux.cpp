@@ -1,0 +1,134 @@
+#include "platform/SystemFiles.h"
+
+#include <QFile>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+std::error_code lastFailure()
+{
+    // A quota that is used up is a full disk to its owner, and the standard has no word for it.
+    return {errno == EDQUOT ? ENOSPC : errno, std::generic_category()};
+}
+
+std::error_code resultOf(int status)
+{
+    return status == 0 ? std::error_code() : lastFailure();
+}
+
+qint64 nanoseconds(const timespec &time)
+{
+    return time.tv_sec * qint64{1'000'000'000} + time.tv_nsec;
+}
+
+FileStamp stampFrom(const struct stat &status)
+{
+    return {status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim), status.st_ino,
+            status.st_dev};
+}
+
+// A file descriptor that is closed on every way out.
+class Descriptor
+{
+public:
+    Descriptor(const QString &path, int flags)
+        : m_number(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, 0666))
+    {
+    }
+    ~Descriptor()
+    {
+        if (isOpen())
+            ::close(m_number);
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+
+    bool isOpen() const { return m_number >= 0; }
+    int number() const { return m_number; }
+
+private:
+    int m_number;
+};
+} // namespace
+
+std::optional<FileStamp> stampOf(const QString &path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return std::nullopt;
+    return stampFrom(status);
+}
+
+std::optional<FileStamp> stampOf(const QFile &open)
+{
+    struct stat status = {};
+    if (::fstat(open.handle(), &status) != 0)
+        return std::nullopt;
+    return stampFrom(status);
+}
+
+bool isOneFile(const FileStamp &one, const FileStamp &other)
+{
+    return one.inode == other.inode && one.device == other.device;
+}
+
+// Qt tells few reasons apart, and leaves the system's own number as it found it.
+std::error_code failureOf(const QFileDevice & /*file*/)
+{
+    return lastFailure();
+}
+
+std::error_code writeNew(const QString &path, QByteArrayView bytes)
+{
+    const Descriptor file(path, O_WRONLY | O_CREAT | O_EXCL);
+    if (!file.isOpen())
+        return lastFailure();
+    while (!bytes.isEmpty()) {
+        const ssize_t written =
+            ::write(file.number(), bytes.data(), static_cast<std::size_t>(bytes.size()));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return lastFailure();
+        bytes = bytes.sliced(written);
+    }
+    return {};
+}
+
+std::error_code renameOver(const QString &source, const QString &target)
+{
+    return resultOf(
+        std::rename(QFile::encodeName(source).constData(), QFile::encodeName(target).constData()));
+}
+
+std::error_code removeEntry(const QString &path)
+{
+    return resultOf(::unlink(QFile::encodeName(path).constData()));
+}
+
+std::error_code syncFile(const QFileDevice &file)
+{
+    return resultOf(::fsync(file.handle()));
+}
+
+std::error_code syncEntries(const QString &folder)
+{
+    const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
+    if (!descriptor.isOpen())
+        return lastFailure();
+    const std::error_code failure = resultOf(::fsync(descriptor.number()));
+    // Some file systems know no sync of a folder.
+    const bool unknown =
+        failure == std::errc::invalid_argument || failure == std::errc::not_supported;
+    return unknown ? std::error_code() : failure;
+}
+
+std::error_code syncFileSystemOf(const QString &folder)
+{
+    const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
+    return descriptor.isOpen() ? resultOf(::syncfs(descriptor.number())) : lastFailure();
+}

@@ -1,0 +1,103 @@
+#include "platform/SystemFiles.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+fs::path systemPath(const QString &path)
+{
+    return QFileInfo(path).filesystemFilePath();
+}
+
+qint64 nanoseconds(const QDateTime &time)
+{
+    return time.toMSecsSinceEpoch() * 1'000'000;
+}
+} // namespace
+
+std::optional<FileStamp> stampOf(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return std::nullopt;
+    return FileStamp{info.size(), nanoseconds(info.lastModified()), 0, 0, 0};
+}
+
+std::optional<FileStamp> stampOf(const QFile &open)
+{
+    const QDateTime modified = open.fileTime(QFileDevice::FileModificationTime);
+    if (!modified.isValid())
+        return std::nullopt;
+    return FileStamp{open.size(), nanoseconds(modified), 0, 0, 0};
+}
+
+// Two files may well have the same length and time.
+bool isOneFile(const FileStamp & /*one*/, const FileStamp & /*other*/)
+{
+    return false;
+}
+
+// Qt tells few reasons apart: what is there now says more.
+std::error_code failureOf(const QFileDevice &file)
+{
+    const QFileInfo info(file.fileName());
+    if (!info.dir().exists() || (!info.exists() && file.openMode() == QIODevice::NotOpen))
+        return std::make_error_code(std::errc::no_such_file_or_directory);
+    if (file.error() == QFileDevice::PermissionsError)
+        return std::make_error_code(std::errc::permission_denied);
+    if (file.error() == QFileDevice::ResourceError)
+        return std::make_error_code(std::errc::no_space_on_device);
+    return {};
+}
+
+// QSaveFile brings its bytes onto the disk itself, so that nothing is left to do for the functions
+// that sync.
+std::error_code writeNew(const QString &path, QByteArrayView bytes)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), bytes.size()) == bytes.size() &&
+        file.commit())
+        return {};
+    const std::error_code failure = failureOf(file);
+    return failure ? failure : std::make_error_code(std::errc::io_error);
+}
+
+// Where a system does not let an open file be renamed or replaced (the adventure's file stays open
+// while it is edited, and so does the one that a save has read back), it must be closed before this
+// and opened again behind it: the save is the only caller that has them open.
+std::error_code renameOver(const QString &source, const QString &target)
+{
+    std::error_code failure;
+    fs::rename(systemPath(source), systemPath(target), failure);
+    return failure;
+}
+
+std::error_code removeEntry(const QString &path)
+{
+    std::error_code failure;
+    if (!fs::remove(systemPath(path), failure) && !failure)
+        return std::make_error_code(std::errc::no_such_file_or_directory);
+    return failure;
+}
+
+std::error_code syncFile(const QFileDevice & /*file*/)
+{
+    return {};
+}
+
+std::error_code syncEntries(const QString & /*folder*/)
+{
+    return {};
+}
+
+std::error_code syncFileSystemOf(const QString & /*folder*/)
+{
+    return {};
+}
