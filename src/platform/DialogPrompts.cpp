@@ -37,6 +37,12 @@ QPushButton *addButton(QMessageBox &box, Prompts::Answer answer)
         return box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
     }
 }
+
+void setFilter(QFileDialog &dialog, const QString &filter)
+{
+    if (!filter.isEmpty())
+        dialog.setNameFilters(dialogFilters(filter));
+}
 } // namespace
 
 DialogPrompts::DialogPrompts()
@@ -69,10 +75,14 @@ Prompts::Answer DialogPrompts::message(const QString &text, const QString &title
     return answers.last();
 }
 
-QString DialogPrompts::askForName(QFileDialog &dialog, const QString &filter)
+// A folder that is not there would be taken for the name of a file.
+QString DialogPrompts::startFolder() const
 {
-    if (!filter.isEmpty())
-        dialog.setNameFilters(dialogFilters(filter));
+    return QFileInfo(m_adventureFolder).isDir() ? m_adventureFolder : m_folder;
+}
+
+QString DialogPrompts::askForName(QFileDialog &dialog)
+{
     if (dialog.exec() != QDialog::Accepted)
         return {};
     m_folder = dialog.directory().path();
@@ -81,26 +91,47 @@ QString DialogPrompts::askForName(QFileDialog &dialog, const QString &filter)
 
 QString DialogPrompts::openName(const QString &title, const QString &filter)
 {
-    QFileDialog dialog(QApplication::activeWindow(), title, m_folder);
+    QFileDialog dialog(QApplication::activeWindow(), title, startFolder());
     dialog.setFileMode(QFileDialog::ExistingFile);
-    return askForName(dialog, filter);
+    setFilter(dialog, filter);
+    return askForName(dialog);
 }
 
+// The dialog's own question would concern the name as it was typed. So it is asked here, and after
+// "Non" the dialog comes again.
 QString DialogPrompts::saveName(const QString &title, const QString &filter,
                                 const QString &defaultExtension, const QString &proposed)
 {
-    QFileDialog dialog(QApplication::activeWindow(), title, m_folder);
+    QFileDialog dialog(QApplication::activeWindow(), title, startFolder());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setDefaultSuffix(defaultExtension);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    setFilter(dialog, filter);
     dialog.selectFile(proposed);
-    return askForName(dialog, filter);
+    for (;;) {
+        const QString typed = askForName(dialog);
+        if (typed.isEmpty())
+            return {};
+        const QString name = withExtension(typed, filter, defaultExtension);
+        if (mayReplace(name, title))
+            return name;
+        dialog.selectFile(name);
+    }
+}
+
+bool DialogPrompts::mayReplace(const QString &path, const QString &title)
+{
+    if (!QFileInfo::exists(path))
+        return true;
+    const QString question =
+        QCoreApplication::translate("DialogPrompts", "%1 existe déjà. Voulez-vous le remplacer ?");
+    return message(question.arg(QFileInfo(path).fileName()), title, Buttons::YesNo) == Answer::Yes;
 }
 
 QString DialogPrompts::folderName(const QString &title, const QString &start)
 {
     return QFileDialog::getExistingDirectory(QApplication::activeWindow(), title,
-                                             start.isEmpty() ? m_folder : start);
+                                             start.isEmpty() ? startFolder() : start);
 }
 
 void DialogPrompts::beep()
@@ -118,4 +149,18 @@ QStringList dialogFilters(const QString &filter)
         filters.append(label + QStringLiteral(" (") + patterns.replace(u';', u' ') + u')');
     }
     return filters;
+}
+
+QString withExtension(const QString &name, const QString &filter, const QString &defaultExtension)
+{
+    const QStringList parts = filter.split(u'|');
+    for (qsizetype i = 1; i < parts.size(); i += 2) {
+        const QStringList patterns = parts.at(i).split(u';');
+        for (const QString &pattern : patterns) {
+            const QString extension = pattern.mid(1); // without the asterisk
+            if (extension != QStringLiteral(".*") && name.endsWith(extension, Qt::CaseInsensitive))
+                return name;
+        }
+    }
+    return name + u'.' + defaultExtension;
 }

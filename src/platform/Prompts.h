@@ -17,10 +17,14 @@ public:
 
     virtual Answer message(const QString &text, const QString &title, Buttons buttons) = 0;
 
+    // From now on file dialogs begin in this folder: an adventure in it has been opened.
+    virtual void beginIn(const QString & /*folder*/) {}
+
     // All return an empty string when the author cancels. Filters look like
-    // "Fichiers Usmira (*.usm)|*.usm"; an empty one shows every file. saveName asks before an
-    // existing file is replaced and adds ".defaultExtension" to a name without an extension;
-    // proposed is the name that the author may just confirm.
+    // "Fichiers Usmira (*.usm)|*.usm"; an empty one shows every file. saveName
+    // adds ".defaultExtension" to a name without one of the filter's extensions, and asks before an
+    // existing file of the name so made is replaced; proposed is the name that the author may just
+    // confirm.
     virtual QString openName(const QString &title, const QString &filter) = 0;
     virtual QString saveName(const QString &title, const QString &filter,
                              const QString &defaultExtension, const QString &proposed) = 0;

@@ -84,6 +84,15 @@ private Q_SLOTS:
                  QStringList({"Page HTML (*.htm *.html)", "Tous (*.*)"}));
     }
 
+    void namesGetTheExtensionThatTheyLack()
+    {
+        const QString filter = "Page HTML (*.htm)|*.htm;*.html|Tous|*.*";
+        for (const char *name : {"Loup.htm", "Loup.HTML", "Tome 1.5.htm"})
+            QCOMPARE(withExtension(name, filter, "htm"), name);
+        for (const QString name : {"Livre 2.1", "Mr. Loup", "Loup", "Loup.usm", "htm"})
+            QCOMPARE(withExtension(name, filter, "htm"), name + ".htm");
+    }
+
     void messageBoxesAnswer_data()
     {
         using Buttons = Prompts::Buttons;
