@@ -38,7 +38,8 @@ void claim(const QString &path)
     if (!info.exists())
         writeWholeFile(path, "Nothing yet", Durability::Data, Links::Follow);
     else if (!info.isFile() || !info.isWritable())
-        throw FileError(FileError::Operation::Write, path, QStringLiteral("cannot be replaced"));
+        throw FileError(FileError::Operation::Write, path, QStringLiteral("cannot be replaced"),
+                        info.isFile() ? std::errc::permission_denied : std::errc::is_a_directory);
 }
 } // namespace
 
@@ -157,6 +158,7 @@ void AdventureCommands::nameAdventure(const QString &path)
     m_variables.AdventurePath = QFileInfo(path).absoluteFilePath();
     m_variables.AdventureFileName = QFileInfo(path).fileName();
     m_variables.FilePrefix = filePrefixOf(m_variables.AdventureFileName);
+    m_prompts.beginIn(QFileInfo(path).absolutePath());
     m_view.adventureReplaced();
 }
 
@@ -204,18 +206,23 @@ bool AdventureCommands::writeAndSwap()
     const LongWork work(m_view, QStringLiteral("Saving..."));
     const QString temporary =
         m_variables.WorkingFolder + QStringLiteral("Usmira Temporary Save File.xyz");
-    AdventureContents saved = writeAdventure(m_variables, temporary);
+    AdventureContents saved =
+        writing(temporary, [&] { return writeAdventure(m_variables, temporary); });
+    const QString words =
+        QStringLiteral("Fichier enregistré, incapable d'échanger avec l'original.");
     try {
         if (!mayReplace()) {
-            swapFailed();
+            swapFailed(words);
             return false;
         }
         moveIntoPlace(temporary, m_variables.AdventurePath);
-        saved.file = std::make_shared<OpenedFile>(m_variables.AdventurePath);
-    } catch (const FileError &) {
-        swapFailed();
+    } catch (const FileError &error) {
+        swapFailed(failureText(words, error));
         return false;
     }
+    // The adventure is saved: nothing below may fail. The file that was read back stays the one
+    // that is read; what it is asked here is answered once, instead of at each later read.
+    saved.file->isStillAt(m_variables.AdventurePath);
     m_variables.SectionOffset = saved.sectionOffset;
     m_variables.AdventureFile = saved.file;
     m_variables.CurrentFormat = true;
@@ -244,8 +251,7 @@ bool AdventureCommands::mayReplace()
     return true;
 }
 
-void AdventureCommands::swapFailed()
+void AdventureCommands::swapFailed(const QString &text)
 {
-    m_prompts.message(QStringLiteral("Fichier enregistré, incapable d'échanger avec l'original."),
-                      QStringLiteral("BUG"), Prompts::Buttons::Ok);
+    m_prompts.message(text, QStringLiteral("BUG"), Prompts::Buttons::Ok);
 }

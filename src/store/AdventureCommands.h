@@ -66,7 +66,7 @@ private:
     void rebuildIndex();
     bool writeAndSwap();
     bool mayReplace();
-    void swapFailed();
+    void swapFailed(const QString &text);
 
     Variables &m_variables;
     Prompts &m_prompts;

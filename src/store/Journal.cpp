@@ -180,7 +180,8 @@ void commitJournal(const QString &workingFolder, const Journal &journal)
 {
     const QString path = journalPath(workingFolder);
     try {
-        writeWholeFile(path, journalBytes(journal), Durability::Full, Links::Replace);
+        writeWholeFile(path, journalBytes(journal), Durability::Data, Links::Replace);
+        syncFolder(sessionFolder(workingFolder)); // must not fail unseen
     } catch (const FileError &) {
         // The journal may be in place already and only the last sync have failed. One that cannot
         // be taken back counts.

@@ -1,5 +1,6 @@
 #include "store/ParagraphStore.h"
 
+#include "platform/Errors.h"
 #include "platform/OpenedFile.h"
 #include "platform/SafeFile.h"
 #include "richtext/RichTextBox.h"
@@ -99,12 +100,16 @@ void SaveCurParg(Variables &variables, RichTextBox &box)
 
 void DiscardWorkingFiles(Variables &variables)
 {
-    finishLeftJournal(variables);
+    try {
+        finishLeftJournal(variables);
+    } catch (const FileError &) {
+        // It is tried again before the next working file is written.
+    }
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
         auto &extracted = variables.Extracted.at(n);
         if (extracted == 0)
             continue;
-        removeFile(workingFilePath(variables, n));
         extracted = 0;
+        tryRemoveFile(workingFilePath(variables, n));
     }
 }

@@ -31,5 +31,6 @@ QByteArray GetParagraphRtf(const Variables &variables, int n);
 // file cannot be written or removed: the caller must then stay on the paragraph.
 void SaveCurParg(Variables &variables, RichTextBox &box);
 
-// Removes the working files of the adventure. Throws FileError at the first that stays.
+// No text is in a working file any more, and the files are removed. One that cannot be removed is
+// harmless: it counts no more, and is replaced when its paragraph is saved again.
 void DiscardWorkingFiles(Variables &variables);
