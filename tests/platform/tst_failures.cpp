@@ -10,11 +10,12 @@ class tst_failures : public QObject
 {
     Q_OBJECT
 
+    const QString read = "Erreur de lecture de fichier.";
+    const QString write = "Erreur pendant l'écriture du fichier.";
+
 private Q_SLOTS:
     void failuresSayWhichFileAndWhy()
     {
-        const QString read = "Erreur de lecture de fichier.";
-        const QString write = "Erreur pendant l'écriture du fichier.";
         PromptRecorder prompts;
         const auto check = [&prompts](const auto &error, const QString &text) {
             prompts.expect(text, "BUG");
@@ -34,21 +35,20 @@ private Q_SLOTS:
         check(UnreadableTexts({2, 9}), read + " Paragraphes illisibles : 2, 9.");
     }
 
-    // A wrong form in what is being made is no failure to read, but one to read its sources is.
     void whatFailsWhileWritingIsAFailureToWrite()
     {
-        const auto operationOf = [](auto fail) {
-            try {
-                writing("/a.usm", fail);
-            } catch (const FileError &error) {
-                return error.operation();
-            }
-            return Operation::Read;
-        };
-        QCOMPARE(operationOf([] { throw FormatError(0, "a phrase"); }), Operation::Write);
-        QCOMPARE(operationOf([] { throw LimitError("bytes", 2); }), Operation::Write);
-        QCOMPARE(operationOf([] { throw FileError(Operation::Read, "/b", "gone"); }),
-                 Operation::Read);
+        PromptRecorder prompts;
+        for (const bool itself : {true, false}) {
+            prompts.expect(itself ? write + "\n/a.usm" : read + "\n/b.rtf", "BUG");
+            const bool done = reportingFailures(prompts, [&] {
+                return writing("/a.usm", [&]() -> bool {
+                    if (itself)
+                        throw FormatError(0, "a phrase");
+                    throw FileError(Operation::Read, "/b.rtf", "gone");
+                });
+            });
+            QVERIFY(!done);
+        }
     }
 };
 
