@@ -2,11 +2,13 @@
 
 #include "platform/Errors.h"
 #include "platform/SafeFile.h"
+#include "platform/SameFile.h"
+#include "platform/SystemFiles.h"
 
 #include <QFileInfo>
 
 ScratchFile::ScratchFile(const QString &target)
-    : m_file(QFileInfo(resolvedTarget(target)).absolutePath() + QStringLiteral("/XXXXXX"))
+    : m_file(QFileInfo(finalPath(target)).absolutePath() + QStringLiteral("/XXXXXX"))
 {
     if (!m_file.open())
         fail();
@@ -33,5 +35,5 @@ void ScratchFile::copyTo(SafeFile &file)
 
 void ScratchFile::fail()
 {
-    throw FileError(FileError::Operation::Write, m_file.fileTemplate(), m_file.errorString());
+    throw FileError(FileError::Operation::Write, m_file.fileTemplate(), failureOf(m_file));
 }
