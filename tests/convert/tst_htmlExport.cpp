@@ -24,6 +24,7 @@ struct Scene {
         const QString path = adventure.file("a.usm", builder.bytes());
         takeOver(v, readAdventure(std::make_shared<OpenedFile>(path)));
         v.AdventurePath = path;
+        v.AdventureFileName = QStringLiteral("Œil & <999>.usm");
         v.FilePrefix = QStringLiteral("a-");
     }
 
@@ -67,10 +68,11 @@ private Q_SLOTS:
         QFETCH(double, first);
         QFETCH(double, second);
         QFETCH(QString, body);
-        QVERIFY(scene.one(first, second, {"tête\nici", "[<999>|<999>]", "pied <999>"}, "a.htm"));
+        QVERIFY(scene.one(first, second, {"tête <AVENTURE>\nici", "[<999>|<999>]", "pied <999>"},
+                          "a.htm"));
         const QString html =
             QString::fromLatin1(scene.adventure.content("a.htm")).replace("\r\n<BR>", "<BR>");
-        QCOMPARE(html, "tête\r\nici\r\n" + body + "pied <999>\r\n");
+        QCOMPARE(html, "tête \u008cil &amp; &lt;999&gt;\r\nici\r\n" + body + "pied <999>\r\n");
     }
 
     void manyFiles()
@@ -78,11 +80,12 @@ private Q_SLOTS:
         Scene scene;
         QVERIFY(QDir().mkpath(scene.adventure.path("pages")));
         scene.adventure.file("pages/É-0030.htm", "old");
-        QVERIFY(scene.many({"<999>:", "unused", "(<999>)"}, "É-", "pages"));
+        QVERIFY(scene.many({"<AVENTURE> <999>:", "unused", "(<999>)"}, "É-", "pages"));
         const QDir folder(scene.adventure.path("pages"));
         QCOMPARE(folder.entryList(QDir::Files).join(u' '), "É-0002.htm É-0007.htm É-0030.htm");
         const QByteArray seven = scene.adventure.content("pages/É-0007.htm");
-        QVERIFY2(seven.startsWith("7:<P ALIGN=\"Left\">Va au <A HREF=\"\xc9-0030.htm\">30</A>"),
+        QVERIFY2(seven.startsWith("\x8cil &amp; &lt;999&gt; 7:<P ALIGN=\"Left\">Va au <A "
+                                  "HREF=\"\xc9-0030.htm\">30</A>"),
                  seven);
         QVERIFY(seven.endsWith("(<999>)\r\n"));
         QVERIFY(scene.adventure.content("pages/É-0030.htm").contains("Fin"));

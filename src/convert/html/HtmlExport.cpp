@@ -16,6 +16,11 @@ QString withNumber(QString code, int n)
     return code.replace(QStringLiteral("<999>"), QString::number(n));
 }
 
+QString withName(QString code, const Variables &variables)
+{
+    return code.replace(QStringLiteral("<AVENTURE>"), proposedName(variables).toHtmlEscaped());
+}
+
 // Codes as they go into a file.
 QByteArray codeBytes(QString code, HtmlCharset charset)
 {
@@ -40,7 +45,7 @@ int exportOneFile(const Variables &variables, const ExportRange &range, const Ht
                   SafeFile &file, const Progress &progress)
 {
     const HtmlCharset charset = declaredCharset(codes.header);
-    file.write(codeBytes(codes.header, charset) + "\r\n");
+    file.write(codeBytes(withName(codes.header, variables), charset) + "\r\n");
     const int written = forEachWritten(variables, range, progress, [&](int n) {
         const QByteArray html = htmlOf(variables, n, QStringLiteral("Irrelevant"), false);
         const QByteArray anchor = "<A NAME=\"P" + fourDigits(n).toLatin1() + "\"></A>";
@@ -56,12 +61,13 @@ int exportManyFiles(const Variables &variables, const ExportRange &range, const 
                     const QString &folder, const QString &prefix, const Progress &progress)
 {
     const HtmlCharset charset = declaredCharset(codes.header);
+    const QString head = withName(codes.header, variables);
     const QByteArray footer = codeBytes(codes.footer, charset) + "\r\n";
     FileBatch pages;
     const int written = forEachWritten(variables, range, progress, [&](int n) {
         const QString path = folder + u'/' + prefix + fourDigits(n) + QStringLiteral(".htm");
         refuseOwnFiles(variables, path);
-        const QByteArray header = codeBytes(withNumber(codes.header, n), charset);
+        const QByteArray header = codeBytes(withNumber(head, n), charset);
         pages.add(path, header + recodedHtml(htmlOf(variables, n, prefix, true), charset) + footer);
     });
     pages.commit();

@@ -16,7 +16,7 @@ class SafeFile;
 // old files stay as they were until all that replaces them is whole.
 
 struct HtmlCodes {
-    QString header;
+    QString header;  // "<AVENTURE>" stands for the adventure's name
     QString numbers; // one file: before each paragraph, "<999>" stands for its number
     QString footer;
 };
