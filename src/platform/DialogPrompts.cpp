@@ -162,5 +162,5 @@ QString withExtension(const QString &name, const QString &filter, const QString 
                 return name;
         }
     }
-    return name + u'.' + defaultExtension;
+    return defaultExtension.isEmpty() ? name : name + u'.' + defaultExtension;
 }

@@ -35,5 +35,5 @@ private:
 QStringList dialogFilters(const QString &filter);
 
 // The name with ".defaultExtension" behind it, unless it ends in one of the filter's extensions
-// already: a dot in a name begins no extension ("Mr. Loup").
+// already: a dot in a name begins no extension ("Mr. Loup"). Without a default extension the name.
 QString withExtension(const QString &name, const QString &filter, const QString &defaultExtension);

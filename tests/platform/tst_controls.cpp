@@ -89,6 +89,7 @@ private Q_SLOTS:
             QCOMPARE(withExtension(name, filter, "htm"), name);
         for (const QString name : {"Livre 2.1", "Mr. Loup", "Loup", "Loup.usm", "htm"})
             QCOMPARE(withExtension(name, filter, "htm"), name + ".htm");
+        QCOMPARE(withExtension("Loup", {}, {}), "Loup"); // a dialog for every kind of file
     }
 
     void messageBoxesAnswer_data()
