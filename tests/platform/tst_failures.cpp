@@ -10,8 +10,8 @@ class tst_failures : public QObject
 {
     Q_OBJECT
 
-    const QString read = "Erreur de lecture de fichier.";
-    const QString write = "Erreur pendant l'écriture du fichier.";
+    const QString read = "Erreur de lecture de fichier.\n";
+    const QString write = "Erreur pendant l'écriture du fichier.\n";
 
 private Q_SLOTS:
     void failuresSayWhichFileAndWhy()
@@ -22,33 +22,26 @@ private Q_SLOTS:
             reportFailure(prompts, error);
         };
         const QString path = "/home/moi/Le %1 Loup.usm";
-        const auto code = [](std::errc why) { return std::make_error_code(why); };
-        check(FileError(Operation::Write, path, code(std::errc::no_space_on_device)),
-              write + "\n/home/moi/Le %1 Loup.usm : le disque est plein.");
-        check(FileError(Operation::Write, path, code(std::errc::no_such_file_or_directory)),
-              write + "\n/home/moi/Le %1 Loup.usm : le dossier n'existe pas.");
-        check(FileError(Operation::Read, path, code(std::errc::no_such_file_or_directory)),
-              read + "\n/home/moi/Le %1 Loup.usm : le fichier est introuvable.");
-        check(FileError(Operation::Read, path, "no status"), read + "\n/home/moi/Le %1 Loup.usm");
-        check(FormatError(3, "a tag"), read);
-        check(LimitError("bytes of HTML", 64), write);
-        check(UnreadableTexts({2, 9}), read + " Paragraphes illisibles : 2, 9.");
+        const auto full = std::make_error_code(std::errc::no_space_on_device);
+        const auto missing = std::errc::no_such_file_or_directory;
+        check(FileError(Operation::Write, path, full), write + path + " : le disque est plein.");
+        check(FileError(Operation::Write, path, "", missing),
+              write + path + " : le dossier n'existe pas.");
+        check(FileError(Operation::Read, path, "", missing),
+              read + path + " : le fichier est introuvable.");
+        check(FileError(Operation::Read, path, "no status"), read + path);
+        check(FormatError(3, "a tag"), read.trimmed());
+        check(LimitError("bytes of HTML", 64), write.trimmed());
+        check(UnreadableTexts({2, 9}), read.trimmed() + " Paragraphes illisibles : 2, 9.");
     }
 
     void whatFailsWhileWritingIsAFailureToWrite()
     {
         PromptRecorder prompts;
-        for (const bool itself : {true, false}) {
-            prompts.expect(itself ? write + "\n/a.usm" : read + "\n/b.rtf", "BUG");
-            const bool done = reportingFailures(prompts, [&] {
-                return writing("/a.usm", [&]() -> bool {
-                    if (itself)
-                        throw FormatError(0, "a phrase");
-                    throw FileError(Operation::Read, "/b.rtf", "gone");
-                });
-            });
-            QVERIFY(!done);
-        }
+        prompts.expect(write + "/a.usm", "BUG");
+        QVERIFY(!reportingFailures(prompts, [] {
+            return writing("/a.usm", []() -> bool { throw FormatError(0, "a phrase"); });
+        }));
     }
 };
 
