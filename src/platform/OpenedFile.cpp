@@ -48,10 +48,8 @@ OpenedFile::OpenedFile(const QString &path) : m_file(path)
 {
     openRegular(m_file, Mode);
     // Before the bytes, so that a change while they are read shows later.
-    const std::optional<FileStamp> stamp = stampOf(m_file);
-    if (!stamp)
-        throw FileError(Operation::Read, path, QStringLiteral("no status"));
-    m_stamp = *stamp;
+    m_stamp = stampOf(m_file).value_or(FileStamp());
+    m_size = m_file.size();
     if (size() > LargestFile)
         throw FileError(Operation::Read, path,
                         QStringLiteral("longer than %1 bytes").arg(LargestFile),
@@ -120,8 +118,10 @@ bool OpenedFile::isStillAt(const QString &path)
     return true;
 }
 
-bool OpenedFile::isNamed(const QString &path) const
+bool OpenedFile::isNamed(const QString &path)
 {
     const std::optional<FileStamp> stamp = stampOf(path);
-    return stamp && isOneFile(*stamp, m_stamp);
+    if (stamp && m_stamp.inode != 0)
+        return isOneFile(*stamp, m_stamp);
+    return stamp && isStillAt(path);
 }

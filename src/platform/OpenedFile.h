@@ -19,7 +19,7 @@ public:
     // but a regular file and above 4 GiB, twice what an adventure may have.
     explicit OpenedFile(const QString &path);
 
-    qint64 size() const { return m_stamp.size; }
+    qint64 size() const { return m_size; }
 
     // length bytes from the 0-based offset. Throws FileError (Read) when they lie outside the file
     // or are no longer those that were there.
@@ -28,8 +28,9 @@ public:
     // True while the file at path, this one or another, has the bytes that were opened.
     bool isStillAt(const QString &path);
 
-    // True when path names this very file, whatever its bytes are by now.
-    bool isNamed(const QString &path) const;
+    // True when path names this very file, whatever its bytes are by now. On a system that
+    // cannot tell, one with the same bytes is taken for it.
+    bool isNamed(const QString &path);
 
 private:
     bool isUntouched() const;
@@ -37,6 +38,7 @@ private:
     QByteArray readAt(qint64 offset, qint64 length);
 
     QFile m_file;
+    qint64 m_size = 0;
     FileStamp m_stamp;      // when the bytes last were known to be right
     QList<size_t> m_blocks; // checksums of BlockSize bytes each, the last may be shorter
 };

@@ -24,7 +24,7 @@ struct FileStamp {
     bool operator==(const FileStamp &) const = default;
 };
 
-// Empty when there is no such file, or the system does not answer.
+// Empty when there is no such file, or the system does not tell: then only its bytes do.
 std::optional<FileStamp> stampOf(const QString &path);
 std::optional<FileStamp> stampOf(const QFile &open);
 

@@ -189,6 +189,8 @@ private Q_SLOTS:
     }
     void aFailedCallLeavesAllOrNothing()
     {
+        if (FaultyCalls::OutOfReach)
+            QSKIP("plain calls hide the faults");
         QFETCH(bool, forGood);
         int refused = 0;
         int done = 0;
@@ -213,6 +215,8 @@ private Q_SLOTS:
 
     void aKilledProcessLeavesAllOrNothing()
     {
+        if (FaultyCalls::OutOfReach)
+            QSKIP("plain calls hide the faults");
         int undone = 0;
         int completed = 0;
         for (int call = 1;; ++call) {

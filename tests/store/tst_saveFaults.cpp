@@ -24,6 +24,8 @@ private Q_SLOTS:
     }
     void aSaveSucceedsWhenTheFileIsInPlace()
     {
+        if (FaultyCalls::OutOfReach)
+            QSKIP("plain calls hide the faults");
         QFETCH(bool, forGood);
         int failed = 0;
         int done = 0;

@@ -20,6 +20,14 @@ void arm(const QString &prefix, Fault fault, int call);
 // Ends it and gives the number of calls seen.
 int disarm();
 
+// For QSKIP where the program makes only plain calls, which reach the system by other functions or
+// ignore what fails.
+#ifdef USMIRA_PORTABLE
+constexpr bool OutOfReach = true;
+#else
+constexpr bool OutOfReach = false;
+#endif
+
 // Exit status of a killed process.
 constexpr int Killed = 77;
 } // namespace FaultyCalls
