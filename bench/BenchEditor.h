@@ -29,5 +29,5 @@ struct BenchEditor {
     QTextStream errors{stderr};
     ScriptPrompts prompts{errors, std::nullopt};
     HeadlessView view{variables};
-    AdventureCommands commands{variables, prompts, view};
+    AdventureCommands commands{variables, prompts, view, view};
 };

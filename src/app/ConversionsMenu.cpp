@@ -10,9 +10,9 @@
 #include "ui_formUsmira.h"
 
 ConversionsMenu::ConversionsMenu(Variables &variables, Prompts &prompts, EditorView &view,
-                                 QWidget &window)
-    : m_variables(variables), m_prompts(prompts), m_view(view), m_window(window),
-      m_single(variables, prompts, view)
+                                 WorkReport &report, QWidget &window)
+    : m_variables(variables), m_prompts(prompts), m_view(view), m_report(report), m_window(window),
+      m_single(variables, prompts, view, report)
 {
 }
 
@@ -49,7 +49,7 @@ void ConversionsMenu::saveInPlace()
 template <typename Dialog, typename... State> void ConversionsMenu::publish(State &...state)
 {
     saveInPlace();
-    Dialog(m_variables, m_prompts, m_view, state..., &m_window).exec();
+    Dialog(m_variables, m_prompts, m_report, state..., &m_window).exec();
 }
 
 void ConversionsMenu::menuConvSave1_Click()

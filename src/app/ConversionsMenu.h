@@ -7,6 +7,7 @@
 class EditorView;
 class MenuStates;
 class QWidget;
+class WorkReport;
 class RtfBox;
 
 namespace Ui
@@ -21,7 +22,8 @@ class ConversionsMenu
 {
 public:
     // window is the one that the dialogs stand on.
-    ConversionsMenu(Variables &variables, Prompts &prompts, EditorView &view, QWidget &window);
+    ConversionsMenu(Variables &variables, Prompts &prompts, EditorView &view, WorkReport &report,
+                    QWidget &window);
 
     void connectItems(const Ui::formUsmira &ui, MenuStates &states);
 
@@ -34,6 +36,7 @@ private:
     const Variables &m_variables;
     Prompts &m_prompts;
     EditorView &m_view;
+    WorkReport &m_report;
     QWidget &m_window;
     SingleParagraph m_single;
     QString m_lastFolder; // where pages went last, while the program runs

@@ -11,9 +11,9 @@
 #include "ui_formUsmira.h"
 
 FunctionsMenu::FunctionsMenu(Variables &variables, Prompts &prompts, EditorView &view,
-                             QWidget &window)
+                             WorkReport &report, QWidget &window)
     : m_variables(variables), m_prompts(prompts), m_view(view), m_window(window),
-      m_commands(variables, prompts, view)
+      m_commands(variables, prompts, report)
 {
 }
 

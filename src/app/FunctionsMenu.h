@@ -5,6 +5,7 @@
 class EditorView;
 class MenuStates;
 class QWidget;
+class WorkReport;
 
 namespace Ui
 {
@@ -17,7 +18,8 @@ class FunctionsMenu
 {
 public:
     // window is the one that the dialogs stand on.
-    FunctionsMenu(Variables &variables, Prompts &prompts, EditorView &view, QWidget &window);
+    FunctionsMenu(Variables &variables, Prompts &prompts, EditorView &view, WorkReport &report,
+                  QWidget &window);
 
     void connectItems(const Ui::formUsmira &ui, MenuStates &states);
 

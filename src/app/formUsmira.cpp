@@ -2,12 +2,10 @@
 
 #include "app/EditMenu.h"
 #include "app/WindowPlacement.h"
-#include "app/WorkDisplay.h"
 #include "editor/BoxKeys.h"
 #include "editor/FirstWords.h"
 #include "editor/PadNumber.h"
 #include "editor/ParagraphSearch.h"
-#include "editor/StatusLine.h"
 #include "platform/Guarded.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
@@ -26,20 +24,26 @@ QString settingsPath(const Variables &variables)
 {
     return variables.WorkingFolder + QStringLiteral("Usmira Settings.xyz");
 }
+
+// What stands on the form takes parts of it, so that it must be there first.
+std::unique_ptr<Ui::formUsmira> setUp(formUsmira &window)
+{
+    auto ui = std::make_unique<Ui::formUsmira>();
+    ui->setupUi(&window);
+    return ui;
+}
 } // namespace
 
 formUsmira::formUsmira(Variables &variables, Prompts &prompts)
-    : m_variables(variables), m_prompts(prompts), m_ui(std::make_unique<Ui::formUsmira>()),
-      m_adventure(variables, prompts, *this), m_navigation(variables, prompts, *this),
-      m_functions(variables, prompts, *this, *this),
-      m_conversions(variables, prompts, *this, *this), m_info(variables, prompts, *this),
-      m_menuStates(variables)
+    : m_variables(variables), m_prompts(prompts), m_ui(setUp(*this)),
+      m_work(*m_ui->labBehind, *m_ui->barWork, *m_ui->rtfBox, *m_ui->statusBar),
+      m_adventure(variables, prompts, *this, m_work), m_navigation(variables, prompts, *this),
+      m_functions(variables, prompts, *this, m_work, *this),
+      m_conversions(variables, prompts, *this, m_work, *this), m_info(variables, prompts, *this),
+      m_menuStates(variables), m_visited(*m_ui->theList),
+      m_status(variables, *m_ui->rtfBox, *m_ui->statusBar)
 {
-    m_ui->setupUi(this);
     resize(DesignSize);
-    m_visited = std::make_unique<VisitedList>(*m_ui->theList);
-    m_status = std::make_unique<StatusLine>(m_variables, *m_ui->rtfBox, *m_ui->statusBar);
-    m_work = std::make_unique<WorkDisplay>(*m_ui->labBehind, *m_ui->barWork, *m_ui->rtfBox);
     connectAdventure();
     connectNavigation();
     connectNumberBox();
@@ -54,7 +58,7 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
 // that they lose the focus.
 formUsmira::~formUsmira()
 {
-    m_working = true; // nothing is saved on this way
+    m_closed = true;
     hide();
 }
 
@@ -70,7 +74,7 @@ void formUsmira::connectAdventure()
     connectBoth(m_ui->menuAvOpen, m_ui->btnOpen, [this] { m_adventure.Open(); });
     connectBoth(m_ui->menuAvSave, m_ui->btnSave, [this] {
         m_adventure.Save();
-        m_status->refresh();
+        m_status.refresh();
     });
     connect(m_ui->menuAvQuit, &QAction::triggered, this, &QWidget::close);
 }
@@ -173,6 +177,11 @@ void formUsmira::openCommandLine(const QString &path)
         m_adventure.OpenAdventure(path);
 }
 
+WorkReport &formUsmira::work()
+{
+    return m_work;
+}
+
 RichTextBox &formUsmira::editingBox()
 {
     return *m_ui->rtfBox;
@@ -182,7 +191,7 @@ void formUsmira::LoadParg(int n)
 {
     setText(GetParagraphRtf(m_variables, n));
     m_variables.CurrentParagraph = static_cast<qint16>(n);
-    m_visited->visit(n);
+    m_visited.visit(n);
     showCurrent(m_variables.AdventureOpen);
 }
 
@@ -208,43 +217,20 @@ void formUsmira::showCurrent(bool editable)
     m_ui->btnUnmixable->setChecked(m_variables.Unmixable.at(n) == 1);
     refreshFormatting();
     fillIncomingList(n);
-    m_status->refresh();
+    m_status.refresh();
 }
 
 void formUsmira::SaveCurParg()
 {
     ::SaveCurParg(m_variables, *m_ui->rtfBox);
-    m_status->refresh();
+    m_status.refresh();
 }
 
 void formUsmira::adventureReplaced()
 {
     setWindowTitle(QStringLiteral("Usmira - ") + m_variables.AdventureFileName);
-    m_visited->clear();
+    m_visited.clear();
     showAdventureOpen();
-}
-
-void formUsmira::longWorkBegins(const QString &caption)
-{
-    m_working = true;
-    m_work->begin(caption);
-}
-
-void formUsmira::longWorkProgress(int done, int total)
-{
-    m_work->progress(done, total);
-}
-
-void formUsmira::longWorkEnds()
-{
-    m_work->end();
-    m_working = false;
-}
-
-void formUsmira::announce(const QString &text)
-{
-    constexpr int Shown = 15000; // milliseconds
-    m_ui->statusBar->showMessage(text, Shown);
 }
 
 void formUsmira::focusEditor()
@@ -263,7 +249,8 @@ bool formUsmira::event(QEvent *event)
 void formUsmira::Form_Deactivate()
 {
     const bool ownBox = QApplication::activeModalWidget() != nullptr;
-    if (!m_variables.AdventureOpen || !m_variables.ParagraphDirty || m_working || ownBox)
+    if (!m_variables.AdventureOpen || !m_variables.ParagraphDirty || m_work.isUnderWay() ||
+        m_closed || ownBox)
         return;
     RtfBox *box = m_ui->rtfBox;
     const QTextCursor caret = box->textCursor();
@@ -285,7 +272,7 @@ void formUsmira::closeEvent(QCloseEvent *event)
     } catch (const FileError &) {
         // The next start has the settings of before.
     }
-    m_status->refresh();
+    m_status.refresh();
     if (leaves)
         m_info.closeHelp();
     event->setAccepted(leaves);
@@ -305,7 +292,7 @@ void formUsmira::showAdventureOpen()
     m_ui->txtPargNum->setFiltering(open);
     m_menuStates.refresh();
     showNumber();
-    m_status->refresh();
+    m_status.refresh();
 }
 
 void formUsmira::setTextEditable(bool on)
@@ -351,7 +338,7 @@ void formUsmira::rtfBox_Change()
         return;
     m_variables.ParagraphDirty = true;
     refreshFormatting();
-    m_status->refresh();
+    m_status.refresh();
 }
 
 void formUsmira::theList_Click()
@@ -371,9 +358,9 @@ void formUsmira::incomingList_Click()
 
 void formUsmira::btnVider_Click()
 {
-    m_visited->clear();
+    m_visited.clear();
     if (m_variables.AdventureOpen)
-        m_visited->visit(m_variables.CurrentParagraph);
+        m_visited.visit(m_variables.CurrentParagraph);
     focusEditor();
 }
 

@@ -3,9 +3,11 @@
 #include "app/ConversionsMenu.h"
 #include "app/FunctionsMenu.h"
 #include "app/InfoMenu.h"
+#include "app/WorkDisplay.h"
 #include "editor/EditorView.h"
 #include "editor/MenuStates.h"
 #include "editor/Navigation.h"
+#include "editor/StatusLine.h"
 #include "editor/VisitedList.h"
 #include "store/AdventureCommands.h"
 
@@ -15,8 +17,6 @@
 
 class QAction;
 class QToolButton;
-class StatusLine;
-class WorkDisplay;
 
 namespace Ui
 {
@@ -40,15 +40,14 @@ public:
     // The command line as it stands is the path of an adventure; an empty one opens none.
     void openCommandLine(const QString &path);
 
+    // Shows in this window how work goes.
+    WorkReport &work();
+
     RichTextBox &editingBox() override;
     void LoadParg(int n) override;
     void SaveCurParg() override;
     void rtfBox_Change() override;
     void adventureReplaced() override;
-    void longWorkBegins(const QString &caption) override;
-    void longWorkProgress(int done, int total) override;
-    void longWorkEnds() override;
-    void announce(const QString &text) override;
     void showNothing() override;
     void focusEditor() override;
 
@@ -86,15 +85,15 @@ private:
     Variables &m_variables;
     Prompts &m_prompts;
     std::unique_ptr<Ui::formUsmira> m_ui;
+    WorkDisplay m_work;
     AdventureCommands m_adventure;
     Navigation m_navigation;
     FunctionsMenu m_functions;
     ConversionsMenu m_conversions;
     InfoMenu m_info;
     MenuStates m_menuStates;
-    std::unique_ptr<VisitedList> m_visited;
-    std::unique_ptr<StatusLine> m_status;
-    std::unique_ptr<WorkDisplay> m_work;
+    VisitedList m_visited;
+    StatusLine m_status;
     bool m_loading = false; // the program, not the author, is changing the box
-    bool m_working = false; // long work is under way
+    bool m_closed = false;  // the window is going, and saves nothing any more
 };

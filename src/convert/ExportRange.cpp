@@ -1,9 +1,10 @@
 #include "convert/ExportRange.h"
 
-#include "store/AdventureCommands.h"
 #include "store/LenientNumbers.h"
+#include "store/LongWork.h"
 #include "store/Variables.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 ExportRange exportRange(double first, double second)
@@ -27,9 +28,20 @@ int forEachWritten(const Variables &variables, const ExportRange &range, const P
     return written;
 }
 
-void announceExport(AdventureView &view, int written, const QString &place)
+bool stoppable(WorkReport &report, const std::function<bool()> &write)
 {
-    view.announce(written == 1
-                      ? QStringLiteral("1 paragraphe écrit : %1").arg(place)
-                      : QStringLiteral("%1 paragraphes écrits : %2").arg(written).arg(place));
+    try {
+        return write();
+    } catch (const WorkStopped &) {
+        report.announce(QCoreApplication::translate(
+            "ExportRange", "Conversion arrêtée : aucun fichier n'a été écrit."));
+        return false;
+    }
+}
+
+void announceExport(WorkReport &report, int written, const QString &place)
+{
+    report.announce(written == 1
+                        ? QStringLiteral("1 paragraphe écrit : %1").arg(place)
+                        : QStringLiteral("%1 paragraphes écrits : %2").arg(written).arg(place));
 }

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-class AdventureView;
+class WorkReport;
 class QString;
 struct Variables;
 
@@ -23,5 +23,9 @@ ExportRange exportRange(double first, double second);
 int forEachWritten(const Variables &variables, const ExportRange &range, const Progress &progress,
                    const std::function<void(int)> &action);
 
+// Runs an export that the author may stop, which returns whether it succeeded. Stopped it has
+// written nothing, and the author is told so.
+bool stoppable(WorkReport &report, const std::function<bool()> &write);
+
 // Tells in passing how many paragraphs went where.
-void announceExport(AdventureView &view, int written, const QString &place);
+void announceExport(WorkReport &report, int written, const QString &place);

@@ -2,39 +2,24 @@
 
 #include "widgets/WorkBar.h"
 
-WorkInDialog::WorkInDialog(AdventureView &window, WorkBar &bar) : m_window(window), m_bar(bar) {}
-
-RichTextBox &WorkInDialog::editingBox()
-{
-    return m_window.editingBox();
-}
-
-void WorkInDialog::LoadParg(int n)
-{
-    m_window.LoadParg(n);
-}
-
-void WorkInDialog::adventureReplaced()
-{
-    m_window.adventureReplaced();
-}
+WorkInDialog::WorkInDialog(WorkReport &window, WorkBar &bar) : m_window(window), m_bar(bar) {}
 
 // The dialog's bar comes first: the window paints all windows.
-void WorkInDialog::longWorkBegins(const QString &caption)
+void WorkInDialog::begin(const QString &caption, Stopping stopping)
 {
-    m_bar.begin();
-    m_window.longWorkBegins(caption);
+    m_bar.begin(stopping == Stopping::OnEscape);
+    m_window.begin(caption, stopping);
 }
 
-void WorkInDialog::longWorkProgress(int done, int total)
+bool WorkInDialog::progress(int done, int total)
 {
     m_bar.progress(done, total);
-    m_window.longWorkProgress(done, total);
+    return m_window.progress(done, total);
 }
 
-void WorkInDialog::longWorkEnds()
+void WorkInDialog::end()
 {
-    m_window.longWorkEnds();
+    m_window.end();
     m_bar.hide();
 }
 

@@ -1,25 +1,22 @@
 #pragma once
 
-#include "store/AdventureCommands.h"
+#include "store/WorkReport.h"
 
 class WorkBar;
 
-// The window's view for the work of a dialog in front of it, which covers what the window shows of
-// long work: the bar of the dialog shows it as well.
-class WorkInDialog : public AdventureView
+// Reports the work of a dialog that covers what the window behind it shows of long work: the bar
+// of the dialog shows it as well.
+class WorkInDialog : public WorkReport
 {
 public:
-    WorkInDialog(AdventureView &window, WorkBar &bar);
+    WorkInDialog(WorkReport &window, WorkBar &bar);
 
-    RichTextBox &editingBox() override;
-    void LoadParg(int n) override;
-    void adventureReplaced() override;
-    void longWorkBegins(const QString &caption) override;
-    void longWorkProgress(int done, int total) override;
-    void longWorkEnds() override;
+    void begin(const QString &caption, Stopping stopping) override;
+    bool progress(int done, int total) override;
+    void end() override;
     void announce(const QString &text) override;
 
 private:
-    AdventureView &m_window;
+    WorkReport &m_window;
     WorkBar &m_bar;
 };

@@ -92,7 +92,7 @@ const std::vector<Commands::Entry> &Commands::entries()
 
 Commands::Commands(Variables &variables, Prompts &prompts)
     : m_variables(variables), m_prompts(prompts), m_view(variables),
-      m_adventure(variables, prompts, m_view), m_renumber(variables, prompts, m_view)
+      m_adventure(variables, prompts, m_view, m_view), m_renumber(variables, prompts, m_view)
 {
 }
 

@@ -2,9 +2,11 @@
 
 #include "richtext/HiddenBox.h"
 #include "store/AdventureCommands.h"
+#include "store/WorkReport.h"
 
-// Shows the adventure to nobody: the current paragraph stands in a box without a screen.
-class HeadlessView : public AdventureView
+// Shows the adventure and the work on it to nobody: the current paragraph stands in a box without a
+// screen.
+class HeadlessView : public AdventureView, public WorkReport
 {
 public:
     explicit HeadlessView(Variables &variables) : m_variables(variables) {}
@@ -12,9 +14,9 @@ public:
     RichTextBox &editingBox() override { return m_box; }
     void LoadParg(int n) override;
     void adventureReplaced() override {}
-    void longWorkBegins(const QString & /*caption*/) override {}
-    void longWorkProgress(int /*done*/, int /*total*/) override {}
-    void longWorkEnds() override {}
+    void begin(const QString & /*caption*/, Stopping /*stopping*/) override {}
+    bool progress(int /*done*/, int /*total*/) override { return false; }
+    void end() override {}
     void announce(const QString & /*text*/) override {}
 
 private:

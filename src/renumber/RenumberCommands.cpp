@@ -33,8 +33,8 @@ QString withLastNumber(const QString &text)
 }
 } // namespace
 
-RenumberCommands::RenumberCommands(Variables &variables, Prompts &prompts, AdventureView &view)
-    : m_variables(variables), m_prompts(prompts), m_view(view)
+RenumberCommands::RenumberCommands(Variables &variables, Prompts &prompts, WorkReport &report)
+    : m_variables(variables), m_prompts(prompts), m_report(report)
 {
 }
 
@@ -117,9 +117,8 @@ bool RenumberCommands::renumber(const RenumberMap &map, int low, int high)
     m_variables.LowestWritten = std::min(m_variables.LowestWritten, static_cast<qint16>(low));
     m_variables.HighestWritten = std::max(m_variables.HighestWritten, static_cast<qint16>(high));
     const bool done = reportingFailures(m_prompts, [&] {
-        LongWork work(m_view, QStringLiteral("Renumérotation..."));
-        RenumberParagraphs(m_variables, map,
-                           [&work](int part, int total) { work.progress(part, total); });
+        LongWork work(m_report, QStringLiteral("Renumérotation..."));
+        RenumberParagraphs(m_variables, map, work.progress());
         return true;
     });
     if (!done) {

@@ -2,10 +2,11 @@
 
 #include "platform/Prompts.h"
 #include "renumber/MapBuilders.h"
-#include "store/AdventureCommands.h"
 #include "store/Variables.h"
 
 #include <functional>
+
+class WorkReport;
 
 // The commands that give paragraphs other numbers, behind their dialogs: each checks its numbers as
 // they were typed, builds a map and renumbers. They return whether they are done, so that the
@@ -17,7 +18,7 @@
 class RenumberCommands
 {
 public:
-    RenumberCommands(Variables &variables, Prompts &prompts, AdventureView &view);
+    RenumberCommands(Variables &variables, Prompts &prompts, WorkReport &report);
 
     // Exchanges two numbers. A fraction is rounded only once it is known to be within 1..2000.
     bool Swap(double a, double b);
@@ -48,5 +49,5 @@ private:
 
     Variables &m_variables;
     Prompts &m_prompts;
-    AdventureView &m_view;
+    WorkReport &m_report;
 };

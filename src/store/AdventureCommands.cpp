@@ -9,6 +9,7 @@
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace
@@ -43,8 +44,9 @@ void claim(const QString &path)
 }
 } // namespace
 
-AdventureCommands::AdventureCommands(Variables &variables, Prompts &prompts, AdventureView &view)
-    : m_variables(variables), m_prompts(prompts), m_view(view)
+AdventureCommands::AdventureCommands(Variables &variables, Prompts &prompts, AdventureView &view,
+                                     WorkReport &report)
+    : m_variables(variables), m_prompts(prompts), m_view(view), m_report(report)
 {
 }
 
@@ -95,7 +97,7 @@ void AdventureCommands::discardChanges()
         return;
     takeOver(m_variables, std::move(saved));
     if (!m_variables.CurrentFormat)
-        RebuildReferenceIndex(m_variables);
+        RebuildReferenceIndex(m_variables, [](int, int) {});
 }
 
 // After a command that left the adventure but opened no other.
@@ -144,10 +146,18 @@ bool AdventureCommands::NewAdventure(const QString &path)
 bool AdventureCommands::OpenAdventure(const QString &path)
 {
     return reportingFailures(m_prompts, [&] {
-        takeOver(m_variables, readAdventure(std::make_shared<OpenedFile>(path)));
+        Variables opened = m_variables;
+        takeOver(opened, readAdventure(std::make_shared<OpenedFile>(path)));
+        try {
+            if (!opened.CurrentFormat)
+                rebuildIndex(opened);
+        } catch (const WorkStopped &) {
+            m_report.announce(
+                QCoreApplication::translate("AdventureCommands", "Ouverture arrêtée."));
+            return false;
+        }
+        m_variables = std::move(opened);
         nameAdventure(path);
-        if (!m_variables.CurrentFormat)
-            rebuildIndex();
         showCurrentParagraph();
         return true;
     });
@@ -162,10 +172,10 @@ void AdventureCommands::nameAdventure(const QString &path)
     m_view.adventureReplaced();
 }
 
-void AdventureCommands::rebuildIndex()
+void AdventureCommands::rebuildIndex(Variables &opened)
 {
-    const LongWork work(m_view, QStringLiteral("Graphing..."));
-    RebuildReferenceIndex(m_variables);
+    LongWork work(m_report, QStringLiteral("Graphing..."), WorkReport::Stopping::OnEscape);
+    RebuildReferenceIndex(opened, work.progress());
 }
 
 // A damaged current paragraph is reported, and the next number that can be shown stands in for it:
@@ -203,7 +213,7 @@ bool AdventureCommands::Save()
 // after a failure the next attempt finds all it needs.
 bool AdventureCommands::writeAndSwap()
 {
-    const LongWork work(m_view, QStringLiteral("Saving..."));
+    const LongWork work(m_report, QStringLiteral("Saving..."));
     const QString temporary =
         m_variables.WorkingFolder + QStringLiteral("Usmira Temporary Save File.xyz");
     AdventureContents saved =

@@ -4,6 +4,7 @@
 #include "store/Variables.h"
 
 class RichTextBox;
+class WorkReport;
 
 // What the commands ask of whoever shows the adventure: the main window, or a script without one.
 class AdventureView
@@ -22,14 +23,6 @@ public:
 
     // Another adventure has become the open one: title and lists start afresh.
     virtual void adventureReplaced() = 0;
-
-    // Around long work: the caption stands in the place of the editing box meanwhile.
-    virtual void longWorkBegins(const QString &caption) = 0;
-    virtual void longWorkProgress(int done, int total) = 0;
-    virtual void longWorkEnds() = 0;
-
-    // Tells in passing how a command ended, with nothing to click away.
-    virtual void announce(const QString &text) = 0;
 };
 
 // New, Open and Save, with the question about unsaved changes. Failures are told to the author in
@@ -37,7 +30,8 @@ public:
 class AdventureCommands
 {
 public:
-    AdventureCommands(Variables &variables, Prompts &prompts, AdventureView &view);
+    AdventureCommands(Variables &variables, Prompts &prompts, AdventureView &view,
+                      WorkReport &report);
 
     Prompts::Answer AskToSave();
 
@@ -52,7 +46,8 @@ public:
     // Creates the adventure at path, replacing what is there only once the new file is whole.
     bool NewAdventure(const QString &path);
 
-    // Opens the file at path. On failure the adventure open before stays as it was.
+    // Opens the file at path. On failure, or when the author stops it, the adventure open before
+    // stays as it was.
     bool OpenAdventure(const QString &path);
 
     // Writes the adventure if anything is unsaved. False when it still is afterwards.
@@ -63,7 +58,7 @@ private:
     void showAgain();
     void nameAdventure(const QString &path);
     void showCurrentParagraph();
-    void rebuildIndex();
+    void rebuildIndex(Variables &opened);
     bool writeAndSwap();
     bool mayReplace();
     void swapFailed(const QString &text);
@@ -71,4 +66,5 @@ private:
     Variables &m_variables;
     Prompts &m_prompts;
     AdventureView &m_view;
+    WorkReport &m_report;
 };

@@ -1,20 +1,40 @@
 #pragma once
 
-#include "store/AdventureCommands.h"
+#include "platform/Progress.h"
+#include "store/WorkReport.h"
 
-// Shows a caption in the place of the editing box while it lives.
+#include <exception>
+
+// The author wants no more of the work under way. Whoever began it tells so.
+class WorkStopped : public std::exception
+{
+public:
+    const char *what() const noexcept override { return "stopped by the author"; }
+};
+
+// Work that is reported while this lives.
 class LongWork
 {
 public:
-    LongWork(AdventureView &view, const QString &caption) : m_view(view)
+    LongWork(WorkReport &report, const QString &caption,
+             WorkReport::Stopping stopping = WorkReport::Stopping::Never)
+        : m_report(report)
     {
-        m_view.longWorkBegins(caption);
+        m_report.begin(caption, stopping);
     }
-    ~LongWork() { m_view.longWorkEnds(); }
-    void progress(int done, int total) { m_view.longWorkProgress(done, total); }
+    ~LongWork() { m_report.end(); }
     LongWork(const LongWork &) = delete;
     LongWork &operator=(const LongWork &) = delete;
 
+    // Throws WorkStopped where the work may be stopped and the author wants it.
+    Progress progress()
+    {
+        return [this](int done, int total) {
+            if (m_report.progress(done, total))
+                throw WorkStopped();
+        };
+    }
+
 private:
-    AdventureView &m_view;
+    WorkReport &m_report;
 };

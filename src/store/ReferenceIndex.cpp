@@ -53,8 +53,9 @@ void ScanReferences(Variables &variables, QStringView text, int n)
     variables.refIndex.at(n) = referenceEntry(text, variables.TargetPhrase);
 }
 
-void RebuildReferenceIndex(Variables &variables)
+void RebuildReferenceIndex(Variables &variables, const Progress &progress)
 {
+    const int total = variables.HighestWritten - variables.LowestWritten + 1;
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
         if (variables.Written.at(n) == 0)
             continue;
@@ -65,6 +66,7 @@ void RebuildReferenceIndex(Variables &variables)
             text.clear();
         }
         ScanReferences(variables, text, n);
+        progress(n - variables.LowestWritten + 1, total);
     }
 }
 

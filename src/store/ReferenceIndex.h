@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Progress.h"
 #include "store/Variables.h"
 
 #include <QList>
@@ -27,7 +28,7 @@ void ScanReferences(Variables &variables, QStringView text, int n);
 
 // Scans every written paragraph's stored text. A paragraph whose text cannot be read gets an empty
 // entry; its own reader reports it when it is shown.
-void RebuildReferenceIndex(Variables &variables);
+void RebuildReferenceIndex(Variables &variables, const Progress &progress);
 
 // Characters that a reference takes in an index entry: "0026/".
 constexpr qsizetype IndexEntryLength = 5;

@@ -13,9 +13,10 @@ WorkBar::WorkBar(QWidget *parent) : QProgressBar(parent)
     hide();
 }
 
-void WorkBar::begin()
+void WorkBar::begin(bool stoppable)
 {
     hide();
+    setFormat(stoppable ? tr("%p % (Échap pour arrêter)") : QStringLiteral("%p %"));
     m_sinceBegin.start();
 }
 

@@ -13,7 +13,7 @@ class WorkBar : public QProgressBar
 public:
     explicit WorkBar(QWidget *parent = nullptr);
 
-    void begin();
+    void begin(bool stoppable);
     void progress(int done, int total);
 
 private:

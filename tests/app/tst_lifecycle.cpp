@@ -158,13 +158,14 @@ private Q_SLOTS:
         const WindowFixture fixture(oneText());
         fixture.box().setFocus();
         fixture.type("x");
-        fixture.window->longWorkBegins(QStringLiteral("Graphing..."));
+        WorkReport &work = fixture.window->work();
+        work.begin(QStringLiteral("Graphing..."), WorkReport::Stopping::Never);
         QVERIFY(!fixture.box().isVisible());
         QCOMPARE(fixture.control<QLabel>("labBehind").text(), QStringLiteral("Graphing..."));
         QVERIFY(fixture.control<QLabel>("labBehind").isVisible());
         deactivate(fixture);
         QVERIFY(fixture.adventure.variables.ParagraphDirty);
-        fixture.window->longWorkEnds();
+        work.end();
         QVERIFY(fixture.box().isVisible());
         QVERIFY(fixture.box().hasFocus());
     }
@@ -181,9 +182,10 @@ private Q_SLOTS:
         QElapsedTimer time;
         time.start();
         other.paints = 0;
-        fixture.window->longWorkBegins(QStringLiteral("Saving..."));
+        WorkReport &work = fixture.window->work();
+        work.begin(QStringLiteral("Saving..."), WorkReport::Stopping::Never);
         while (!bar.isVisible() && !time.hasExpired(20000))
-            fixture.window->longWorkProgress(30, 40);
+            work.progress(30, 40);
         QVERIFY(bar.isVisible());
         QVERIFY(time.hasExpired(500));
         QVERIFY2(other.paints >= 2 && other.paints <= 2 + time.elapsed() / 100,
@@ -191,8 +193,25 @@ private Q_SLOTS:
         QCOMPARE(bar.value(), 30);
         QCOMPARE(bar.maximum(), 40);
         QVERIFY(!letIn);
-        fixture.window->longWorkEnds();
+        work.end();
         QVERIFY(!bar.isVisible());
+    }
+
+    void escapeAndNothingElseReachesWorkThatMayBeStopped()
+    {
+        const WindowFixture fixture(oneText());
+        WorkReport &work = fixture.window->work();
+        work.begin(QStringLiteral("Conversion..."), WorkReport::Stopping::OnEscape);
+        QTimer::singleShot(0, fixture.window.get(), [&fixture] {
+            QTest::keyClick(fixture.window.get(), Qt::Key_N, Qt::ControlModifier);
+            QVERIFY(!fixture.window->close());
+            QTest::keyClick(fixture.window.get(), Qt::Key_Escape);
+        });
+        QElapsedTimer time;
+        time.start();
+        while (!work.progress(1, 2))
+            QVERIFY(!time.hasExpired(20000));
+        work.end();
     }
 
     void statusLineFollowsTheText()

@@ -91,6 +91,28 @@ private Q_SLOTS:
         QVERIFY(scene.adventure.content("pages/É-0030.htm").contains("Fin"));
     }
 
+    void stoppedExportWritesNothing()
+    {
+        struct Impatient : HeadlessView {
+            using HeadlessView::HeadlessView;
+            bool progress(int done, int /*total*/) override { return done == 7; }
+            void announce(const QString &text) override { announced.append(text); }
+            QStringList announced;
+        };
+        Scene scene;
+        Impatient view(scene.v);
+        scene.adventure.file("a.htm", "old");
+        QVERIFY(QDir().mkpath(scene.adventure.path("p")));
+        QVERIFY(!exportToOneFile(scene.v, scene.prompts, view, 1, 2000, {},
+                                 scene.adventure.path("a.htm")));
+        QVERIFY(!exportToManyFiles(scene.v, scene.prompts, view, 1, 2000, {},
+                                   scene.adventure.path("p"), {}));
+        const QString stopped = "Conversion arrêtée : aucun fichier n'a été écrit.";
+        QCOMPARE(view.announced, QStringList({stopped, stopped}));
+        QCOMPARE(scene.adventure.content("a.htm"), "old");
+        QVERIFY(QDir(scene.adventure.path("p")).isEmpty());
+    }
+
     void theHeaderChoosesTheCharset_data()
     {
         addTable<QString, QByteArray>(

@@ -16,7 +16,7 @@ class CaptionView : public HeadlessView
 {
 public:
     using HeadlessView::HeadlessView;
-    void longWorkBegins(const QString &caption) override { captions.append(caption); }
+    void begin(const QString &caption, Stopping /*stopping*/) override { captions.append(caption); }
 
     QStringList captions;
 };

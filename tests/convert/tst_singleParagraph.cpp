@@ -108,7 +108,8 @@ private Q_SLOTS:
     void doesNothingWithoutATextToReplace()
     {
         WindowFixture closed;
-        SingleParagraph single(closed.adventure.variables, closed.prompts, *closed.window);
+        SingleParagraph single(closed.adventure.variables, closed.prompts, *closed.window,
+                               closed.window->work());
         QVERIFY(!single.Load());
         single.Save();
         WindowFixture unreadable(twoParagraphs());

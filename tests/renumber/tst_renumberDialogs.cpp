@@ -220,7 +220,7 @@ private Q_SLOTS:
             const QTime time = QTime(0, 0).addSecs(second);
             WindowFixture fixture{AdventureBuilder(lines)};
             RenumberCommands commands(fixture.adventure.variables, fixture.prompts,
-                                      *fixture.window);
+                                      fixture.window->work());
             int asked = 0;
             masterMix dialog(fixture.adventure.variables, fixture.prompts, commands, nullptr, [&] {
                 ++asked;

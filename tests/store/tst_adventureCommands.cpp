@@ -17,7 +17,7 @@ struct Editor {
     Variables &v = adventure.variables;
     PromptRecorder prompts;
     HeadlessView view{v};
-    AdventureCommands commands{v, prompts, view};
+    AdventureCommands commands{v, prompts, view, view};
 
     QString file(const QString &name, const AdventureBuilder &builder) const
     {
@@ -119,6 +119,22 @@ private Q_SLOTS:
         QCOMPARE(e.adventure.content(Wolf), wolf().current(2).bytes());
         QVERIFY(e.v.CurrentFormat);
         QCOMPARE(GetParagraphRtf(e.v, 1), rtfOf(QStringLiteral("Va au 2")));
+    }
+
+    void stoppedOpenLeavesTheOpenAdventureAsItWas()
+    {
+        struct Impatient : HeadlessView {
+            using HeadlessView::HeadlessView;
+            bool progress(int /*done*/, int /*total*/) override { return true; }
+        };
+        Editor e;
+        QVERIFY(e.commands.OpenAdventure(e.file(Wolf, wolf())));
+        Impatient impatient(e.v);
+        AdventureCommands commands(e.v, e.prompts, e.view, impatient);
+        QVERIFY(!commands.OpenAdventure(
+            e.adventure.file(QStringLiteral("old.usm"), wolf().oldBytes(25))));
+        QCOMPARE(e.v.AdventureFileName, Wolf);
+        QVERIFY(e.v.CurrentFormat);
     }
 
     void aFailedOpenLeavesTheOpenAdventureAsItWas_data()

@@ -59,7 +59,7 @@ private Q_SLOTS:
                 .rawText(9, "not RTF au 3")
                 .bytes());
         takeOver(adventure.variables, readAdventure(std::make_shared<OpenedFile>(path)));
-        RebuildReferenceIndex(adventure.variables);
+        RebuildReferenceIndex(adventure.variables, [](int, int) {});
         QCOMPARE(adventure.variables.refIndex.at(3), QStringLiteral("0007/"));
         QCOMPARE(adventure.variables.refIndex.at(7), QStringLiteral("0003/0009/"));
         QCOMPARE(adventure.variables.refIndex.at(9), QString());

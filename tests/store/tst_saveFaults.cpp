@@ -36,7 +36,7 @@ private Q_SLOTS:
             QTextStream errors(&said);
             ScriptPrompts prompts(errors, std::nullopt);
             HeadlessView view(v);
-            AdventureCommands commands(v, prompts, view);
+            AdventureCommands commands(v, prompts, view, view);
             const auto type = [&](int n, const QString &text) {
                 view.LoadParg(n);
                 view.editingBox().setText(text);

@@ -11,23 +11,24 @@ namespace
 {
 using Export = std::function<int(const ExportRange &, const Progress &)>;
 
-bool run(Prompts &prompts, AdventureView &view, const ExportRange &range, const QString &place,
+bool run(Prompts &prompts, WorkReport &report, const ExportRange &range, const QString &place,
          const Export &write)
 {
     int written = 0;
-    const bool done = reportingFailures(prompts, [&] {
-        LongWork work(view, QStringLiteral("Conversion..."));
-        written = write(range, [&work](int part, int total) { work.progress(part, total); });
+    const auto convert = [&] {
+        LongWork work(report, QStringLiteral("Conversion..."), WorkReport::Stopping::OnEscape);
+        written = write(range, work.progress());
         return true;
-    });
+    };
+    const bool done = reportingFailures(prompts, [&] { return stoppable(report, convert); });
     if (done)
-        announceExport(view, written, place);
+        announceExport(report, written, place);
     return done;
 }
 } // namespace
 
-bool exportToOneFile(const Variables &variables, Prompts &prompts, AdventureView &view,
-                     double first, double second, const HtmlCodes &codes, const QString &path)
+bool exportToOneFile(const Variables &variables, Prompts &prompts, WorkReport &report, double first,
+                     double second, const HtmlCodes &codes, const QString &path)
 {
     const bool allowed = reportingFailures(prompts, [&] {
         refuseOwnFiles(variables, path);
@@ -40,17 +41,17 @@ bool exportToOneFile(const Variables &variables, Prompts &prompts, AdventureView
     } catch (const FileError &) {
         return false;
     }
-    return file && run(prompts, view, exportRange(first, second), path,
+    return file && run(prompts, report, exportRange(first, second), path,
                        [&](const ExportRange &range, const Progress &progress) {
                            return exportOneFile(variables, range, codes, *file, progress);
                        });
 }
 
-bool exportToManyFiles(const Variables &variables, Prompts &prompts, AdventureView &view,
+bool exportToManyFiles(const Variables &variables, Prompts &prompts, WorkReport &report,
                        double first, double second, const HtmlCodes &codes, const QString &folder,
                        const QString &prefix)
 {
-    return run(prompts, view, exportRange(first, second), folder,
+    return run(prompts, report, exportRange(first, second), folder,
                [&](const ExportRange &range, const Progress &progress) {
                    return exportManyFiles(variables, range, codes, folder, prefix, progress);
                });

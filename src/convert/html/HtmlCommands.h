@@ -2,7 +2,7 @@
 
 #include "convert/html/HtmlExport.h"
 
-class AdventureView;
+class WorkReport;
 class Prompts;
 
 // The HTML exports behind their dialogs and behind scripts: the paragraphs first..second, as they
@@ -13,9 +13,9 @@ class Prompts;
 
 // When the file cannot be opened at all the author is told nothing: required, it counts as a file
 // dialog that was cancelled.
-bool exportToOneFile(const Variables &variables, Prompts &prompts, AdventureView &view,
-                     double first, double second, const HtmlCodes &codes, const QString &path);
+bool exportToOneFile(const Variables &variables, Prompts &prompts, WorkReport &report, double first,
+                     double second, const HtmlCodes &codes, const QString &path);
 
-bool exportToManyFiles(const Variables &variables, Prompts &prompts, AdventureView &view,
+bool exportToManyFiles(const Variables &variables, Prompts &prompts, WorkReport &report,
                        double first, double second, const HtmlCodes &codes, const QString &folder,
                        const QString &prefix);

@@ -8,10 +8,10 @@
 
 #include <QDir>
 
-manyHTML::manyHTML(const Variables &variables, Prompts &prompts, AdventureView &view,
+manyHTML::manyHTML(const Variables &variables, Prompts &prompts, WorkReport &report,
                    QString &lastFolder, QWidget *parent)
     : NumberDialog(prompts, Enter::Beeps, parent), m_variables(variables), m_prompts(prompts),
-      m_view(view), m_lastFolder(lastFolder), m_ui(std::make_unique<Ui::manyHTML>())
+      m_report(report), m_lastFolder(lastFolder), m_ui(std::make_unique<Ui::manyHTML>())
 {
     m_ui->setupUi(this);
     connectForm(*m_ui->Cancel, *m_ui->txtLow);
@@ -67,7 +67,7 @@ void manyHTML::HTML_Click()
         return;
     m_lastFolder = folder;
     const HtmlCodes codes{m_ui->txtHeader->code(), QString(), m_ui->txtFooter->code()};
-    WorkInDialog work(m_view, *m_ui->barWork);
+    WorkInDialog work(m_report, *m_ui->barWork);
     if (exportToManyFiles(m_variables, m_prompts, work, low, high, codes, folder,
                           m_ui->txtPrefix->text()))
         accept();

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-class AdventureView;
+class WorkReport;
 struct Variables;
 
 namespace Ui
@@ -19,7 +19,7 @@ class manyHTML : public NumberDialog
 
 public:
     // lastFolder is where pages went the last time, empty before the first, and is kept up to date.
-    manyHTML(const Variables &variables, Prompts &prompts, AdventureView &view, QString &lastFolder,
+    manyHTML(const Variables &variables, Prompts &prompts, WorkReport &report, QString &lastFolder,
              QWidget *parent);
     ~manyHTML() override;
 
@@ -35,7 +35,7 @@ private:
 
     const Variables &m_variables;
     Prompts &m_prompts;
-    AdventureView &m_view;
+    WorkReport &m_report;
     QString &m_lastFolder;
     std::unique_ptr<Ui::manyHTML> m_ui;
 };

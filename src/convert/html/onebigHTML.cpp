@@ -7,10 +7,10 @@
 #include "store/LenientNumbers.h"
 #include "ui_onebigHTML.h"
 
-onebigHTML::onebigHTML(const Variables &variables, Prompts &prompts, AdventureView &view,
+onebigHTML::onebigHTML(const Variables &variables, Prompts &prompts, WorkReport &report,
                        QWidget *parent)
     : NumberDialog(prompts, Enter::Beeps, parent), m_variables(variables), m_prompts(prompts),
-      m_view(view), m_ui(std::make_unique<Ui::onebigHTML>())
+      m_report(report), m_ui(std::make_unique<Ui::onebigHTML>())
 {
     m_ui->setupUi(this);
     connectForm(*m_ui->Cancel, *m_ui->txtLow);
@@ -54,7 +54,7 @@ void onebigHTML::HTML_Click()
         return;
     const HtmlCodes codes{m_ui->txtHeader->code(), m_ui->txtNumbers->code(),
                           m_ui->txtFooter->code()};
-    WorkInDialog work(m_view, *m_ui->barWork);
+    WorkInDialog work(m_report, *m_ui->barWork);
     if (exportToOneFile(m_variables, m_prompts, work, low, high, codes, path))
         accept();
 }

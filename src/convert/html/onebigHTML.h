@@ -4,7 +4,7 @@
 
 #include <memory>
 
-class AdventureView;
+class WorkReport;
 struct Variables;
 
 namespace Ui
@@ -18,7 +18,7 @@ class onebigHTML : public NumberDialog
     Q_OBJECT
 
 public:
-    onebigHTML(const Variables &variables, Prompts &prompts, AdventureView &view, QWidget *parent);
+    onebigHTML(const Variables &variables, Prompts &prompts, WorkReport &report, QWidget *parent);
     ~onebigHTML() override;
 
 private:
@@ -28,6 +28,6 @@ private:
 
     const Variables &m_variables;
     Prompts &m_prompts;
-    AdventureView &m_view;
+    WorkReport &m_report;
     std::unique_ptr<Ui::onebigHTML> m_ui;
 };

@@ -14,20 +14,21 @@ bool saveFailed(Prompts &prompts, const FileError &error)
 }
 } // namespace
 
-bool compileToRtf(const Variables &variables, Prompts &prompts, AdventureView &view, double first,
+bool compileToRtf(const Variables &variables, Prompts &prompts, WorkReport &report, double first,
                   double second, const NumberStyle &style, const QString &path)
 {
-    return reportingFailures(prompts, [&] {
+    const auto compile = [&] {
         refuseOwnFiles(variables, path);
         try {
-            LongWork work(view, QStringLiteral("Conversion en Cours Veuillez Attendre"));
+            LongWork work(report, QStringLiteral("Conversion en Cours Veuillez Attendre"),
+                          WorkReport::Stopping::OnEscape);
             const int written =
-                compileRtf(variables, exportRange(first, second), style, path,
-                           [&work](int done, int total) { work.progress(done, total); });
-            announceExport(view, written, path);
+                compileRtf(variables, exportRange(first, second), style, path, work.progress());
+            announceExport(report, written, path);
             return true;
         } catch (const FileError &error) {
             return saveFailed(prompts, error);
         }
-    });
+    };
+    return reportingFailures(prompts, [&] { return stoppable(report, compile); });
 }

@@ -2,7 +2,7 @@
 
 #include "convert/rtf/RtfCompilation.h"
 
-class AdventureView;
+class WorkReport;
 class Prompts;
 
 // The command behind the dialog and behind scripts: compiles the paragraphs first..second, as they
@@ -10,5 +10,5 @@ class Prompts;
 // or the document cannot be saved: the author has been told, and what was at path is still there.
 //
 // The current paragraph must have been saved.
-bool compileToRtf(const Variables &variables, Prompts &prompts, AdventureView &view, double first,
+bool compileToRtf(const Variables &variables, Prompts &prompts, WorkReport &report, double first,
                   double second, const NumberStyle &style, const QString &path);

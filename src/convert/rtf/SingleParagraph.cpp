@@ -5,6 +5,7 @@
 #include "richtext/RichTextBox.h"
 #include "store/AdventureCommands.h"
 #include "store/ParagraphStore.h"
+#include "store/WorkReport.h"
 
 namespace
 {
@@ -14,8 +15,9 @@ QString rtfFilter()
 }
 } // namespace
 
-SingleParagraph::SingleParagraph(Variables &variables, Prompts &prompts, AdventureView &view)
-    : m_variables(variables), m_prompts(prompts), m_view(view)
+SingleParagraph::SingleParagraph(Variables &variables, Prompts &prompts, AdventureView &view,
+                                 WorkReport &report)
+    : m_variables(variables), m_prompts(prompts), m_view(view), m_report(report)
 {
 }
 
@@ -63,6 +65,6 @@ void SingleParagraph::Save()
     } catch (const FileError &) {
         return;
     }
-    m_view.announce(
+    m_report.announce(
         QStringLiteral("Paragraphe %1 écrit : %2").arg(m_variables.CurrentParagraph).arg(path));
 }

@@ -2,6 +2,7 @@
 
 class AdventureView;
 class Prompts;
+class WorkReport;
 struct Variables;
 
 // Exchanges the paragraph in the editing box with an RTF file that the author chooses. Without an
@@ -9,7 +10,8 @@ struct Variables;
 class SingleParagraph
 {
 public:
-    SingleParagraph(Variables &variables, Prompts &prompts, AdventureView &view);
+    SingleParagraph(Variables &variables, Prompts &prompts, AdventureView &view,
+                    WorkReport &report);
 
     // The file's text becomes the paragraph's, still to be saved. True when the box has changed; a
     // file that cannot be read changes nothing, without a word.
@@ -24,4 +26,5 @@ private:
     Variables &m_variables;
     Prompts &m_prompts;
     AdventureView &m_view;
+    WorkReport &m_report;
 };

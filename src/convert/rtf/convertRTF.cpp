@@ -16,10 +16,10 @@ namespace
 constexpr double LargestShown = 400; // points: much more than the sample has room for
 }
 
-convertRTF::convertRTF(const Variables &variables, Prompts &prompts, AdventureView &view,
+convertRTF::convertRTF(const Variables &variables, Prompts &prompts, WorkReport &report,
                        QWidget *parent)
     : NumberDialog(prompts, Enter::Beeps, parent), m_variables(variables), m_prompts(prompts),
-      m_view(view), m_ui(std::make_unique<Ui::convertRTF>())
+      m_report(report), m_ui(std::make_unique<Ui::convertRTF>())
 {
     m_ui->setupUi(this);
     QSizePolicy keepsPlace = m_ui->waitLabel->sizePolicy();
@@ -73,7 +73,7 @@ void convertRTF::OKButton_Click()
         return;
     m_ui->waitLabel->show();
     repaint();
-    WorkInDialog work(m_view, *m_ui->barWork);
+    WorkInDialog work(m_report, *m_ui->barWork);
     const bool done = compileToRtf(m_variables, m_prompts, work, low, high, chosenStyle(), path);
     m_ui->waitLabel->hide();
     if (done)

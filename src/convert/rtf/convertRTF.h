@@ -5,7 +5,7 @@
 
 #include <memory>
 
-class AdventureView;
+class WorkReport;
 
 namespace Ui
 {
@@ -18,7 +18,7 @@ class convertRTF : public NumberDialog
     Q_OBJECT
 
 public:
-    convertRTF(const Variables &variables, Prompts &prompts, AdventureView &view, QWidget *parent);
+    convertRTF(const Variables &variables, Prompts &prompts, WorkReport &report, QWidget *parent);
     ~convertRTF() override;
 
 private:
@@ -32,6 +32,6 @@ private:
 
     const Variables &m_variables;
     Prompts &m_prompts;
-    AdventureView &m_view;
+    WorkReport &m_report;
     std::unique_ptr<Ui::convertRTF> m_ui;
 };
