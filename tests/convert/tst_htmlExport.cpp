@@ -1,5 +1,4 @@
 #include "convert/html/CodeSnippet.h"
-#include "convert/html/HtmlCharset.h"
 #include "convert/html/HtmlCommands.h"
 #include "outil/HeadlessView.h"
 #include "platform/Errors.h"
@@ -130,13 +129,6 @@ private Q_SLOTS:
         QFETCH(QByteArray, written);
         QVERIFY(scene.one(8, 9, {header, {}, {}}, "a.htm"));
         QCOMPARE(scene.adventure.content("a.htm"), written + "\r\n\r\n");
-        QVERIFY(QDir().mkpath(scene.adventure.path("p")));
-        QVERIFY(scene.many({header, {}, {}}, "é", "p"));
-        const bool utf8 = declaredCharset(header) == HtmlCharset::Utf8;
-        QVERIFY(scene.adventure.content("p/é0007.htm")
-                    .contains(utf8 ? "HREF=\"é0030"
-                                   : "HREF=\"\xe9"
-                                     "0030"));
     }
 
     // Texts in which the pass would lose something are made ours, others go out as they are.
@@ -199,33 +191,26 @@ private Q_SLOTS:
 
     void snippetsKeepTheirEncoding_data()
     {
+        const QByteArray declaring = "charset=Windows-1252";
         addTable<QByteArray, QString, QByteArray>(
-            {"file", "text", "saved"}, {{"UTF-8", "é\r\nü", "é\nü", "é\r\nü\r\n"},
-                                        {"Windows-1252", "\xe9\r\n", "é\n", "\xe9\r\n\r\n"},
-                                        {"ASCII", "e", "e", "e\r\n"}});
+            {"file", "added", "saved"},
+            {{"UTF-8", "é\r\nü", "", "é\r\nü\r\n"},
+             {"Windows-1252", "\xe9\r\n", "", "\xe9\r\n\r\n"},
+             {"beyond Windows-1252", "\xe9!", "⇒", "é!⇒\r\n"},
+             {"ASCII, then UTF-8", "e", "é", "eé\r\n"},
+             {"ASCII, then as declared", declaring, "é", declaring + "\xe9\r\n"}});
     }
     void snippetsKeepTheirEncoding()
     {
         TestAdventure adventure;
         QFETCH(QByteArray, file);
+        QFETCH(QString, added);
         const QString path = adventure.file("s.txt", file);
-        const CodeSnippet snippet = readSnippet(path);
-        QTEST(snippet.text, "text");
+        CodeSnippet snippet = readSnippet(path);
+        snippet.text += added;
         saveSnippet(path, snippet);
         QTEST(adventure.content("s.txt"), "saved");
-    }
-
-    void newSnippetsAreUtf8UnlessTheySayOtherwise()
-    {
-        TestAdventure adventure;
-        const QString path = adventure.path("new.txt");
-        QCOMPARE(readSnippet(path).text, QString());
-        saveSnippet(path, {"é", {}});
-        QCOMPARE(adventure.content("new.txt"), "é\r\n");
-        saveSnippet(path, {"charset=Windows-1252 é", {}});
-        QCOMPARE(adventure.content("new.txt"), "charset=Windows-1252 \xe9\r\n");
-        saveSnippet(path, {"⇒", CodeSnippet::Encoding::Windows1252});
-        QCOMPARE(adventure.content("new.txt"), "⇒\r\n");
+        QCOMPARE(readSnippet(adventure.path("absent.txt")).text, QString());
     }
 
     void aBatchFollowsLinksAndLeavesReadOnlyFiles()

@@ -95,15 +95,6 @@ private Q_SLOTS:
                  "\\par }");
     }
 
-    void unstyledNumbersHaveNothingOfTheTextAbove()
-    {
-        Scene scene;
-        QVERIFY(scene.compile(3, 7, {"Arial", 10.5, false, false, false, false}, "livre.rtf"));
-        QVERIFY2(scene.document().contains("\\cf1 puce\r\n\\par \\pard \\f0\\plain\\f1\\fs24 \r\n"
-                                           "\\par \\f0\\plain\\f0\\fs21 7\r\n\\par \\pard\\li720"),
-                 scene.document());
-    }
-
     void theRangeIsLenient_data()
     {
         addTable<double, double, QString>({"first", "second", "lines"},

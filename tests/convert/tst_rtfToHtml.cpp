@@ -124,19 +124,6 @@ private Q_SLOTS:
         QTEST((Paragraph{document(body), {}}.html()), "html");
     }
 
-    void bodyEndsWithTheDocument_data()
-    {
-        addTable<QByteArray, QByteArray>(
-            {"rtf", "html"}, {{"empty", "", ""},
-                              {"text behind the end", "{\\x a\\par }\r\n", "a<BR>"},
-                              {"nothing begins at the last byte", "{\\i \\", "<I></I>"}});
-    }
-    void bodyEndsWithTheDocument()
-    {
-        QFETCH(QByteArray, rtf);
-        QTEST((Paragraph{rtf, {}}.html()), "html");
-    }
-
     void colourLineIsRead_data()
     {
         const QByteArray entry = "\\red1\\green2\\blue3;";
