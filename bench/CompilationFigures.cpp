@@ -14,9 +14,11 @@ void printCompilationFigures(const QString &path, const QString &folder)
 {
     BenchEditor editor(folder + QStringLiteral("/compilation"));
     editor.commands.OpenAdventure(path);
+    const ExportCommand command(editor.variables, editor.prompts, editor.view);
     const auto compile = [&](int last) {
-        if (!compileToRtf(editor.variables, editor.prompts, editor.view, 1, last,
-                          defaultNumberStyle(editor.variables), folder + QStringLiteral("/b.rtf")))
+        if (!compileToRtf(command,
+                          {1, static_cast<double>(last), folder + QStringLiteral("/b.rtf")},
+                          defaultNumberStyle(editor.variables)))
             qFatal("compilation failed");
     };
     for (const int last : {200, Variables::LastParagraph})

@@ -74,9 +74,9 @@ void printConvertFigures(const QString &path, const QString &folder)
                         QStringLiteral("<h2><999></h2>"), footer};
     const HtmlCodes many{
         readSnippet(documents + QStringLiteral("Début de Chaque Paragraphe.txt")).text, {}, footer};
+    const ExportCommand command(editor.variables, editor.prompts, editor.view);
     const auto writeOne = [&] {
-        if (!exportToOneFile(editor.variables, editor.prompts, editor.view, 1, 2000, one,
-                             folder + QStringLiteral("/one.htm")))
+        if (!exportToOneFile(command, {1, 2000, folder + QStringLiteral("/one.htm")}, one))
             qFatal("the export failed");
     };
     int run = 0;
@@ -87,8 +87,7 @@ void printConvertFigures(const QString &path, const QString &folder)
         syncFileSystem(folder);
     };
     const auto writeMany = [&] {
-        if (!exportToManyFiles(editor.variables, editor.prompts, editor.view, 1, 2000, many, pages,
-                               QStringLiteral("GA-")))
+        if (!exportToManyFiles(command, {1, 2000, pages}, many, QStringLiteral("GA-")))
             qFatal("the export failed");
     };
     printFigure(QStringLiteral("HTML in one file, peak memory over before"),

@@ -1,10 +1,8 @@
 #include "convert/ExportRange.h"
 
 #include "store/LenientNumbers.h"
-#include "store/LongWork.h"
 #include "store/Variables.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 
 ExportRange exportRange(double first, double second)
@@ -26,22 +24,4 @@ int forEachWritten(const Variables &variables, const ExportRange &range, const P
         progress(n - range.low + 1, range.high - range.low + 1);
     }
     return written;
-}
-
-bool stoppable(WorkReport &report, const std::function<bool()> &write)
-{
-    try {
-        return write();
-    } catch (const WorkStopped &) {
-        report.announce(QCoreApplication::translate(
-            "ExportRange", "Conversion arrêtée : aucun fichier n'a été écrit."));
-        return false;
-    }
-}
-
-void announceExport(WorkReport &report, int written, const QString &place)
-{
-    report.announce(written == 1
-                        ? QStringLiteral("1 paragraphe écrit : %1").arg(place)
-                        : QStringLiteral("%1 paragraphes écrits : %2").arg(written).arg(place));
 }

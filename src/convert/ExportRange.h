@@ -4,8 +4,6 @@
 
 #include <functional>
 
-class WorkReport;
-class QString;
 struct Variables;
 
 // The paragraphs that an export takes: low..high, both within 0..2000; the unwritten among them are
@@ -22,10 +20,3 @@ ExportRange exportRange(double first, double second);
 // Runs action for each written paragraph of the range, ascending, and gives their number.
 int forEachWritten(const Variables &variables, const ExportRange &range, const Progress &progress,
                    const std::function<void(int)> &action);
-
-// Runs an export that the author may stop, which returns whether it succeeded. Stopped it has
-// written nothing, and the author is told so.
-bool stoppable(WorkReport &report, const std::function<bool()> &write);
-
-// Tells in passing how many paragraphs went where.
-void announceExport(WorkReport &report, int written, const QString &place);

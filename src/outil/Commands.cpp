@@ -36,6 +36,12 @@ int paragraphNumber(const QString &word)
     return n;
 }
 
+// BAS HAUT and a file or a folder.
+ExportRequest exportRequest(const QStringList &arguments)
+{
+    return {lenientNumber(arguments.at(0)), lenientNumber(arguments.at(1)), arguments.at(2)};
+}
+
 QByteArray line(int n)
 {
     return QByteArray::number(n) + '\n';
@@ -92,7 +98,8 @@ const std::vector<Commands::Entry> &Commands::entries()
 
 Commands::Commands(Variables &variables, Prompts &prompts)
     : m_variables(variables), m_prompts(prompts), m_view(variables),
-      m_adventure(variables, prompts, m_view, m_view), m_renumber(variables, prompts, m_view)
+      m_adventure(variables, prompts, m_view, m_view), m_renumber(variables, prompts, m_view),
+      m_export(variables, prompts, m_view)
 {
 }
 
@@ -280,8 +287,7 @@ QByteArray Commands::html(const QStringList &arguments)
     const HtmlCodes codes{code(QStringLiteral("Début du Fichier Unique.txt")),
                           code(QStringLiteral("Numéros de Paragraphes.txt")),
                           code(QStringLiteral("Fin de Chaque Paragraphe.txt"))};
-    if (!exportToOneFile(m_variables, m_prompts, m_view, lenientNumber(arguments.at(0)),
-                         lenientNumber(arguments.at(1)), codes, arguments.at(2)))
+    if (!exportToOneFile(m_export, exportRequest(arguments), codes))
         m_prompts.beep(); // also where a window says nothing, a script fails
     return {};
 }
@@ -290,16 +296,14 @@ QByteArray Commands::pages(const QStringList &arguments)
 {
     const HtmlCodes codes{code(QStringLiteral("Début de Chaque Paragraphe.txt")), QString(),
                           code(QStringLiteral("Fin de Chaque Paragraphe.txt"))};
-    exportToManyFiles(m_variables, m_prompts, m_view, lenientNumber(arguments.at(0)),
-                      lenientNumber(arguments.at(1)), codes, arguments.at(2),
+    exportToManyFiles(m_export, exportRequest(arguments), codes,
                       arguments.value(3, m_variables.FilePrefix));
     return {};
 }
 
 QByteArray Commands::compilerRtf(const QStringList &arguments)
 {
-    compileToRtf(m_variables, m_prompts, m_view, lenientNumber(arguments.at(0)),
-                 lenientNumber(arguments.at(1)), defaultNumberStyle(m_variables), arguments.at(2));
+    compileToRtf(m_export, exportRequest(arguments), defaultNumberStyle(m_variables));
     return {};
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "convert/ExportCommand.h"
 #include "outil/HeadlessView.h"
 #include "outil/Script.h"
 #include "renumber/RenumberCommands.h"
@@ -58,4 +59,5 @@ private:
     HeadlessView m_view;
     AdventureCommands m_adventure;
     RenumberCommands m_renumber;
+    ExportCommand m_export;
 };

@@ -29,11 +29,12 @@ struct Scene {
 
     bool one(double first, double second, const HtmlCodes &codes, const QString &name)
     {
-        return exportToOneFile(v, prompts, view, first, second, codes, adventure.path(name));
+        return exportToOneFile({v, prompts, view}, {first, second, adventure.path(name)}, codes);
     }
     bool many(const HtmlCodes &codes, const QString &prefix, const QString &folder)
     {
-        return exportToManyFiles(v, prompts, view, 1, 2000, codes, adventure.path(folder), prefix);
+        return exportToManyFiles({v, prompts, view}, {1, 2000, adventure.path(folder)}, codes,
+                                 prefix);
     }
 
     TestAdventure adventure;
@@ -100,12 +101,11 @@ private Q_SLOTS:
         };
         Scene scene;
         Impatient view(scene.v);
+        const ExportCommand command(scene.v, scene.prompts, view);
         scene.adventure.file("a.htm", "old");
         QVERIFY(QDir().mkpath(scene.adventure.path("p")));
-        QVERIFY(!exportToOneFile(scene.v, scene.prompts, view, 1, 2000, {},
-                                 scene.adventure.path("a.htm")));
-        QVERIFY(!exportToManyFiles(scene.v, scene.prompts, view, 1, 2000, {},
-                                   scene.adventure.path("p"), {}));
+        QVERIFY(!exportToOneFile(command, {1, 2000, scene.adventure.path("a.htm")}, {}));
+        QVERIFY(!exportToManyFiles(command, {1, 2000, scene.adventure.path("p")}, {}, {}));
         const QString stopped = "Conversion arrêtée : aucun fichier n'a été écrit.";
         QCOMPARE(view.announced, QStringList({stopped, stopped}));
         QCOMPARE(scene.adventure.content("a.htm"), "old");

@@ -45,7 +45,7 @@ struct Scene {
 
     bool compile(double first, double second, const NumberStyle &style, const QString &name)
     {
-        return compileToRtf(v, prompts, view, first, second, style, adventure.path(name));
+        return compileToRtf({v, prompts, view}, {first, second, adventure.path(name)}, style);
     }
 
     QByteArray document() const { return adventure.content("livre.rtf"); }

@@ -1,58 +1,40 @@
 #include "convert/html/HtmlCommands.h"
 
-#include "convert/ExportTarget.h"
-#include "platform/Failures.h"
+#include "platform/Errors.h"
 #include "platform/SafeFile.h"
-#include "store/LongWork.h"
 
 #include <optional>
 
 namespace
 {
-using Export = std::function<int(const ExportRange &, const Progress &)>;
-
-bool run(Prompts &prompts, WorkReport &report, const ExportRange &range, const QString &place,
-         const Export &write)
+QString caption()
 {
-    int written = 0;
-    const auto convert = [&] {
-        LongWork work(report, QStringLiteral("Conversion..."), WorkReport::Stopping::OnEscape);
-        written = write(range, work.progress());
-        return true;
-    };
-    const bool done = reportingFailures(prompts, [&] { return stoppable(report, convert); });
-    if (done)
-        announceExport(report, written, place);
-    return done;
+    return QStringLiteral("Conversion...");
 }
 } // namespace
 
-bool exportToOneFile(const Variables &variables, Prompts &prompts, WorkReport &report, double first,
-                     double second, const HtmlCodes &codes, const QString &path)
+bool exportToOneFile(const ExportCommand &command, const ExportRequest &request,
+                     const HtmlCodes &codes)
 {
-    const bool allowed = reportingFailures(prompts, [&] {
-        refuseOwnFiles(variables, path);
-        return true;
-    });
+    if (!command.mayReplace(request.place))
+        return false;
     std::optional<SafeFile> file;
     try {
-        if (allowed)
-            file.emplace(path, Durability::Full, Links::Follow);
+        file.emplace(request.place, Durability::Full, Links::Follow);
     } catch (const FileError &) {
         return false;
     }
-    return file && run(prompts, report, exportRange(first, second), path,
-                       [&](const ExportRange &range, const Progress &progress) {
-                           return exportOneFile(variables, range, codes, *file, progress);
-                       });
+    const auto write = [&](const ExportRange &range, const Progress &progress) {
+        return exportOneFile(command.variables(), range, codes, *file, progress);
+    };
+    return command.run(request, {caption(), write, {}});
 }
 
-bool exportToManyFiles(const Variables &variables, Prompts &prompts, WorkReport &report,
-                       double first, double second, const HtmlCodes &codes, const QString &folder,
-                       const QString &prefix)
+bool exportToManyFiles(const ExportCommand &command, const ExportRequest &request,
+                       const HtmlCodes &codes, const QString &prefix)
 {
-    return run(prompts, report, exportRange(first, second), folder,
-               [&](const ExportRange &range, const Progress &progress) {
-                   return exportManyFiles(variables, range, codes, folder, prefix, progress);
-               });
+    const auto write = [&](const ExportRange &range, const Progress &progress) {
+        return exportManyFiles(command.variables(), range, codes, request.place, prefix, progress);
+    };
+    return command.run(request, {caption(), write, {}});
 }

@@ -68,7 +68,7 @@ void manyHTML::HTML_Click()
     m_lastFolder = folder;
     const HtmlCodes codes{m_ui->txtHeader->code(), QString(), m_ui->txtFooter->code()};
     WorkInDialog work(m_report, *m_ui->barWork);
-    if (exportToManyFiles(m_variables, m_prompts, work, low, high, codes, folder,
+    if (exportToManyFiles({m_variables, m_prompts, work}, {low, high, folder}, codes,
                           m_ui->txtPrefix->text()))
         accept();
 }

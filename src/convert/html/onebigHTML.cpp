@@ -55,6 +55,6 @@ void onebigHTML::HTML_Click()
     const HtmlCodes codes{m_ui->txtHeader->code(), m_ui->txtNumbers->code(),
                           m_ui->txtFooter->code()};
     WorkInDialog work(m_report, *m_ui->barWork);
-    if (exportToOneFile(m_variables, m_prompts, work, low, high, codes, path))
+    if (exportToOneFile({m_variables, m_prompts, work}, {low, high, path}, codes))
         accept();
 }

@@ -74,7 +74,8 @@ void convertRTF::OKButton_Click()
     m_ui->waitLabel->show();
     repaint();
     WorkInDialog work(m_report, *m_ui->barWork);
-    const bool done = compileToRtf(m_variables, m_prompts, work, low, high, chosenStyle(), path);
+    const bool done =
+        compileToRtf({m_variables, m_prompts, work}, {low, high, path}, chosenStyle());
     m_ui->waitLabel->hide();
     if (done)
         accept();
