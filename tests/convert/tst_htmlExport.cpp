@@ -196,7 +196,7 @@ private Q_SLOTS:
             {"file", "added", "saved"},
             {{"UTF-8", "é\r\nü", "", "é\r\nü\r\n"},
              {"Windows-1252", "\xe9\r\n", "", "\xe9\r\n\r\n"},
-             {"beyond Windows-1252", "\xe9!", "⇒", "é!⇒\r\n"},
+             {"beyond Windows-1252", "\xe9", "⇒", "é⇒\r\n"},
              {"ASCII, then UTF-8", "e", "é", "eé\r\n"},
              {"ASCII, then as declared", declaring, "é", declaring + "\xe9\r\n"}});
     }

@@ -25,8 +25,9 @@ CodeSnippet readSnippet(const QString &path)
     if (!QFileInfo::exists(path))
         return {};
     const QByteArray bytes = readWholeFile(path, LargestSnippet);
+    // The decoder would wait for the rest of a letter at the very end; the line end refuses it one.
     QStringDecoder utf8(QStringDecoder::Utf8);
-    CodeSnippet snippet{utf8(bytes), CodeSnippet::Encoding::Utf8};
+    CodeSnippet snippet{QString(utf8(bytes + '\n')).chopped(1), CodeSnippet::Encoding::Utf8};
     if (utf8.hasError())
         snippet = {fromWindows1252(bytes), CodeSnippet::Encoding::Windows1252};
     else if (snippet.text.size() == bytes.size())
