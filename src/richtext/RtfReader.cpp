@@ -193,7 +193,7 @@ bool RtfReader::tableWord(const RtfWord &word, const RtfToken &token)
         return true;
     case RtfAction::Plain:
         state().chars = CharState();
-        state().hidden = false;
+        state().deleted = false;
         selectFont(m_defaultFont);
         return true;
     case RtfAction::Colour:
@@ -375,13 +375,13 @@ void RtfReader::flush()
         return;
     if (state().content == Content::Fonts)
         m_fonts.addToName(text);
-    else if (state().content == Content::Body && !state().hidden)
+    else if (state().content == Content::Body && !state().deleted)
         m_paragraphs->addText(text, state());
 }
 
 void RtfReader::endParagraph()
 {
-    if (state().content != Content::Body || state().hidden)
+    if (state().content != Content::Body || state().deleted)
         return;
     m_paragraphs->addText(m_text.takeLast(), state());
     m_paragraphs->end(state());

@@ -12,7 +12,8 @@
 // Reads the RTF of rich edit controls and word processors in one pass and drives a handler.
 //
 // Taken are texts, the formatting that CharState and ParagraphState hold, and fields by their
-// result; pictures, objects, notes, headers and hidden text are left out. Nothing is ever fetched.
+// result; hidden text is ordinary text, so that no word of it is lost. Pictures, objects, notes,
+// headers and what a tracked change deleted are left out. Nothing is ever fetched.
 // Groups may nest to any depth; from the thousandth level on they change no formatting of their
 // own. A text that stops in the middle is read as far as it goes, what follows the end is ignored.
 class RtfReader

@@ -34,8 +34,8 @@ bool RtfState::takeCharWord(const RtfWord &word, const RtfToken &token)
     case RtfAction::Strike:
         chars.strike = isOn(token);
         return true;
-    case RtfAction::Hidden:
-        hidden = isOn(token);
+    case RtfAction::Deleted:
+        deleted = isOn(token);
         return true;
     case RtfAction::Size:
         if (token.number > 0)

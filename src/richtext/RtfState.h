@@ -16,7 +16,7 @@ struct RtfState {
     ParagraphState paragraph;
     int page = 0;     // code page of the font; 0: the document's
     int fallback = 1; // how many characters stand behind each \u for readers without Unicode
-    bool hidden = false;
+    bool deleted = false;
     bool inLabel = false; // of a list
     Content content = Content::Body;
 };

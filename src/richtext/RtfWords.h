@@ -18,7 +18,7 @@ enum class RtfAction {
     Underline,
     NoUnderline,
     Strike,
-    Hidden,
+    Deleted, // by a tracked change that nobody accepted yet
     Font,
     Size,
     Colour,

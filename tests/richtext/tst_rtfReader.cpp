@@ -46,7 +46,8 @@ private Q_SLOTS:
                 {"unicode pair", R"({\upr{plain}{\*\ud{\u233?}}}x)", "éx"},
                 {"binary", R"(a{\pict\bin4 }}}}}b\bin3 {{{c\bin-4 d)", "abcd"},
                 {"binary beyond the end", R"(a\bin999999 bc)", "a"},
-                {"hidden", R"(a{\v b\par }c\v d\plain e)", "ace"},
+                {"hidden is text", R"(a{\v b\par }c{\*\x{\v d}})", "ab\r\nc"},
+                {"deleted", R"(a{\deleted b\par }c\deleted d\plain e)", "ace"},
                 {"long word", "a\\" + QByteArray(5000, 'b') + " c", "ac"},
                 {"huge number", R"(a\fs99999999999999999999 b)", "ab"},
                 {"bad hex", R"(a\'zzb)", "azzb"},
@@ -176,7 +177,7 @@ private Q_SLOTS:
             head +
             R"({\*\listtable{\list{\listlevel}\listid1}}\pard\qc\tx720\plain\f1\fs28\cf1\b )"
             R"(A\'e9{\pntext\'b7\tab}{\*\pn\pnlvlblt}{\upr{x}{\*\ud{\u8217\'92}}}\uc2\u233ab)"
-            R"({\pict\bin5 }}{{\}}\f2\'93\'fa\u-10179?\u-9000?\cell\row{\v h}\~\_)"
+            R"({\pict\bin5 }}{{\}}\f2\'93\'fa\u-10179?\u-9000?\cell\row{\deleted h}\~\_)"
             "\\\r\nfin\\par }";
         for (qsizetype size = 0; size <= rtf.size(); ++size) {
             const QByteArray prefix = rtf.first(size);
