@@ -7,20 +7,22 @@ namespace
 {
 void connectClipboard(const Ui::formUsmira &ui, RtfBox &box)
 {
-    QObject::connect(ui.menuEditCut, &QAction::triggered, &box, &QTextEdit::cut);
+    QObject::connect(ui.menuEditCut, &QAction::triggered, &box, &RtfBox::cut);
     QObject::connect(ui.menuEditCopy, &QAction::triggered, &box, &QTextEdit::copy);
     QObject::connect(ui.menuEditPaste, &QAction::triggered, &box, &QTextEdit::paste);
+    QObject::connect(ui.menuEditPastePlain, &QAction::triggered, &box, &RtfBox::pastePlain);
     QObject::connect(&box, &QTextEdit::copyAvailable, ui.menuEditCut,
                      [&ui, &box](bool on) { ui.menuEditCut->setEnabled(on && !box.isReadOnly()); });
     QObject::connect(&box, &QTextEdit::copyAvailable, ui.menuEditCopy, &QAction::setEnabled);
     ui.menuEditCut->setEnabled(false);
     ui.menuEditCopy->setEnabled(false);
     // What the clipboard holds is asked only when it is to be seen; the key asks for itself.
-    QObject::connect(ui.menuEdit, &QMenu::aboutToShow, ui.menuEditPaste, [&ui, &box] {
-        ui.menuEditPaste->setEnabled(!box.isReadOnly() && box.canPaste());
-    });
-    QObject::connect(ui.menuEdit, &QMenu::aboutToHide, ui.menuEditPaste,
-                     [&ui] { ui.menuEditPaste->setEnabled(true); });
+    for (QAction *paste : {ui.menuEditPaste, ui.menuEditPastePlain}) {
+        QObject::connect(ui.menuEdit, &QMenu::aboutToShow, paste,
+                         [paste, &box] { paste->setEnabled(!box.isReadOnly() && box.canPaste()); });
+        QObject::connect(ui.menuEdit, &QMenu::aboutToHide, paste,
+                         [paste] { paste->setEnabled(true); });
+    }
 }
 } // namespace
 

@@ -194,13 +194,11 @@ void FormattingBar::setBullet(bool on)
 
 void FormattingBar::applyPlain()
 {
-    QTextCursor oneStepToUndo(m_box->document());
-    oneStepToUndo.beginEditBlock();
+    const RichTextBox::EditStep step(*m_box);
     m_box->setSelBold(false);
     m_box->setSelItalic(false);
     m_box->setSelStrikeThru(false);
     m_box->setSelUnderline(false);
-    oneStepToUndo.endEditBlock();
     done();
 }
 

@@ -1,16 +1,20 @@
 #include "editor/RtfBox.h"
 
+#include "platform/Errors.h"
 #include "platform/Twips.h"
 #include "richtext/RichTextClipboard.h"
 #include "richtext/TextStates.h"
 
+#include <QClipboard>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -45,10 +49,61 @@ RtfBox::RtfBox(QWidget *parent) : QTextEdit(parent)
     setTabStopDistance(pixelsOfTwips(defaultTabTwips));
     document()->setDocumentMargin(documentMargin);
     document()->setIndentWidth(pixelsOfTwips(ParagraphState::BulletTwips));
+    // A step of the undo list that changed nothing is announced by the second signal alone.
+    connect(document(), &QTextDocument::contentsChange, this, [this] { m_changed = true; });
     connect(document(), &QTextDocument::contentsChanged, this, [this] {
-        if (!isLoading())
+        if (std::exchange(m_changed, false) && !isLoading())
             Q_EMIT edited();
     });
+    connect(this, &QTextEdit::cursorPositionChanged, this, [this] {
+        if (!m_typing)
+            m_run.end();
+    });
+}
+
+// What fails is caught where our code ends, before it goes through code that was built without
+// exceptions, and once more around whole events. The text is brought back when the outermost guard
+// ends, since a step of the undo list may be open until then.
+template <typename Action> void RtfBox::guarded(Action action)
+{
+    const int steps = document()->availableUndoSteps();
+    ++m_guards;
+    try {
+        action();
+    } catch (const LimitError &) {
+        m_failure = tr("Ce texte est trop long : un paragraphe ne peut dépasser 32 Mo.");
+    } catch (const std::exception &) {
+        m_failure = tr("Cette action a échoué. Le texte est resté comme il était.");
+    }
+    --m_guards;
+    if (m_guards > 0 || m_failure.isEmpty())
+        return;
+    takeBack(steps);
+    report(std::exchange(m_failure, QString()));
+}
+
+// The steps that failed shall not be there to be done again either.
+void RtfBox::takeBack(int undoSteps)
+{
+    if (document()->availableUndoSteps() <= undoSteps)
+        return;
+    while (document()->availableUndoSteps() > undoSteps)
+        undo();
+    document()->clearUndoRedoStacks(QTextDocument::RedoStack);
+}
+
+// What shows the report lets the box paint itself, which may fail again.
+void RtfBox::report(const QString &frenchText)
+{
+    if (std::exchange(m_reporting, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this, frenchText] {
+            Q_EMIT failed(frenchText);
+            m_reporting = false;
+        },
+        Qt::QueuedConnection);
 }
 
 // Not a null value, with which the document would go and look for itself.
@@ -71,22 +126,56 @@ void RtfBox::insertFromMimeData(const QMimeData *source)
 {
     if (isReadOnly() || source == nullptr)
         return;
-    RichTextClipboard::paste(*this, *source);
-    ensureCursorVisible();
+    guarded([this, source] {
+        RichTextClipboard::paste(*this, *source);
+        ensureCursorVisible();
+    });
+}
+
+void RtfBox::pastePlain()
+{
+    const QMimeData *source = QGuiApplication::clipboard()->mimeData();
+    if (isReadOnly() || source == nullptr)
+        return;
+    guarded([this, source] {
+        RichTextClipboard::pastePlain(*this, *source);
+        ensureCursorVisible();
+    });
+}
+
+// Copying may fail, and what was not copied must not be removed.
+void RtfBox::cut()
+{
+    guarded([this] { QTextEdit::cut(); });
 }
 
 QMimeData *RtfBox::createMimeDataFromSelection() const
 {
-    return RichTextClipboard::mimeData(*this).release();
+    QMimeData *copied = nullptr;
+    // The base declares this const, but a failure is one of the box.
+    const_cast<RtfBox *>(this)->guarded(
+        [this, &copied] { copied = RichTextClipboard::mimeData(*this).release(); });
+    return copied;
 }
 
 bool RtfBox::event(QEvent *event)
 {
-    if (event->type() == QEvent::Paint)
-        paintPage();
-    else if (event->type() == QEvent::Resize)
-        centrePage();
-    return QTextEdit::event(event);
+    bool handled = true;
+    guarded([this, event, &handled] {
+        if (event->type() == QEvent::Paint)
+            paintPage();
+        else if (event->type() == QEvent::Resize)
+            centrePage();
+        handled = QTextEdit::event(event);
+    });
+    return handled;
+}
+
+bool RtfBox::viewportEvent(QEvent *event)
+{
+    bool handled = true;
+    guarded([this, event, &handled] { handled = QTextEdit::viewportEvent(event); });
+    return handled;
 }
 
 void RtfBox::changeEvent(QEvent *event)
@@ -107,17 +196,44 @@ void RtfBox::keyPressEvent(QKeyEvent *event)
         event->setAccepted(plain.isAccepted());
     } else if (takesBulletAway(*event)) {
         setSelBullet(false);
+    } else if (breaksEmptyLine(*event)) {
+        textCursor().insertBlock();
+        ensureCursorVisible();
     } else {
-        QTextEdit::keyPressEvent(event);
+        type(event);
     }
 }
 
-// Left to itself, the edit would turn the bullet into an indent that no file keeps.
+// Insertions that follow one another become one step of the undo list, except into a document that
+// counts as unmodified.
+void RtfBox::type(QKeyEvent *event)
+{
+    const QString text = event->text();
+    const bool typed = !isReadOnly() && !text.isEmpty() && text.front().isPrint();
+    if (typed && m_run.begins(text, textCursor().selectionStart(), event->timestamp()))
+        document()->setModified(false);
+    m_typing = typed;
+    QTextEdit::keyPressEvent(event);
+    m_typing = false;
+}
+
+// Left to itself, the edit would turn the bullet into an indent that no file keeps, or with the key
+// that ends a list take all formatting away.
 bool RtfBox::takesBulletAway(const QKeyEvent &event) const
 {
     const QTextCursor caret = textCursor();
-    return event.key() == Qt::Key_Backspace && !isReadOnly() && !caret.hasSelection() &&
-           caret.atBlockStart() && caret.block().textList() != nullptr;
+    return !isReadOnly() && !caret.hasSelection() && caret.atBlockStart() &&
+           caret.block().textList() != nullptr &&
+           (event.key() == Qt::Key_Backspace ||
+            (caret.atBlockEnd() && event.matches(QKeySequence::InsertParagraphSeparator)));
+}
+
+// Here the edit would take the formatting away and add no line.
+bool RtfBox::breaksEmptyLine(const QKeyEvent &event) const
+{
+    const QTextCursor caret = textCursor();
+    return !isReadOnly() && !caret.hasSelection() && caret.atBlockStart() && caret.atBlockEnd() &&
+           event.matches(QKeySequence::InsertParagraphSeparator);
 }
 
 // Goes by the width of the whole box alone. The viewport's own width depends on the result, and a

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/TypingRun.h"
 #include "richtext/RichTextBox.h"
 
 #include <QTextEdit>
@@ -7,6 +8,9 @@
 // The box on the screen: a page of readable width, centred when there is room for more, in the
 // palette's base colour with surroundings a shade apart. Text in the automatic colour follows the
 // palette. What is pasted or dropped is reduced to the formatting that the box knows.
+//
+// No exception leaves its events and slots: one that comes is reported by failed(), and the text is
+// brought back to what it was before the event.
 class RtfBox : public QTextEdit, public RichTextBox
 {
     Q_OBJECT
@@ -23,9 +27,16 @@ public:
     // Never anything: texts refer to nothing outside.
     QVariant loadResource(int type, const QUrl &name) override;
 
+    void cut();
+    // Puts the text of the clipboard in place of the selection, in the format that is there.
+    void pastePlain();
+
 Q_SIGNALS:
     // The text or its formatting was changed by other means than setText, setRtf and loadFile.
     void edited();
+    // Something failed inside the box, for the reason that the French text gives. Comes when the
+    // event is over; once, however often it failed until then.
+    void failed(const QString &frenchText);
 
 protected:
     QTextCursor cursor() const override { return textCursor(); }
@@ -37,13 +48,25 @@ protected:
     QMimeData *createMimeDataFromSelection() const override;
 
     bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    template <typename Action> void guarded(Action action);
+    void takeBack(int undoSteps);
+    void report(const QString &frenchText);
+    void type(QKeyEvent *event);
     bool takesBulletAway(const QKeyEvent &event) const;
+    bool breaksEmptyLine(const QKeyEvent &event) const;
     void centrePage();
     void paintPage();
 
+    TypingRun m_run;
+    bool m_typing = false;
+    bool m_changed = false; // the document, in the step that is going on
+    int m_guards = 0;       // one within the other
+    QString m_failure;      // since the outermost of them began
+    bool m_reporting = false;
     int m_padding = 0; // pixels of the page on each side of the viewport and above it
 };

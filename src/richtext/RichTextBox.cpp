@@ -10,6 +10,7 @@
 
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <algorithm>
 
 // Replacing the whole text: listeners are told that it is no edit, nothing goes into the undo list
@@ -37,6 +38,16 @@ private:
     RichTextBox &m_box;
     bool m_undo;
 };
+
+RichTextBox::EditStep::EditStep(RichTextBox &box) : m_cursor(box.document())
+{
+    m_cursor.beginEditBlock();
+}
+
+RichTextBox::EditStep::~EditStep()
+{
+    m_cursor.endEditBlock();
+}
 
 namespace
 {
@@ -70,13 +81,13 @@ QString RichTextBox::text() const
 
 void RichTextBox::setText(const QString &text)
 {
+    m_room.check(text);
     const Loading loading(*this);
+    const EditStep step(*this);
     QTextCursor cursor(document());
-    cursor.beginEditBlock();
     const QTextCharFormat format = CharState::plain(m_baseFont).toFormat(m_baseFont);
     cursor.setBlockCharFormat(format);
     cursor.insertText(cleanedText(text), format);
-    cursor.endEditBlock();
 }
 
 int RichTextBox::textLength() const
@@ -97,17 +108,17 @@ void RichTextBox::setRtf(const QByteArray &rtf)
     }
     RtfReader reader(rtf);
     const Loading loading(*this);
-    QTextCursor cursor(document());
-    cursor.beginEditBlock();
-    DocumentBuilder builder(cursor, m_baseFont);
+    const EditStep step(*this);
+    DocumentBuilder builder(QTextCursor(document()), m_baseFont);
     reader.read(builder);
     builder.finish();
-    cursor.endEditBlock();
 }
 
 void RichTextBox::loadFile(const QString &path)
 {
-    setRtf(readWholeFile(path, RtfReader::MaxBytes));
+    const QByteArray rtf = readWholeFile(path, LargestText);
+    m_room.check(rtf, m_baseFont);
+    setRtf(rtf);
 }
 
 void RichTextBox::saveFile(const QString &path) const
@@ -144,11 +155,14 @@ QString RichTextBox::selText() const
 void RichTextBox::setSelText(const QString &text)
 {
     QTextCursor selection = cursor();
+    m_room.take(selection, m_baseFont, text);
     const QTextCharFormat format = SelectionFormats::firstCharFormat(selection);
-    selection.beginEditBlock();
-    selection.removeSelectedText();
-    selection.insertText(cleanedText(text), format);
-    selection.endEditBlock();
+    {
+        const EditStep step(*this);
+        selection.removeSelectedText();
+        selection.insertText(cleanedText(text), format);
+    }
+    m_room.taken(selection);
     setCursor(selection);
 }
 
@@ -164,17 +178,25 @@ void RichTextBox::setSelRtf(const QByteArray &rtf)
         setSelText(QString());
         return;
     }
-    RtfReader reader(rtf);
     QTextCursor selection = cursor();
+    m_room.take(selection, m_baseFont, rtf);
+    RtfReader reader(rtf);
     const QTextBlock last = document()->findBlock(selection.selectionEnd());
     const QTextBlockFormat formatBehind = last.blockFormat();
-    selection.beginEditBlock();
-    selection.removeSelectedText();
-    DocumentBuilder builder(selection, m_baseFont, formatBehind);
-    reader.read(builder);
-    const QTextCursor behind = builder.finish();
-    selection.endEditBlock();
-    setCursor(behind);
+    {
+        const EditStep step(*this);
+        selection.removeSelectedText();
+        DocumentBuilder builder(selection, m_baseFont, formatBehind);
+        reader.read(builder);
+        selection = builder.finish();
+    }
+    m_room.taken(selection);
+    setCursor(selection);
+}
+
+QString RichTextBox::selHtml() const
+{
+    return cursor().selection().toHtml();
 }
 
 int RichTextBox::find(const QString &needle, int start, FindOptions options)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "richtext/TextRoom.h"
+
 #include <QByteArray>
 #include <QColor>
 #include <QFont>
@@ -23,6 +25,9 @@ class QTextDocument;
 // Text that enters is cleaned: every kind of line break is a paragraph break, control characters
 // and placeholders of pictures are left out, half surrogates become U+FFFD.
 //
+// What brings text in refuses what would make a text that could not be read back: it throws
+// LimitError and changes nothing.
+//
 // A selection attribute that has several values within the selection is empty (mixed). With an
 // empty selection the character attributes are those of what would be typed next.
 class RichTextBox
@@ -32,6 +37,19 @@ public:
     struct FindOptions {
         bool wholeWord = false;
         bool matchCase = false;
+    };
+
+    // All that is done to the box during its life is one step of the undo list.
+    class EditStep
+    {
+    public:
+        explicit EditStep(RichTextBox &box);
+        ~EditStep();
+        EditStep(const EditStep &) = delete;
+        EditStep &operator=(const EditStep &) = delete;
+
+    private:
+        QTextCursor m_cursor;
     };
 
     RichTextBox();
@@ -56,8 +74,8 @@ public:
     // document can tell it from changes by the user or to the selection.
     bool isLoading() const { return m_loading; }
 
-    // RTF files. Throw FileError, or FormatError on loading; a failure changes nothing. A file is
-    // replaced whole and durably, and where a link leads.
+    // RTF files. Throw FileError, and FormatError or LimitError on loading; a failure changes
+    // nothing. A file is replaced whole and durably, and where a link leads.
     void loadFile(const QString &path);
     void saveFile(const QString &path) const;
 
@@ -72,6 +90,7 @@ public:
     // RTF of the selected characters. Replacing the selection by RTF keeps the paragraph format of
     // the text behind it. Throws FormatError, and changes nothing, when the bytes are no RTF.
     QByteArray selRtf() const;
+    QString selHtml() const;
     void setSelRtf(const QByteArray &rtf);
 
     std::optional<bool> selBold() const;
@@ -115,6 +134,10 @@ public:
     void setBaseFont(const QString &name, double points);
     const QFont &baseFont() const { return m_baseFont; }
 
+    // Bytes that rtf() may have after setText, setSelText, setSelRtf and loadFile: LargestText,
+    // unless the box is for something else than the text of a paragraph.
+    void setLimit(qint64 bytes) { m_room.setLimit(bytes); }
+
     // The document under the box, for painting and printing. Change it through the box alone.
     virtual QTextDocument *document() const = 0;
 
@@ -133,5 +156,6 @@ private:
     void mergeParagraphs(const QTextBlockFormat &format);
 
     QFont m_baseFont;
+    TextRoom m_room;
     bool m_loading = false;
 };

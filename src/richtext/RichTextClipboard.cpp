@@ -2,9 +2,11 @@
 
 #include "platform/Errors.h"
 #include "richtext/DocumentBuilder.h"
-#include "richtext/RichTextBox.h"
+#include "richtext/HiddenBox.h"
+#include "richtext/RtfPlainText.h"
 #include "richtext/RtfWriter.h"
 #include "richtext/TextCleaning.h"
+#include "richtext/TextLimit.h"
 
 #include <QMimeData>
 #include <QTextDocument>
@@ -132,6 +134,8 @@ bool pasteRtf(RichTextBox &box, const QMimeData &data)
     const QByteArray rtf = rtfOf(data);
     if (rtf.isEmpty())
         return false;
+    if (rtf.size() > LargestText)
+        throw LimitError(QStringLiteral("bytes of pasted RTF"), LargestText);
     try {
         box.setSelRtf(rtf);
         return true;
@@ -139,11 +143,27 @@ bool pasteRtf(RichTextBox &box, const QMimeData &data)
         return false;
     }
 }
+bool pastePlainRtf(RichTextBox &box, const QMimeData &data)
+{
+    HiddenBox reduced;
+    if (!pasteRtf(reduced, data))
+        return false;
+    box.setSelText(reduced.text());
+    return true;
+}
+
+QByteArray rtfOfHtml(const RichTextBox &box, const QMimeData &data)
+{
+    const QFont &base = box.baseFont();
+    return RichTextClipboard::rtfFromHtml(data.html(), base.family(), base.pointSizeF());
+}
 } // namespace
 
 QByteArray RichTextClipboard::rtfFromHtml(const QString &html, const QString &fontName,
                                           double points)
 {
+    if (html.size() > LargestText)
+        throw LimitError(QStringLiteral("characters of HTML"), LargestText);
     QFont base(fontName);
     base.setPointSizeF(points);
     SealedDocument source;
@@ -167,6 +187,7 @@ std::unique_ptr<QMimeData> RichTextClipboard::mimeData(const RichTextBox &box)
         return nullptr;
     auto data = std::make_unique<QMimeData>();
     const QByteArray rtf = box.selRtf();
+    data->setHtml(box.selHtml());
     for (const char *type : {"text/rtf", "application/rtf"})
         data->setData(QString::fromLatin1(type), rtf);
     data->setText(box.selText().replace(QLatin1String("\r\n"), QLatin1String("\n")));
@@ -183,12 +204,22 @@ bool RichTextClipboard::paste(RichTextBox &box, const QMimeData &data)
     if (pasteRtf(box, data))
         return true;
     if (data.hasHtml()) {
-        const QFont &base = box.baseFont();
-        box.setSelRtf(rtfFromHtml(data.html(), base.family(), base.pointSizeF()));
+        box.setSelRtf(rtfOfHtml(box, data));
         return true;
     }
     if (!data.hasText())
         return false;
     box.setSelText(data.text());
+    return true;
+}
+
+bool RichTextClipboard::pastePlain(RichTextBox &box, const QMimeData &data)
+{
+    if (data.hasText())
+        box.setSelText(data.text());
+    else if (data.hasHtml())
+        box.setSelText(rtfToPlainText(rtfOfHtml(box, data)));
+    else
+        return pastePlainRtf(box, data);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "richtext/RtfReader.h"
 
 #include "platform/Errors.h"
+#include "richtext/TextLimit.h"
 
 #include <algorithm>
 #include <array>
@@ -18,8 +19,8 @@ RtfReader::RtfReader(QByteArrayView rtf) : m_tokens(withoutByteOrderMark(rtf))
 {
     if (!withoutByteOrderMark(rtf).startsWith("{\\rtf"))
         throw FormatError(0, QStringLiteral("{\\rtf"));
-    if (rtf.size() > MaxBytes)
-        throw FormatError(MaxBytes, QStringLiteral("the end of the text"));
+    if (rtf.size() > LargestText)
+        throw FormatError(LargestText, QStringLiteral("the end of the text"));
     m_states.emplace_back();
 }
 

@@ -19,11 +19,10 @@
 class RtfReader
 {
 public:
-    static constexpr qsizetype MaxBytes = 32LL * 1024 * 1024;
     static constexpr int MaxDepth = 1000;
 
     // Throws FormatError when the bytes do not begin with {\rtf, a byte order mark aside, or are
-    // more than MaxBytes. The bytes must outlive the reader.
+    // more than LargestText. The bytes must outlive the reader.
     explicit RtfReader(QByteArrayView rtf);
 
     // Once only: the text is read as it goes.

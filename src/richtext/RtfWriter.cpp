@@ -66,6 +66,19 @@ private:
     QList<Key> m_keys;
 };
 
+void appendChar(QByteArray &bytes, QChar c)
+{
+    if (c == u'\t')
+        bytes += "\\tab ";
+    else if (c == u'\n')
+        bytes += "\r\n\\par ";
+    else if (isAsciiText(c))
+        bytes += c.toLatin1();
+    else if (c == QChar(QChar::Nbsp))
+        bytes += "\\~";
+    else
+        bytes += escaped(c);
+}
 } // namespace
 
 class RtfStream::Writer
@@ -81,7 +94,6 @@ private:
     void writeBlock(const QTextBlock &block, int from, int to);
     void startParagraph(const ParagraphState &state);
     void writeText(const QString &text, const CharState &state);
-    void writeChar(QChar c);
     void writeCharState(const CharState &state);
 
     QFont m_base;
@@ -158,26 +170,8 @@ void RtfStream::Writer::writeText(const QString &text, const CharState &state)
     for (const QChar c : cleaned) {
         if (m_chars != state)
             writeCharState(state);
-        writeChar(c);
+        appendChar(m_body, c);
     }
-}
-
-void RtfStream::Writer::writeChar(QChar c)
-{
-    if (c == u'\t') {
-        m_body += "\\tab ";
-        return;
-    }
-    if (c == u'\n') {
-        m_body += "\r\n\\par ";
-        return;
-    }
-    if (isAsciiText(c))
-        m_body += c.toLatin1();
-    else if (c == QChar(QChar::Nbsp))
-        m_body += "\\~";
-    else
-        m_body += escaped(c);
 }
 
 void RtfStream::Writer::writeCharState(const CharState &state)
@@ -252,4 +246,16 @@ QByteArray writeRtf(const QTextDocument &document, const QFont &base, int from, 
     RtfStream stream(base);
     const QByteArray body = stream.end(document, from, to);
     return stream.header() + body;
+}
+
+qint64 writtenSize(const QString &text)
+{
+    qint64 size = 0;
+    QByteArray character;
+    for (const QChar c : cleanedText(text)) {
+        character.resize(0);
+        appendChar(character, c);
+        size += character.size();
+    }
+    return size;
 }

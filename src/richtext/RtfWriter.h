@@ -4,6 +4,7 @@
 #include <memory>
 
 class QFont;
+class QString;
 class QTextDocument;
 
 // Writes a document, or the characters between two document positions, as RTF: 7-bit, in one fixed
@@ -20,6 +21,9 @@ class QTextDocument;
 // font. Frames and pictures are left out.
 QByteArray writeRtf(const QTextDocument &document, const QFont &base);
 QByteArray writeRtf(const QTextDocument &document, const QFont &base, int from, int to);
+
+// The bytes of a text of one formatting within what writeRtf gives, without the formatting.
+qint64 writtenSize(const QString &text);
 
 // Writes one document as the parts of it come, for texts that are larger than a document should be.
 // Put together, header() and all that the other calls gave are what writeRtf would give.

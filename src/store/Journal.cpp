@@ -2,6 +2,7 @@
 
 #include "platform/Errors.h"
 #include "platform/SafeFile.h"
+#include "richtext/TextLimit.h"
 #include "store/ParagraphStore.h"
 
 #include <QCryptographicHash>

@@ -4,6 +4,7 @@
 #include "platform/OpenedFile.h"
 #include "platform/SafeFile.h"
 #include "richtext/RichTextBox.h"
+#include "richtext/TextLimit.h"
 #include "store/Journal.h"
 #include "store/ReferenceIndex.h"
 

@@ -9,9 +9,6 @@ class RichTextBox;
 // The two-level store of paragraph texts: an untouched paragraph is read from the adventure file,
 // an edited one from its working file.
 
-// Bytes. No paragraph is near this; a working file that is has been replaced by something else.
-constexpr qint64 LargestText = 32 * 1024 * 1024;
-
 // "LTdI-" for "La Tour d'Ivoire.usm": the first character, each character that follows an
 // apostrophe, a space or a hyphen, and a hyphen. Adventures with the same initials share names.
 QString filePrefixOf(const QString &adventureFileName);

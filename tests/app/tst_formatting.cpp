@@ -52,7 +52,7 @@ private Q_SLOTS:
 
     void plainTextTakesAllStylesAway()
     {
-        const WindowFixture fixture(oneText());
+        WindowFixture fixture(oneText());
         RtfBox &box = fixture.box();
         box.select(0, 5);
         box.setSelBold(true);
@@ -65,6 +65,12 @@ private Q_SLOTS:
         for (const Style style : styles)
             QCOMPARE((box.*style)(), std::optional(false));
         box.undo(); // one step
+        fixture.adventure.variables.ParagraphDirty = false;
+        box.select(1, 0);
+        fixture.click("btnPlain"); // for what is typed next, which changes nothing yet
+        QVERIFY(!fixture.adventure.variables.ParagraphDirty);
+        QVERIFY(box.document()->isRedoAvailable());
+        QCOMPARE(box.selBold(), std::optional(false));
         box.select(0, 5);
         for (const Style style : styles)
             QCOMPARE((box.*style)(), std::optional(true));

@@ -1,5 +1,6 @@
 #include "Look.h"
 #include "platform/Errors.h"
+#include "platform/SafeFile.h"
 #include "support/TestTable.h"
 
 #include <QTemporaryDir>
@@ -218,6 +219,35 @@ private Q_SLOTS:
         box.setSelIndent(nan);
         box.setSelTabs({-1, 0, 1e9});
         QCOMPARE(box.rtf(), before);
+    }
+
+    // What the box refuses, the reader would refuse as well; what it takes can be read back.
+    void nothingGrowsBeyondTheLimit()
+    {
+        constexpr int limit = 100'000;
+        const QByteArray accents = "{\\rtf1 " + QByteArray(limit / 4, '\xe9') + "}";
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("grand.rtf");
+        writeWholeFile(path, accents, Durability::Data, Links::Follow);
+        HiddenBox box;
+        box.setLimit(limit);
+        box.setText("reste");
+        const QByteArray before = box.rtf();
+        QVERIFY_THROWS_EXCEPTION(LimitError, box.setText(QString(limit, u'a')));
+        QVERIFY_THROWS_EXCEPTION(LimitError, box.setSelText(QString(limit / 4, u'é')));
+        QVERIFY_THROWS_EXCEPTION(LimitError, box.setSelRtf(accents));
+        QVERIFY_THROWS_EXCEPTION(LimitError, box.loadFile(path));
+        QCOMPARE(box.rtf(), before);
+        int pieces = 0;
+        const auto fill = [&box, &pieces] {
+            for (;; ++pieces)
+                box.setSelText(QString(1000, u'é'));
+        };
+        QVERIFY_THROWS_EXCEPTION(LimitError, fill());
+        QCOMPARE(pieces, 22); // of 4,000 bytes, and room kept for formatting
+        QVERIFY(box.rtf().size() <= limit);
+        at(box, 0, 999'999).setSelText("neuf");
+        QCOMPARE(box.text(), "neuf");
     }
 
     void manyTextsLeaveNothingBehind()

@@ -75,14 +75,16 @@ private Q_SLOTS:
     {
         const QString html = "<p>html</p>";
         const QString plain = "brut\nsuite";
-        addTable<QByteArray, QString, QString, QString>(
-            {"rtf", "html", "plain", "text"}, {
-                                                  {"RTF", "{\\rtf1 rtf}", html, plain, "[rtf]"},
-                                                  {"bad RTF", "rtf", html, plain, "[html]"},
-                                                  {"HTML", "", html, plain, "[html]"},
-                                                  {"text", "", "", plain, "[brut\r\nsuite]"},
-                                                  {"nothing", "", "", "", "[x]"},
-                                              });
+        addTable<QByteArray, QString, QString, QString, QString>(
+            {"rtf", "html", "plain", "text", "alone"},
+            {
+                {"RTF", "{\\rtf1 rtf}", html, plain, "[rtf]", "[brut\r\nsuite]"},
+                {"RTF only", "{\\rtf1\\b rtf}", "", "", "[rtf]", "[rtf]"},
+                {"bad RTF", "rtf", html, plain, "[html]", "[brut\r\nsuite]"},
+                {"HTML", "", html, "", "[html]", "[html]"},
+                {"text", "", "", plain, "[brut\r\nsuite]", "[brut\r\nsuite]"},
+                {"nothing", "", "", "", "[x]", "[x]"},
+            });
     }
     void bestFormIsPasted()
     {
@@ -103,6 +105,11 @@ private Q_SLOTS:
         QCOMPARE(box.text(), text);
         QCOMPARE(pasted, text != "[x]");
         QCOMPARE(RichTextClipboard::canPaste(data), pasted);
+        box.setText("[x]");
+        at(box, 1, 1).setSelBold(true);
+        QCOMPARE(RichTextClipboard::pastePlain(box, data), pasted);
+        QTEST(box.text(), "alone");
+        QCOMPARE(look(box, 1, 1), "b");
     }
 
     void copyPastesTheSame()

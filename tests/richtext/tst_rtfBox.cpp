@@ -2,6 +2,7 @@
 #include "editor/RtfBox.h"
 #include "support/TestTable.h"
 
+#include <QDropEvent>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
@@ -121,6 +122,105 @@ private Q_SLOTS:
         QCOMPARE(looks(box), "/[a]");
     }
 
+    void enterOnAnEmptyLineKeepsItsFormat()
+    {
+        RtfBox box;
+        box.setText({});
+        box.setSelAlignment(RichTextBox::Alignment::Centre);
+        box.setSelIndent(1);
+        box.setSelBold(true);
+        QTest::keyClick(&box, Qt::Key_Return);
+        QTest::keyClicks(&box, "x");
+        QCOMPARE(looks(box), "/[x b c li1]");
+        QCOMPARE(look(box, 0, 0), "c li1");
+        // A bullet ends its list and leaves the rest.
+        box.select(99, 0);
+        QTest::keyClick(&box, Qt::Key_Return);
+        box.setSelBullet(true);
+        QTest::keyClick(&box, Qt::Key_Return);
+        QTest::keyClicks(&box, "y");
+        QCOMPARE(looks(box), "/[x b c li1]/[y b c li1]");
+    }
+
+    void typingIsUndoneByWordsAndShortRuns()
+    {
+        RtfBox box;
+        box.setText({});
+        quint64 now = 5000;
+        const auto type = [&box, &now](const QString &text, quint64 wait = 0) {
+            now += wait;
+            for (const QChar c : text) {
+                now += 100;
+                QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+                key.setTimestamp(now);
+                QCoreApplication::sendEvent(&box, &key);
+            }
+        };
+        type("un  deux, abcdefghijklmnopqrstuvwxyz");
+        type("PAUSE", 1000);
+        QTest::keyClick(&box, Qt::Key_Left);
+        QTest::keyClick(&box, Qt::Key_Right);
+        type("x");
+        QTest::keyClick(&box, Qt::Key_Return);
+        type("fin");
+        QStringList steps;
+        for (; box.document()->isUndoAvailable(); box.undo())
+            steps.prepend(box.text());
+        const QString all = "un  deux, abcdefghijklmnopqrstuvwxyzPAUSEx\r\nfin";
+        QStringList expected;
+        for (const int length : {4, 10, 30, 36, 41, 42, 44, 47})
+            expected += all.left(length);
+        QCOMPARE(steps, expected);
+        while (box.document()->isRedoAvailable())
+            box.redo();
+        QCOMPARE(box.text(), all);
+    }
+
+    // Content that fails when it is asked for, pasted and dropped upon the text that it came from.
+    void failuresAreReportedAndTakenBack()
+    {
+        struct : QMimeData {
+            bool hasFormat(const QString &) const override { return true; }
+            QStringList formats() const override { return {"text/plain"}; }
+            QVariant retrieveData(const QString &, QMetaType) const override
+            {
+                throw std::bad_alloc();
+            }
+        } failing;
+        OpenBox box;
+        box.resize(300, 300);
+        box.setText("un deux");
+        box.show();
+        QTest::keyClicks(&box, "x");
+        box.selectAll();
+        QSignalSpy failed(&box, &RtfBox::failed);
+        box.insertFromMimeData(&failing);
+        QDropEvent drop(QPointF(5, 5), Qt::MoveAction, &failing, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(box.viewport(), &drop);
+        QVERIFY(failed.isEmpty()); // the event comes first
+        QTRY_COMPARE(failed.count(), 1);
+        QVERIFY(failed.at(0).at(0).toString().startsWith("Cette action a échoué."));
+        QCOMPARE(box.text(), "xun deux");
+        box.undo();
+        QCOMPARE(box.text(), "un deux");
+    }
+
+    void pastingTooMuchLeavesTheBox()
+    {
+        OpenBox box;
+        box.setText("reste");
+        const QByteArray before = box.rtf();
+        QSignalSpy failed(&box, &RtfBox::failed);
+        QMimeData html;
+        html.setHtml(QString(20'000, u'\u2605'));
+        box.setLimit(100'000);
+        box.insertFromMimeData(&html);
+        QCOMPARE(box.rtf(), before);
+        QTRY_COMPARE(failed.count(), 1);
+        QVERIFY(failed.at(0).at(0).toString().startsWith("Ce texte est trop long"));
+        QVERIFY(!box.document()->isUndoAvailable());
+    }
+
     void pasteGoesThroughOurRtf()
     {
         OpenBox box;
@@ -134,7 +234,7 @@ private Q_SLOTS:
         box.select(1, 4);
         const std::unique_ptr<QMimeData> copied(box.createMimeDataFromSelection());
         QVERIFY(copied->data("text/rtf").startsWith("{\\rtf1"));
-        QVERIFY(!copied->hasHtml());
+        QVERIFY(copied->html().contains("font-weight"));
         box.undo();
         box.setReadOnly(true);
         box.insertFromMimeData(&html);

@@ -2,7 +2,7 @@
 #include "platform/SafeFile.h"
 #include "richtext/HiddenBox.h"
 #include "richtext/RtfPlainText.h"
-#include "richtext/RtfReader.h"
+#include "richtext/TextLimit.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -34,7 +34,7 @@ class TestRtfCorpus : public QObject
     }
     QByteArray content(const QString &name) const
     {
-        return readWholeFile(m_folder.filePath(name), RtfReader::MaxBytes);
+        return readWholeFile(m_folder.filePath(name), LargestText);
     }
 
 private Q_SLOTS:

@@ -1,7 +1,7 @@
 #include "Look.h"
 #include "platform/Errors.h"
 #include "richtext/RtfPlainText.h"
-#include "richtext/RtfReader.h"
+#include "richtext/TextLimit.h"
 #include "support/TestTable.h"
 
 #include <QTest>
@@ -128,7 +128,7 @@ private Q_SLOTS:
 
     void notRtfIsRefused()
     {
-        const QByteArray large = "{\\rtf1 " + QByteArray(RtfReader::MaxBytes, 'a');
+        const QByteArray large = "{\\rtf1 " + QByteArray(LargestText, 'a');
         for (const QByteArray &bytes :
              {QByteArray("Bonjour"), QByteArray("{\\RTF1 a}"), QByteArray(" {\\rtf1 a}"), large}) {
             QVERIFY_THROWS_EXCEPTION(FormatError, rtfToPlainText(bytes));

@@ -7,6 +7,8 @@
 #include "richtext/RtfWriter.h"
 #include "store/ParagraphStore.h"
 
+#include <limits>
+
 namespace
 {
 // The document is written as it is made, a paragraph of the adventure at a time: each is put
@@ -18,6 +20,7 @@ public:
         : m_variables(variables), m_style(style), m_file(path, Durability::Full, Links::Follow),
           m_body(path), m_stream(m_part.baseFont())
     {
+        m_part.setLimit(std::numeric_limits<qint64>::max()); // a text of any size, and its number
     }
 
     int run(const ExportRange &range, const Progress &progress)
