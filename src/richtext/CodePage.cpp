@@ -110,7 +110,8 @@ int CodePage::fromFontCharset(int charset)
 
 QString CodePage::decode(QByteArrayView bytes, int page)
 {
-    const bool ascii = std::all_of(bytes.begin(), bytes.end(), [](char c) { return c >= 0; });
+    const bool ascii = std::all_of(bytes.begin(), bytes.end(),
+                                   [](char c) { return static_cast<uchar>(c) < 0x80; });
     if (ascii || page == Windows1252)
         return fromWindows1252(bytes);
     auto found = m_decoders.find(page);

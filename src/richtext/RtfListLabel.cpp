@@ -1,15 +1,12 @@
 #include "richtext/RtfListLabel.h"
 
+#include "platform/Ascii.h"
+
 #include <QByteArray>
 #include <algorithm>
 
 namespace
 {
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 // A bullet may be a letter of a picture font, so a letter alone does not make a number.
 bool isNumber(const QByteArray &label)
 {

@@ -1,5 +1,7 @@
 #include "richtext/RtfTokenizer.h"
 
+#include "platform/Ascii.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -12,22 +14,9 @@ bool isLetter(char c)
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 bool endsText(char c)
 {
     return c == '\\' || c == '{' || c == '}' || c == '\r' || c == '\n';
-}
-
-int hexValue(char c)
-{
-    if (isDigit(c))
-        return c - '0';
-    const char lower = static_cast<char>(c | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 } // namespace
 
@@ -131,8 +120,8 @@ RtfToken RtfTokenizer::hex()
     token.byte = '\'';
     if (m_rtf.size() - m_at < 2)
         return token;
-    const int high = hexValue(m_rtf[m_at]);
-    const int low = hexValue(m_rtf[m_at + 1]);
+    const int high = hexadecimalValue(m_rtf[m_at]);
+    const int low = hexadecimalValue(m_rtf[m_at + 1]);
     if (high < 0 || low < 0)
         return token;
     m_at += 2;

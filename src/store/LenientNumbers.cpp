@@ -1,5 +1,7 @@
 #include "store/LenientNumbers.h"
 
+#include "platform/Ascii.h"
+
 #include <QByteArray>
 #include <algorithm>
 #include <cmath>
@@ -10,11 +12,6 @@ namespace
 bool isBlank(QChar c)
 {
     return c == u' ' || c == u'\t' || c == u'\n';
-}
-
-bool isDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
 }
 
 int clampToInt(double value)
@@ -64,7 +61,7 @@ private:
 
     void takeDigits()
     {
-        while (isDigit(next()))
+        while (isAsciiDigit(next()))
             takeOne();
     }
 

@@ -1,5 +1,6 @@
 #include "store/ReferenceIndex.h"
 
+#include "platform/Ascii.h"
 #include "platform/Errors.h"
 #include "richtext/RtfPlainText.h"
 #include "store/LenientNumbers.h"
@@ -14,11 +15,6 @@ constexpr qsizetype NumberCharacters = 5;
 double numberAt(QStringView text, qsizetype position)
 {
     return lenientNumber(text.mid(position, NumberCharacters));
-}
-
-bool isDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
 }
 } // namespace
 
@@ -104,7 +100,7 @@ int numberAround(QStringView text, qsizetype caret)
     if (caret < 0 || caret >= text.size())
         return 0;
     qsizetype before = caret;
-    while (before > 0 && isDigit(text.at(before)))
+    while (before > 0 && isAsciiDigit(text.at(before)))
         --before;
     return roundHalfEven(numberAt(text, before + 1));
 }

@@ -1,6 +1,7 @@
 #include "convert/html/EditorLayout.h"
 
 #include "convert/html/HtmlPass.h"
+#include "platform/Ascii.h"
 
 #include <algorithm>
 #include <array>
@@ -20,7 +21,7 @@ bool isLetter(char c)
 
 bool isHexadecimalDigit(char c)
 {
-    return isDecimalDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+    return hexadecimalValue(c) >= 0;
 }
 
 // For characters that are few.
@@ -119,7 +120,7 @@ private:
     static bool isNumber(QByteArrayView text)
     {
         const QByteArrayView digits = text.sliced(text.startsWith('-') ? 1 : 0);
-        return !digits.isEmpty() && std::all_of(digits.begin(), digits.end(), isDecimalDigit);
+        return !digits.isEmpty() && std::all_of(digits.begin(), digits.end(), isDigit);
     }
 
     static bool holdsFormats(QByteArrayView run)
@@ -135,7 +136,7 @@ private:
                 (word == "ls" && !hasBullet(run)))
                 return false;
             at += at != end && *at == '-' ? 1 : 0;
-            at = std::find_if_not(at, end, isDecimalDigit);
+            at = std::find_if_not(at, end, isDigit);
         }
         return true;
     }

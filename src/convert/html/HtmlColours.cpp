@@ -1,6 +1,7 @@
 #include "convert/html/HtmlColours.h"
 
 #include "convert/html/HtmlText.h"
+#include "platform/Ascii.h"
 
 #include <algorithm>
 
@@ -14,7 +15,7 @@ int numberAt(QByteArrayView text, qsizetype from, qsizetype characters)
 {
     int number = 0;
     const qsizetype end = std::min(from + characters, text.size());
-    for (qsizetype at = from; at < end && isDecimalDigit(text.at(at)); ++at)
+    for (qsizetype at = from; at < end && isDigit(text.at(at)); ++at)
         number = number * 10 + (text.at(at) - '0');
     return number;
 }

@@ -1,5 +1,7 @@
 #include "convert/html/HtmlLinks.h"
 
+#include "platform/Ascii.h"
+
 #include <algorithm>
 
 namespace
@@ -26,9 +28,9 @@ QByteArray HtmlLinks::apply(QByteArrayView html)
     m_visible.reserve(static_cast<std::size_t>(html.size()));
     auto at = html.begin();
     while (at != html.end()) {
-        const auto digits = std::find_if(at, html.end(), isDecimalDigit);
+        const auto digits = std::find_if(at, html.end(), isDigit);
         takeText(QByteArrayView(at, digits));
-        at = std::find_if_not(digits, html.end(), isDecimalDigit);
+        at = std::find_if_not(digits, html.end(), isDigit);
         takeDigits(QByteArrayView(digits, at));
     }
     return m_html.bytes();

@@ -1,5 +1,6 @@
 #include "convert/html/HtmlPass.h"
 
+#include "platform/Ascii.h"
 #include "platform/Errors.h"
 
 #include <QChar>
@@ -35,23 +36,13 @@ std::optional<char32_t> unicodeCharacter(QByteArrayView run)
         return {};
     const QByteArrayView number = run.sliced(2);
     const QByteArrayView digits = number.sliced(number.startsWith('-') ? 1 : 0);
-    if (digits.isEmpty() || !std::all_of(digits.begin(), digits.end(), isDecimalDigit))
+    if (digits.isEmpty() || !std::all_of(digits.begin(), digits.end(), isDigit))
         return {};
     bool ok = false;
     const int value = number.toInt(&ok);
     if (!ok)
         return QChar::ReplacementCharacter;
     return static_cast<char32_t>(value < 0 ? value + 0x10000 : value);
-}
-
-std::optional<int> hexadecimalDigit(char c)
-{
-    if (isDecimalDigit(c))
-        return c - '0';
-    const char lower = static_cast<char>(c | 0x20);
-    if (lower >= 'a' && lower <= 'f')
-        return lower - 'a' + 10;
-    return {};
 }
 } // namespace
 
@@ -124,10 +115,10 @@ void HtmlPass::takeHexadecimal()
     int code = 0;
     const qsizetype end = std::min(m_at + 4, m_rtf.size());
     for (qsizetype at = m_at + 2; at < end; ++at) {
-        const std::optional<int> value = hexadecimalDigit(m_rtf.at(at));
-        if (!value)
+        const int value = hexadecimalValue(m_rtf.at(at));
+        if (value < 0)
             break;
-        code = code * 16 + *value;
+        code = code * 16 + value;
     }
     const auto digit = [code](int unit) { return static_cast<char>('0' + code / unit % 10); };
     const std::array entity{'&', '#', digit(100), digit(10), digit(1), ';'};

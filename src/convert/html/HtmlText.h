@@ -26,8 +26,3 @@ QByteArray toHtmlBytes(QStringView text);
 
 // "&#N;" with the character's number; what HTML has no number for gives U+FFFD's.
 QByteArray numericEntity(char32_t character);
-
-constexpr bool isDecimalDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
