@@ -137,6 +137,7 @@ void formUsmira::connectFormatting()
 {
     m_ui->formattingBar->attach(*m_ui->rtfBox);
     m_ui->frameTabPanel->attach(*m_ui->rtfBox);
+    connect(m_ui->frameTabPanel, &TabPanel::tabRefused, this, [this] { m_prompts.beep(); });
     connect(m_ui->formattingBar, &FormattingBar::moreClicked, this, &formUsmira::btnMore_Click);
 }
 

@@ -1,5 +1,6 @@
 #include "editor/RtfBox.h"
 
+#include "editor/PageColours.h"
 #include "platform/Errors.h"
 #include "platform/Twips.h"
 #include "richtext/RichTextClipboard.h"
@@ -25,7 +26,6 @@ constexpr int largestPadding = 24;
 constexpr int narrowestPadded = 240; // a box as narrow as this has no padding to spare
 constexpr int charactersPerLine = 72;
 constexpr int largestGapAbove = 12;
-constexpr int defaultTabTwips = 720;
 
 // The page's colour moved a little towards that of its text, so that the two differ in light and
 // dark palettes alike.
@@ -44,9 +44,12 @@ QColor surroundings(const QPalette &palette)
 
 RtfBox::RtfBox(QWidget *parent) : QTextEdit(parent)
 {
+    // Not before: a child announces itself by an event, for which all members must be there.
+    m_colours = new PageColours(this, document());
+    m_colours->setPage(palette().color(QPalette::Base));
     setFrameShape(QFrame::NoFrame);
     setFont(baseFont());
-    setTabStopDistance(pixelsOfTwips(defaultTabTwips));
+    setTabStopDistance(pixelsOfTwips(ParagraphState::DefaultTabTwips));
     document()->setDocumentMargin(documentMargin);
     document()->setIndentWidth(pixelsOfTwips(ParagraphState::BulletTwips));
     // A step of the undo list that changed nothing is announced by the second signal alone.
@@ -184,7 +187,8 @@ void RtfBox::changeEvent(QEvent *event)
     if (event->type() == QEvent::FontChange)
         centrePage();
     else if (event->type() == QEvent::PaletteChange)
-        update();
+        m_colours->setPage(palette().color(QPalette::Base));
+    update();
 }
 
 // There are no line breaks within a paragraph: the key for them gives a paragraph break.

@@ -5,9 +5,12 @@
 
 #include <QTextEdit>
 
+class PageColours;
+
 // The box on the screen: a page of readable width, centred when there is room for more, in the
 // palette's base colour with surroundings a shade apart. Text in the automatic colour follows the
-// palette. What is pasted or dropped is reduced to the formatting that the box knows.
+// palette, and other colours are painted lighter where a dark page asks for it. What is pasted or
+// dropped is reduced to the formatting that the box knows.
 //
 // No exception leaves its events and slots: one that comes is reported by failed(), and the text is
 // brought back to what it was before the event.
@@ -62,6 +65,7 @@ private:
     void centrePage();
     void paintPage();
 
+    PageColours *m_colours = nullptr;
     TypingRun m_run;
     bool m_typing = false;
     bool m_changed = false; // the document, in the step that is going on

@@ -6,6 +6,7 @@
 #include "ui_TabPanel.h"
 
 #include <QEvent>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <cmath>
 
@@ -43,11 +44,23 @@ double asTyped(double centimetres)
     return centimetres;
 }
 
-// Unlike a paragraph number, an indent may be negative: a first line that hangs.
-double indentOf(const QString &text)
+// Authors write the comma of their language.
+double numberOf(QString text)
 {
-    const QString number = text.trimmed();
-    return number.startsWith(u'-') ? -lenientNumber(number.mid(1)) : lenientNumber(number);
+    return lenientNumber(text.replace(u',', u'.'));
+}
+
+// Unlike a paragraph number, an indent may be negative: a first line that hangs. Empty while the
+// text is no number, as what is left of a mark for several values; a field without text is zero.
+std::optional<double> indentOf(const QString &text)
+{
+    static const QRegularExpression number(QStringLiteral("^\\s*(-?)\\s*([.,]?\\d.*)?$"));
+    const QRegularExpressionMatch match = number.match(text);
+    const bool signOnly = match.capturedLength(1) > 0 && match.capturedLength(2) == 0;
+    if (!match.hasMatch() || signOnly)
+        return std::nullopt;
+    const double distance = numberOf(match.captured(2));
+    return match.capturedLength(1) > 0 ? -distance : distance;
 }
 
 void showIndent(QLineEdit &field, std::optional<double> value)
@@ -59,7 +72,8 @@ void showIndent(QLineEdit &field, std::optional<double> value)
 TabPanel::TabPanel(QWidget *parent) : QGroupBox(parent), m_ui(std::make_unique<Ui::TabPanel>())
 {
     m_ui->setupUi(this);
-    m_ui->txtNewTab->installEventFilter(this);
+    for (QLineEdit *field : {m_ui->txtLeft, m_ui->txtFirst, m_ui->txtRight, m_ui->txtNewTab})
+        field->installEventFilter(this);
 }
 
 TabPanel::~TabPanel() = default;
@@ -87,11 +101,12 @@ void TabPanel::connectIndent(QLineEdit &field, Setter set)
 
 void TabPanel::applyIndent(Setter set, const QString &text)
 {
-    if (text == severalIndents())
+    const std::optional<double> indent = indentOf(text);
+    if (!indent)
         return;
     const QScopedValueRollback applying(m_applying, true);
     RichTextBox &box = *m_box;
-    (box.*set)(indentOf(text));
+    (box.*set)(*indent);
 }
 
 void TabPanel::refresh()
@@ -112,14 +127,23 @@ void TabPanel::refresh()
 
 bool TabPanel::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_ui->txtNewTab && event->type() == QEvent::MouseButtonRelease)
-        m_ui->txtNewTab->selectAll();
+    auto *field = qobject_cast<QLineEdit *>(watched);
+    const bool clicked = event->type() == QEvent::MouseButtonRelease;
+    const bool mark = field != nullptr && field->text() == severalIndents();
+    if ((clicked && (mark || field == m_ui->txtNewTab)) ||
+        (mark && event->type() == QEvent::FocusIn))
+        field->selectAll();
     return QGroupBox::eventFilter(watched, event);
 }
 
 void TabPanel::addTab()
 {
-    const QString tab = asCentimetres(lenientNumber(m_ui->txtNewTab->text()));
+    const QString tab = asCentimetres(numberOf(m_ui->txtNewTab->text()));
+    if (tab.toDouble() <= 0) {
+        m_ui->txtNewTab->selectAll();
+        Q_EMIT tabRefused();
+        return;
+    }
     m_ui->txtNewTab->setText(tab);
     if (!m_ui->tabList->findItems(tab, Qt::MatchExactly).isEmpty())
         return;

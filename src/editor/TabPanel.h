@@ -28,6 +28,10 @@ public:
     // Shows the selection's indents and tab stops; changes nothing in the text.
     void refresh();
 
+Q_SIGNALS:
+    // What stands in the field for a new tab stop is no place for one.
+    void tabRefused();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -16,22 +16,12 @@ double centimetresOfTwips(int twips)
     return twips / Twips::PerCentimetre;
 }
 
-double centimetresOfPixels(double pixels)
-{
-    return centimetresOfTwips(twipsOfPixels(pixels));
-}
-
 int twipsOfCentimetres(double centimetres)
 {
     if (!std::isfinite(centimetres))
         return 0;
     constexpr double limit = ParagraphState::MaxTwips;
     return qRound(std::clamp(centimetres * Twips::PerCentimetre, -limit, limit));
-}
-
-double pixelsOfCentimetres(double centimetres)
-{
-    return pixelsOfTwips(twipsOfCentimetres(centimetres));
 }
 } // namespace
 
@@ -166,26 +156,26 @@ std::optional<bool> RichTextBox::selBullet() const
         cursor(), [](const QTextBlock &block) { return block.textList() != nullptr; });
 }
 
-std::optional<double> RichTextBox::selDistance(double (*distance)(const QTextBlockFormat &)) const
+std::optional<double> RichTextBox::selDistance(int ParagraphState::*distance) const
 {
     return SelectionFormats::commonOfBlocks(cursor(), [distance](const QTextBlock &block) {
-        return centimetresOfPixels(distance(block.blockFormat()));
+        return centimetresOfTwips(ParagraphState::of(block).*distance);
     });
 }
 
 std::optional<double> RichTextBox::selIndent() const
 {
-    return selDistance([](const QTextBlockFormat &format) { return format.leftMargin(); });
+    return selDistance(&ParagraphState::left);
 }
 
 std::optional<double> RichTextBox::selHangingIndent() const
 {
-    return selDistance([](const QTextBlockFormat &format) { return format.textIndent(); });
+    return selDistance(&ParagraphState::first);
 }
 
 std::optional<double> RichTextBox::selRightIndent() const
 {
-    return selDistance([](const QTextBlockFormat &format) { return format.rightMargin(); });
+    return selDistance(&ParagraphState::right);
 }
 
 std::optional<QList<double>> RichTextBox::selTabs() const
@@ -200,45 +190,41 @@ std::optional<QList<double>> RichTextBox::selTabs() const
     return centimetres;
 }
 
-void RichTextBox::mergeParagraphs(const QTextBlockFormat &format)
-{
-    SelectionFormats::mergeIntoBlocks(cursor(), format);
-}
-
 void RichTextBox::setSelAlignment(Alignment alignment)
 {
-    QTextBlockFormat format;
-    if (alignment == Alignment::Left)
-        format.setAlignment(Qt::AlignLeft);
-    else
-        format.setAlignment(alignment == Alignment::Right ? Qt::AlignRight : Qt::AlignHCenter);
-    mergeParagraphs(format);
+    SelectionFormats::changeBlocks(cursor(), [alignment](ParagraphState &state) {
+        if (alignment == Alignment::Left)
+            state.alignment = Qt::AlignLeft;
+        else
+            state.alignment = alignment == Alignment::Right ? Qt::AlignRight : Qt::AlignHCenter;
+    });
 }
 
 void RichTextBox::setSelBullet(bool on)
 {
-    SelectionFormats::setBullets(cursor(), on);
+    SelectionFormats::changeBlocks(cursor(), [on](ParagraphState &state) { state.bullet = on; });
+}
+
+void RichTextBox::setDistance(int ParagraphState::*distance, double centimetres)
+{
+    const int twips = twipsOfCentimetres(centimetres);
+    SelectionFormats::changeBlocks(
+        cursor(), [distance, twips](ParagraphState &state) { state.*distance = twips; });
 }
 
 void RichTextBox::setSelIndent(double centimetres)
 {
-    QTextBlockFormat format;
-    format.setLeftMargin(pixelsOfCentimetres(centimetres));
-    mergeParagraphs(format);
+    setDistance(&ParagraphState::left, centimetres);
 }
 
 void RichTextBox::setSelHangingIndent(double centimetres)
 {
-    QTextBlockFormat format;
-    format.setTextIndent(pixelsOfCentimetres(centimetres));
-    mergeParagraphs(format);
+    setDistance(&ParagraphState::first, centimetres);
 }
 
 void RichTextBox::setSelRightIndent(double centimetres)
 {
-    QTextBlockFormat format;
-    format.setRightMargin(pixelsOfCentimetres(centimetres));
-    mergeParagraphs(format);
+    setDistance(&ParagraphState::right, centimetres);
 }
 
 void RichTextBox::setSelTabs(const QList<double> &centimetres)
@@ -248,12 +234,8 @@ void RichTextBox::setSelTabs(const QList<double> &centimetres)
         if (position * Twips::PerCentimetre <= ParagraphState::MaxTwips)
             sorted.addTab(twipsOfCentimetres(position));
     }
-    QList<QTextOption::Tab> tabs;
-    for (const int tab : sorted.tabs)
-        tabs.append(QTextOption::Tab(pixelsOfTwips(tab), QTextOption::LeftTab));
-    QTextBlockFormat format;
-    format.setTabPositions(tabs);
-    mergeParagraphs(format);
+    SelectionFormats::changeBlocks(cursor(),
+                                   [&sorted](ParagraphState &state) { state.tabs = sorted.tabs; });
 }
 
 void RichTextBox::setSelPlain()

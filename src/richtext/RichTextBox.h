@@ -10,9 +10,9 @@
 #include <QTextCursor>
 #include <optional>
 
-class QTextBlockFormat;
 class QTextCharFormat;
 class QTextDocument;
+struct ParagraphState;
 
 // A rich text with a selection: the one interface through which the program reads and changes the
 // texts of paragraphs, on the screen and off it. It works over a QTextDocument and a text cursor
@@ -151,9 +151,9 @@ private:
     class Loading;
 
     std::optional<bool> selHas(bool (*has)(const QTextCharFormat &)) const;
-    std::optional<double> selDistance(double (*distance)(const QTextBlockFormat &)) const;
+    std::optional<double> selDistance(int ParagraphState::*distance) const;
+    void setDistance(int ParagraphState::*distance, double centimetres);
     void mergeChars(const QTextCharFormat &format);
-    void mergeParagraphs(const QTextBlockFormat &format);
 
     QFont m_baseFont;
     TextRoom m_room;

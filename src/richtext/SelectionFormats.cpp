@@ -44,12 +44,16 @@ void putIntoList(const QTextBlock &block)
         cursor.createList(bulletListFormat());
 }
 
-// QTextList::remove would turn the list's indent into one of the paragraph.
-void takeFromList(const QTextBlock &block)
+// A format without a list takes the block out of its list. QTextList::remove would turn the list's
+// indent into one of the paragraph.
+void setState(const QTextBlock &block, const ParagraphState &state, const ParagraphState &before)
 {
-    QTextBlockFormat format = block.blockFormat();
-    format.setObjectIndex(-1);
+    QTextBlockFormat format = state.toFormat();
+    if (state.bullet && before.bullet)
+        format.setObjectIndex(block.blockFormat().objectIndex());
     QTextCursor(block).setBlockFormat(format);
+    if (state.bullet && !before.bullet)
+        putIntoList(block);
 }
 } // namespace
 
@@ -114,25 +118,17 @@ void SelectionFormats::mergeIntoRuns(QTextCursor selection, const QTextCharForma
     selection.endEditBlock();
 }
 
-void SelectionFormats::mergeIntoBlocks(QTextCursor selection, const QTextBlockFormat &format)
-{
-    const QList<QTextBlock> blocks = blocksOf(selection);
-    selection.beginEditBlock();
-    for (const QTextBlock &block : blocks)
-        QTextCursor(block).mergeBlockFormat(format);
-    selection.endEditBlock();
-}
-
-void SelectionFormats::setBullets(QTextCursor selection, bool on)
+void SelectionFormats::changeBlocks(QTextCursor selection,
+                                    const std::function<void(ParagraphState &)> &change)
 {
     const QList<QTextBlock> blocks = blocksOf(selection);
     selection.beginEditBlock();
     for (const QTextBlock &block : blocks) {
-        const bool has = block.textList() != nullptr;
-        if (on && !has)
-            putIntoList(block);
-        else if (!on && has)
-            takeFromList(block);
+        const ParagraphState before = ParagraphState::of(block);
+        ParagraphState state = before;
+        change(state);
+        if (state != before)
+            setState(block, state, before);
     }
     selection.endEditBlock();
 }

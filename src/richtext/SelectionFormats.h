@@ -1,5 +1,7 @@
 #pragma once
 
+#include "richtext/TextStates.h"
+
 #include <QTextBlock>
 #include <QTextCursor>
 #include <functional>
@@ -54,8 +56,7 @@ template <typename Get> auto commonOfBlocks(const QTextCursor &selection, Get ge
 
 // Changes within one step of the undo list.
 void mergeIntoRuns(QTextCursor selection, const QTextCharFormat &format);
-void mergeIntoBlocks(QTextCursor selection, const QTextBlockFormat &format);
-void setBullets(QTextCursor selection, bool on);
+void changeBlocks(QTextCursor selection, const std::function<void(ParagraphState &)> &change);
 // Replaces every format: the characters get this one, the paragraphs the empty one.
 void setPlain(QTextCursor &selection, const QTextCharFormat &format);
 } // namespace SelectionFormats

@@ -40,6 +40,39 @@ int bounded(double pixels)
 {
     return std::clamp(twipsOfPixels(pixels), -ParagraphState::MaxTwips, ParagraphState::MaxTwips);
 }
+
+// Left tab stops have no use for a delimiter: this one marks those that nobody set.
+constexpr QChar impliedTab = u'+';
+
+QTextOption::Tab tabAt(int twips, int start, QChar delimiter = {})
+{
+    return {pixelsOfTwips(twips - start), QTextOption::LeftTab, delimiter};
+}
+
+QList<QTextOption::Tab> tabPositions(const ParagraphState &state)
+{
+    constexpr int distance = ParagraphState::DefaultTabTwips;
+    constexpr int widestPage = 20 * distance;
+    const int start = state.start();
+    int last = state.tabs.isEmpty() ? start : std::max(start, state.tabs.back());
+    QList<QTextOption::Tab> positions;
+    for (const int tab : state.tabs)
+        positions.append(tabAt(tab, start));
+    if (state.first < 0) {
+        const int hanging = start - state.first;
+        positions.append(tabAt(hanging, start, impliedTab));
+        last = std::max(last, hanging);
+    }
+    if (start % distance != 0) {
+        for (int tab = distance; tab < widestPage; tab += distance) {
+            if (tab > last)
+                positions.append(tabAt(tab, start, impliedTab));
+        }
+    }
+    std::sort(positions.begin(), positions.end(),
+              [](const auto &one, const auto &other) { return one.position < other.position; });
+    return positions;
+}
 } // namespace
 
 double pixelsOfTwips(int twips)
@@ -110,9 +143,11 @@ ParagraphState ParagraphState::of(const QTextBlock &block)
     state.left = bounded(format.leftMargin());
     state.first = bounded(format.textIndent());
     state.right = bounded(format.rightMargin());
-    for (const QTextOption::Tab &tab : format.tabPositions())
-        state.addTab(twipsOfPixels(tab.position));
     state.bullet = block.textList() != nullptr;
+    for (const QTextOption::Tab &tab : format.tabPositions()) {
+        if (tab.delimiter != impliedTab)
+            state.addTab(twipsOfPixels(tab.position) + state.start());
+    }
     return state;
 }
 
@@ -127,9 +162,7 @@ QTextBlockFormat ParagraphState::toFormat() const
         format.setTextIndent(pixelsOfTwips(first));
     if (right != 0)
         format.setRightMargin(pixelsOfTwips(right));
-    QList<QTextOption::Tab> positions;
-    for (const int tab : tabs)
-        positions.append(QTextOption::Tab(pixelsOfTwips(tab), QTextOption::LeftTab));
+    const QList<QTextOption::Tab> positions = tabPositions(*this);
     if (!positions.isEmpty())
         format.setTabPositions(positions);
     return format;

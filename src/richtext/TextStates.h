@@ -43,10 +43,19 @@ struct ParagraphState {
     static constexpr int MaxTabs = 64;
     // How far the text of a bullet stands behind the bullet.
     static constexpr int BulletTwips = 360;
+    // Between the tab stops behind the last one that was set.
+    static constexpr int DefaultTabTwips = 720;
 
     static ParagraphState of(const QTextBlock &block);
 
     // The format alone; the list to which a bullet belongs is the document's.
+    //
+    // Tab stops are counted from the margin of the page, but a document counts them from where a
+    // line starts, so that its positions depend on the indents and the bullet: whoever changes one
+    // of these sets the whole format. The document gets further stops, which are not ours: a
+    // hanging first line has one at the left indent, and where the document's own distance would
+    // be counted from an indent, there are stops at that distance from the margin. Where the first
+    // line has an indent of its own, the positions are true for the first line alone.
     QTextBlockFormat toFormat() const;
 
     // Takes a position only when it is sensible, new and there is room; keeps ascending order.
@@ -57,6 +66,9 @@ struct ParagraphState {
     void settleBullet();
 
     bool operator==(const ParagraphState &) const = default;
+
+    // Where the first line starts.
+    int start() const { return left + first + (bullet ? BulletTwips : 0); }
 
     Qt::Alignment alignment = Qt::AlignLeft; // left, right or horizontally centred
     int left = 0;                            // twips, like all distances

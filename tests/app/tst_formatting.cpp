@@ -152,6 +152,8 @@ private Q_SLOTS:
         box.setSelTabs({2});
         box.select(0, 8);
         QCOMPARE(shown(), QStringLiteral("//(mix)/0.0/(mixed)"));
+        fixture.field("txtLeft").setFocus();
+        QCOMPARE(fixture.field("txtLeft").selectedText(), QStringLiteral("(mix)"));
         box.select(0, 2);
         QCOMPARE(shown(), QStringLiteral("Courier/ 20/1.5/0.0/2.0"));
         // An added tab stop takes the place of the mark.
@@ -180,9 +182,11 @@ private Q_SLOTS:
             {"txtLeft", "1.25", 1.25, &RichTextBox::selIndent},
             {"txtFirst", "-0.5", -0.5, &RichTextBox::selHangingIndent},
             {"txtRight", "2", 2, &RichTextBox::selRightIndent},
-            {"txtLeft", "abc", 0, &RichTextBox::selIndent},
+            {"txtLeft", "abc", 1.25, &RichTextBox::selIndent},
+            {"txtLeft", "1,5 cm", 1.5, &RichTextBox::selIndent},
+            {"txtFirst", "-,25", -0.25, &RichTextBox::selHangingIndent},
             {"txtLeft", "3", 3, &RichTextBox::selIndent},
-            {"txtLeft", "(mix)", 0, &RichTextBox::selIndent}};
+            {"txtLeft", "(mix)7", 3, &RichTextBox::selIndent}};
         for (const auto &[field, typed, indent, applied] : cases) {
             QLineEdit &edit = fixture.field(field);
             edit.setFocus();
@@ -200,12 +204,13 @@ private Q_SLOTS:
         const WindowFixture fixture(oneText());
         fixture.click("btnMore");
         QLineEdit &tab = fixture.field("txtNewTab");
-        for (const char *typed : {"3", "1", "1.0", "12.3456"}) {
+        for (const char *typed : {"3", "1", "1.0", "12,3456", "0", "-2", "abc", "0.0004"}) {
             QTest::mouseClick(&tab, Qt::LeftButton);
             QTest::keyClicks(&tab, QString::fromLatin1(typed));
             fixture.click("btnAddTab");
         }
         QCOMPARE(fixture.entries("tabList"), QStringLiteral("1.0|3.0|12.346"));
+        QCOMPARE(fixture.prompts.beeps(), 4); // for those that are no places
         const QList<double> tabs = fixture.box().selTabs().value_or(QList<double>());
         QCOMPARE(tabs.size(), 3);
         QVERIFY(near(tabs.at(0), 1) && near(tabs.at(2), 12.346));

@@ -4,8 +4,11 @@
 
 #include <QDropEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <memory>
 
 namespace
@@ -219,6 +222,90 @@ private Q_SLOTS:
         QTRY_COMPARE(failed.count(), 1);
         QVERIFY(failed.at(0).at(0).toString().startsWith("Ce texte est trop long"));
         QVERIFY(!box.document()->isUndoAvailable());
+    }
+
+    void tabsAreDrawnFromTheMargin_data()
+    {
+        addTable<double, double, bool, double, double>(
+            {"left", "first", "bullet", "tab", "drawn"},
+            {{"no indent", 0.0, 0.0, false, 4.0, 4.0},
+             {"indents", 1.5, 1.0, false, 4.0, 4.0},
+             {"hanging", 1.5, -1.0, false, 4.0, 1.5},
+             {"before the hanging indent", 1.5, -1.0, false, 1.0, 1.0},
+             {"bullet", 1.0, 0.0, true, 4.0, 4.0},
+             {"left of the line", 3.0, 0.0, false, 2.0, 3.81},
+             {"usual distance", 1.5, 0.0, false, 0.0, 2.54},
+             {"usual distance of a bullet", 0.0, 0.0, true, 0.0, 1.27}});
+    }
+    void tabsAreDrawnFromTheMargin()
+    {
+        QFETCH(double, left);
+        QFETCH(double, first);
+        QFETCH(bool, bullet);
+        QFETCH(double, tab);
+        QFETCH(double, drawn);
+        constexpr double pixels = 96 / 2.54;
+        RtfBox box;
+        box.resize(900, 300);
+        box.show();
+        const auto drawnAt = [&box, pixels] {
+            QTextCursor caret(box.document());
+            caret.setPosition(1);
+            return (box.cursorRect(caret).left() + box.horizontalScrollBar()->value() -
+                    box.document()->documentMargin()) /
+                   pixels;
+        };
+        for (const bool tabsFirst : {true, false}) {
+            box.setText("\tX");
+            if (tabsFirst)
+                box.setSelTabs({tab});
+            box.setSelIndent(left);
+            box.setSelHangingIndent(first);
+            box.setSelBullet(bullet);
+            if (!tabsFirst)
+                box.setSelTabs({tab});
+            QVERIFY2(qAbs(drawnAt() - drawn) < 0.04, qPrintable(QString::number(drawnAt())));
+            const QByteArray rtf = box.rtf();
+            QCOMPARE(rtf.count("\\tx"), tab > 0 ? 1 : 0);
+            QVERIFY(tab == 0 ||
+                    rtf.contains("\\tx" + QByteArray::number(qRound(tab * 1440 / 2.54))));
+            box.setRtf(rtf);
+            QCOMPARE(box.rtf(), rtf);
+            QVERIFY2(qAbs(drawnAt() - drawn) < 0.04, qPrintable(QString::number(drawnAt())));
+        }
+    }
+
+    void coloursAreLighterOnADarkPageAlone()
+    {
+        RtfBox box;
+        box.setText("a bleu z");
+        at(box, 2, 4).setSelColor(qRgb(0, 0, 255));
+        const QByteArray rtf = box.rtf();
+        QSignalSpy edited(&box, &RtfBox::edited);
+        const auto painted = [&box](const QColor &page) {
+            QPalette palette;
+            palette.setColor(QPalette::Base, page);
+            box.setPalette(palette);
+            QCoreApplication::processEvents();
+            QColor colour;
+            for (const auto &range : box.document()->firstBlock().layout()->formats()) {
+                if (range.start <= 2 && range.start + range.length >= 6)
+                    colour = range.format.foreground().color();
+            }
+            return colour;
+        };
+        QVERIFY(!painted(Qt::white).isValid());
+        const QColor onGrey = painted(QColor(45, 45, 45));
+        QVERIFY(onGrey.blue() == 255 && onGrey.red() > 100 && onGrey.red() == onGrey.green());
+        QVERIFY(painted(Qt::black).red() < onGrey.red());
+        QVERIFY(!painted(Qt::white).isValid());
+        QVERIFY(edited.isEmpty());
+        QCOMPARE(box.rtf(), rtf);
+        QCOMPARE(look(box, 2, 4), "#0000ff");
+        painted(Qt::black);
+        box.setRtf(rtf); // another text is painted so from the start
+        QVERIFY(!box.document()->firstBlock().layout()->formats().isEmpty());
+        QVERIFY(!box.document()->isUndoAvailable() && edited.isEmpty());
     }
 
     void pasteGoesThroughOurRtf()

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QColor>
+#include <QSyntaxHighlighter>
+
+// A colour in which text can be read upon a dark page: the same, or a lighter one of its hue, so
+// that the contrast is 4.5 to 1. On a light page every colour is as it was chosen.
+QColor readableColour(const QColor &colour, const QColor &page);
+
+// Paints the chosen colours of a text so that they can be read upon a dark page. It changes what is
+// painted and nothing else: neither the document nor its undo list nor what is copied or saved.
+//
+// It sets the additional formats of the text's layouts, of which there is one set for each
+// paragraph: whatever else marks text shall use the extra selections of its view.
+class PageColours : public QSyntaxHighlighter
+{
+    Q_OBJECT
+
+public:
+    PageColours(QObject *parent, QTextDocument *document);
+
+    // A light page needs no work at all.
+    void setPage(const QColor &page);
+
+protected:
+    void highlightBlock(const QString &text) override;
+
+private:
+    QTextDocument *m_document;
+    QColor m_page;
+};
