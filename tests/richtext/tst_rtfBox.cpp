@@ -62,10 +62,6 @@ private Q_SLOTS:
             {
                 {"key", [](RtfBox &box) { QTest::keyClicks(&box, "x"); }},
                 {"bold", [](RtfBox &box) { box.setSelBold(true); }},
-                {"size", [](RtfBox &box) { box.setSelFontSize(30); }},
-                {"colour", [](RtfBox &box) { box.setSelColor(qRgb(1, 2, 3)); }},
-                {"alignment",
-                 [](RtfBox &box) { box.setSelAlignment(RichTextBox::Alignment::Centre); }},
                 {"bullet", [](RtfBox &box) { box.setSelBullet(true); }},
                 {"tabs",
                  [](RtfBox &box) {
