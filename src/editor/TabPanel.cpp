@@ -6,7 +6,6 @@
 #include "ui_TabPanel.h"
 
 #include <QEvent>
-#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <cmath>
 
@@ -50,17 +49,15 @@ double numberOf(QString text)
     return lenientNumber(text.replace(u',', u'.'));
 }
 
-// Unlike a paragraph number, an indent may be negative: a first line that hangs. Empty while the
-// text is no number, as what is left of a mark for several values; a field without text is zero.
+// Unlike a paragraph number, an indent may be negative: a first line that hangs. Text that is no
+// number is an indent of 0: required. Only the mark of several indents, also while it is being
+// typed over, is none.
 std::optional<double> indentOf(const QString &text)
 {
-    static const QRegularExpression number(QStringLiteral("^\\s*(-?)\\s*([.,]?\\d.*)?$"));
-    const QRegularExpressionMatch match = number.match(text);
-    const bool signOnly = match.capturedLength(1) > 0 && match.capturedLength(2) == 0;
-    if (!match.hasMatch() || signOnly)
+    const QString number = text.trimmed();
+    if (number.startsWith(u'('))
         return std::nullopt;
-    const double distance = numberOf(match.captured(2));
-    return match.capturedLength(1) > 0 ? -distance : distance;
+    return number.startsWith(u'-') ? -numberOf(number.mid(1)) : numberOf(number);
 }
 
 void showIndent(QLineEdit &field, std::optional<double> value)

@@ -182,7 +182,7 @@ private Q_SLOTS:
             {"txtLeft", "1.25", 1.25, &RichTextBox::selIndent},
             {"txtFirst", "-0.5", -0.5, &RichTextBox::selHangingIndent},
             {"txtRight", "2", 2, &RichTextBox::selRightIndent},
-            {"txtLeft", "abc", 1.25, &RichTextBox::selIndent},
+            {"txtLeft", "abc", 0, &RichTextBox::selIndent},
             {"txtLeft", "1,5 cm", 1.5, &RichTextBox::selIndent},
             {"txtFirst", "-,25", -0.25, &RichTextBox::selHangingIndent},
             {"txtLeft", "3", 3, &RichTextBox::selIndent},
