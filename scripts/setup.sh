@@ -38,6 +38,9 @@ install_missing() {
         "${missing[@]}"
 }
 
+# Without these ccache does not keep what was compiled with a precompiled header.
+export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
+
 # A warning fails continuous integration, and nobody else.
 CMAKE_OPTIONS=(${CI:+-DUSMIRA_WERROR=ON})
 
