@@ -3,11 +3,9 @@
 #include "convert/html/manyHTML.h"
 #include "convert/html/onebigHTML.h"
 #include "convert/rtf/convertRTF.h"
+#include "editor/CommandRunner.h"
 #include "editor/EditorView.h"
-#include "editor/MenuStates.h"
 #include "editor/RtfBox.h"
-#include "platform/Guarded.h"
-#include "ui_formUsmira.h"
 
 ConversionsMenu::ConversionsMenu(Variables &variables, Prompts &prompts, EditorView &view,
                                  WorkReport &report, QWidget &window)
@@ -16,46 +14,19 @@ ConversionsMenu::ConversionsMenu(Variables &variables, Prompts &prompts, EditorV
 {
 }
 
-void ConversionsMenu::connectItems(const Ui::formUsmira &ui, MenuStates &states)
+void ConversionsMenu::connectItems(const Items &items, const RtfBox &box, CommandRunner &runner)
 {
-    const auto connectItem = [this](const QAction *item, auto command) {
-        connectGuarded(item, &QAction::triggered, &m_window, m_prompts, [this, command] {
-            if (!m_variables.AdventureOpen)
-                return;
-            command();
-            m_view.focusEditor();
-        });
-    };
-    connectItem(ui.menuConvRTF, [this] { publish<convertRTF>(); });
-    connectItem(ui.menuConvSave1, [this] { menuConvSave1_Click(); });
-    connectItem(ui.menuConvLoad1, [this, &ui] { menuConvLoad1_Click(*ui.rtfBox); });
-    connectItem(ui.menuConv1toHTML, [this] { publish<onebigHTML>(); });
-    connectItem(ui.menuConvNtoHTML, [this] { publish<manyHTML>(m_lastFolder); });
-    states.add(*ui.menuConv, ui.menuConv->actions());
-}
-
-// Saving moves the caret to the start, but publishing is no reason to lose one's place.
-void ConversionsMenu::saveInPlace()
-{
-    RichTextBox &box = m_view.editingBox();
-    const int start = box.selStart();
-    const int length = box.selLength();
-    const bool moves = m_variables.ParagraphDirty;
-    m_view.SaveCurParg();
-    if (moves)
-        box.select(start, length);
+    using Kind = CommandRunner::Kind;
+    runner.add(items.rtf, Kind::Saved, [this] { publish<convertRTF>(); });
+    runner.add(items.saveOne, Kind::Saved, [this] { m_single.Save(); });
+    runner.add(items.loadOne, Kind::Editing, [this, &box] { menuConvLoad1_Click(box); });
+    runner.add(items.oneHtml, Kind::Saved, [this] { publish<onebigHTML>(); });
+    runner.add(items.manyHtml, Kind::Saved, [this] { publish<manyHTML>(m_lastFolder); });
 }
 
 template <typename Dialog, typename... State> void ConversionsMenu::publish(State &...state)
 {
-    saveInPlace();
     Dialog(m_variables, m_prompts, m_report, state..., &m_window).exec();
-}
-
-void ConversionsMenu::menuConvSave1_Click()
-{
-    saveInPlace();
-    m_single.Save();
 }
 
 // A box that takes no text stands for one that could not be read, which must not be replaced.

@@ -4,20 +4,13 @@
 
 #include <QString>
 
+class CommandRunner;
 class EditorView;
-class MenuStates;
+class QAction;
 class QWidget;
-class WorkReport;
 class RtfBox;
 
-namespace Ui
-{
-class formUsmira;
-}
-
-// The commands of the menu "Conversions". Those that publish save the current paragraph first, do
-// nothing more when that fails, and leave the selection where it is. All give the focus back to the
-// editing box at the end.
+// The commands of the menu "Conversions".
 class ConversionsMenu
 {
 public:
@@ -25,12 +18,18 @@ public:
     ConversionsMenu(Variables &variables, Prompts &prompts, EditorView &view, WorkReport &report,
                     QWidget &window);
 
-    void connectItems(const Ui::formUsmira &ui, MenuStates &states);
+    struct Items {
+        QAction &rtf;
+        QAction &saveOne;
+        QAction &loadOne;
+        QAction &oneHtml;
+        QAction &manyHtml;
+    };
+    // box is the one of the view.
+    void connectItems(const Items &items, const RtfBox &box, CommandRunner &runner);
 
 private:
-    void saveInPlace();
     template <typename Dialog, typename... State> void publish(State &...state);
-    void menuConvSave1_Click();
     void menuConvLoad1_Click(const RtfBox &box);
 
     const Variables &m_variables;

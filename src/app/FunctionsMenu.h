@@ -2,34 +2,33 @@
 
 #include "renumber/RenumberCommands.h"
 
-class EditorView;
-class MenuStates;
+class CommandRunner;
+class QAction;
 class QWidget;
 class WorkReport;
 
-namespace Ui
-{
-class formUsmira;
-}
-
-// The commands of the menu "Fonctions". Each saves the current paragraph first, does nothing more
-// when that fails, and gives the focus back to the editing box at the end.
+// The commands of the menu "Fonctions".
 class FunctionsMenu
 {
 public:
     // window is the one that the dialogs stand on.
-    FunctionsMenu(Variables &variables, Prompts &prompts, EditorView &view, WorkReport &report,
-                  QWidget &window);
+    FunctionsMenu(Variables &variables, Prompts &prompts, WorkReport &report, QWidget &window);
 
-    void connectItems(const Ui::formUsmira &ui, MenuStates &states);
+    struct Items {
+        QAction &masterMix;
+        QAction &swap;
+        QAction &blockMove;
+        QAction &packHoles;
+        QAction &count;
+    };
+    void connectItems(const Items &items, CommandRunner &runner);
 
 private:
-    template <typename Dialog> void renumber();
+    template <typename Dialog> void show();
     void menuComCount_Click();
 
     const Variables &m_variables;
     Prompts &m_prompts;
-    EditorView &m_view;
     QWidget &m_window;
     RenumberCommands m_commands;
 };

@@ -1,8 +1,9 @@
 #include "app/InfoMenu.h"
 
 #include "editor/EditorView.h"
-#include "ui_formUsmira.h"
+#include "platform/Guarded.h"
 
+#include <QAction>
 #include <QCoreApplication>
 
 InfoMenu::InfoMenu(const Variables &variables, Prompts &prompts, EditorView &view)
@@ -10,14 +11,14 @@ InfoMenu::InfoMenu(const Variables &variables, Prompts &prompts, EditorView &vie
 {
 }
 
-void InfoMenu::connectItems(const Ui::formUsmira &ui)
+void InfoMenu::connectItems(const Items &items)
 {
-    QObject::connect(ui.menuInfoAide, &QAction::triggered, &m_help,
-                     [this] { m_help.showHelp(helpWindow::Tag::French); });
-    QObject::connect(ui.menuInfoHelp, &QAction::triggered, &m_help,
-                     [this] { m_help.showHelp(helpWindow::Tag::English); });
-    QObject::connect(ui.menuInfoAbout, &QAction::triggered, &m_help,
-                     [this] { menuInfoAbout_Click(); });
+    connectGuarded(&items.aide, &QAction::triggered, &m_help, m_prompts,
+                   [this] { m_help.showHelp(helpWindow::Tag::French); });
+    connectGuarded(&items.help, &QAction::triggered, &m_help, m_prompts,
+                   [this] { m_help.showHelp(helpWindow::Tag::English); });
+    connectGuarded(&items.about, &QAction::triggered, &m_help, m_prompts,
+                   [this] { menuInfoAbout_Click(); });
 }
 
 void InfoMenu::menuInfoAbout_Click()

@@ -4,11 +4,7 @@
 
 class EditorView;
 class Prompts;
-
-namespace Ui
-{
-class formUsmira;
-}
+class QAction;
 
 // The commands of the menu "Aide", with the window of the help.
 class InfoMenu
@@ -16,7 +12,12 @@ class InfoMenu
 public:
     InfoMenu(const Variables &variables, Prompts &prompts, EditorView &view);
 
-    void connectItems(const Ui::formUsmira &ui);
+    struct Items {
+        QAction &aide;
+        QAction &help;
+        QAction &about;
+    };
+    void connectItems(const Items &items);
     void closeHelp() { m_help.close(); }
 
 private:

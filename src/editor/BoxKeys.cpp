@@ -3,8 +3,12 @@
 #include "editor/FormattingBar.h"
 #include "editor/RtfBox.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyleHints>
+#include <exception>
+#include <utility>
 
 BoxKeys::BoxKeys(const Variables &variables, RtfBox &box, FormattingBar &bar)
     : QObject(&box), m_variables(variables), m_box(box), m_bar(bar)
@@ -20,29 +24,44 @@ bool BoxKeys::eventFilter(QObject *watched, QEvent *event)
         return handleKey(*static_cast<QKeyEvent *>(event), false);
     case QEvent::KeyPress:
         return handleKey(*static_cast<QKeyEvent *>(event), true);
-    case QEvent::MouseButtonRelease: {
+    case QEvent::MouseButtonPress: {
         const auto &mouse = *static_cast<QMouseEvent *>(event);
+        m_pressed.reset();
         if (watched == m_box.viewport() && mouse.button() == Qt::LeftButton &&
-            mouse.modifiers() == Qt::ControlModifier && !m_box.textCursor().hasSelection()) {
-            putCaretBeforeCharacterAt(mouse.position().toPoint());
-            // The box finishes its own handling of the click before its text is replaced.
-            QMetaObject::invokeMethod(this, &BoxKeys::ctrlClicked, Qt::QueuedConnection);
-        }
+            mouse.modifiers() == Qt::ControlModifier)
+            m_pressed = mouse.position().toPoint();
         return false;
     }
+    case QEvent::MouseButtonRelease:
+        handleRelease(*static_cast<QMouseEvent *>(event));
+        return false;
     default:
         return false;
     }
 }
 
+// The press may have been on a selection, to drag it, or the beginning of one: it was a click when
+// the mouse has not been moved. The box finishes its own handling of the click first.
+void BoxKeys::handleRelease(const QMouseEvent &event)
+{
+    const std::optional<QPoint> pressed = std::exchange(m_pressed, std::nullopt);
+    const QPoint position = event.position().toPoint();
+    if (!pressed || (position - *pressed).manhattanLength() >=
+                        QGuiApplication::styleHints()->startDragDistance())
+        return;
+    QMetaObject::invokeMethod(
+        this, [this, position] { followClick(position); }, Qt::QueuedConnection);
+}
+
 // A click on the right half of a character puts the caret behind it. Behind the last digit of a
 // number that would be the character after the number, and nothing to follow.
-void BoxKeys::putCaretBeforeCharacterAt(const QPoint &position)
+void BoxKeys::followClick(const QPoint &position)
 {
     QTextCursor caret = m_box.cursorForPosition(position);
     if (!caret.atBlockStart() && position.x() < m_box.cursorRect(caret).left())
         caret.movePosition(QTextCursor::Left);
     m_box.setTextCursor(caret);
+    Q_EMIT ctrlClicked();
 }
 
 // Accepting the question whether a key is a shortcut keeps it from the menus.
@@ -51,9 +70,14 @@ bool BoxKeys::handleKey(QKeyEvent &event, bool press)
     const Command command = commandOf(event);
     if (command == nullptr)
         return false;
-    if (press)
-        (m_bar.*command)();
     event.accept();
+    if (!press)
+        return true;
+    try {
+        (m_bar.*command)();
+    } catch (const std::exception &) {
+        QMetaObject::invokeMethod(this, &BoxKeys::failed, Qt::QueuedConnection);
+    }
     return true;
 }
 

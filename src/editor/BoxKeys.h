@@ -3,9 +3,12 @@
 #include "store/Variables.h"
 
 #include <QObject>
+#include <QPoint>
+#include <optional>
 
 class FormattingBar;
 class QKeyEvent;
+class QMouseEvent;
 class RtfBox;
 
 // The keys and clicks with Ctrl that the editing box answers itself, before any menu.
@@ -21,6 +24,9 @@ Q_SIGNALS:
     // that was clicked.
     void ctrlClicked();
 
+    // A key could not do its work; the text is as before or half changed.
+    void failed();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -28,9 +34,11 @@ private:
     using Command = void (FormattingBar::*)();
     Command commandOf(const QKeyEvent &event) const;
     bool handleKey(QKeyEvent &event, bool press);
-    void putCaretBeforeCharacterAt(const QPoint &position);
+    void handleRelease(const QMouseEvent &event);
+    void followClick(const QPoint &position);
 
     const Variables &m_variables;
     RtfBox &m_box;
     FormattingBar &m_bar;
+    std::optional<QPoint> m_pressed; // where, with Ctrl held
 };

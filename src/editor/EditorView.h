@@ -2,20 +2,27 @@
 
 #include "store/AdventureCommands.h"
 
-// The main window as the commands of the editor see it.
+#include <functional>
+
+// The paragraph on the screen as the commands see it.
 class EditorView : public AdventureView
 {
 public:
     // Saves the editing box as the current paragraph. Throws FileError: the caller must then stay.
     virtual void SaveCurParg() = 0;
 
+    // Runs work and puts the author back where he was in the text, unless another text is on the
+    // screen then.
+    virtual void keepingPlace(const std::function<void()> &work) = 0;
+
+    // LoadParg of the current number, after a command that may have given it another text. When
+    // that one cannot be shown (FileError, FormatError) the box is empty and takes no text: the
+    // one that was in it must not be saved under this number.
+    virtual void showAgain() = 0;
+
     // The text in the box is no longer the one that was loaded: it is to be saved, and what stands
     // around the box follows it.
     virtual void rtfBox_Change() = 0;
-
-    // After LoadParg has failed on the current number itself, whose text is no longer the one in
-    // the box: the box is empty and takes no text until LoadParg succeeds.
-    virtual void showNothing() = 0;
 
     virtual void focusEditor() = 0;
 };

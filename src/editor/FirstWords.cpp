@@ -1,8 +1,9 @@
 #include "editor/FirstWords.h"
 
-#include "platform/Errors.h"
 #include "richtext/HiddenBox.h"
 #include "store/ParagraphStore.h"
+
+#include <exception>
 
 QString firstWords(const Variables &variables, int n)
 {
@@ -15,7 +16,7 @@ QString firstWords(const Variables &variables, int n)
             return text;
         const qsizetype end = text.lastIndexOf(u' ', longest);
         return text.left(end > 0 ? end : longest) + QStringLiteral(" …");
-    } catch (const UsmiraError &) {
+    } catch (const std::exception &) {
         return {};
     }
 }

@@ -3,21 +3,51 @@
 #include "editor/EditorView.h"
 #include "editor/ParagraphSearch.h"
 #include "richtext/RichTextBox.h"
+#include "store/AdventureEvents.h"
 #include "store/LenientNumbers.h"
 #include "store/ReferenceIndex.h"
 
 Navigation::Navigation(const Variables &variables, Prompts &prompts, EditorView &view)
     : m_variables(variables), m_prompts(prompts), m_view(view)
 {
+    connect(variables.Events.get(), &AdventureEvents::adventureReplaced, this, [this] {
+        m_history.clear();
+        Q_EMIT historyChanged();
+    });
 }
 
 void Navigation::goTo(int n)
 {
-    if (!m_variables.AdventureOpen)
-        return;
+    const int from = m_variables.CurrentParagraph;
+    show(n);
+    m_history.go(from, n);
+    Q_EMIT historyChanged();
+}
+
+void Navigation::show(int n)
+{
     m_view.SaveCurParg();
     m_view.LoadParg(n);
-    m_view.focusEditor();
+}
+
+void Navigation::goBack()
+{
+    const std::optional<int> n = m_history.before();
+    if (!n)
+        return;
+    show(*n);
+    m_history.stepBack();
+    Q_EMIT historyChanged();
+}
+
+void Navigation::goForward()
+{
+    const std::optional<int> n = m_history.after();
+    if (!n)
+        return;
+    show(*n);
+    m_history.stepForward();
+    Q_EMIT historyChanged();
 }
 
 void Navigation::goToFirst()
@@ -44,43 +74,28 @@ void Navigation::goToPrevious()
 
 void Navigation::goWhere(Search search)
 {
-    if (!m_variables.AdventureOpen)
-        return;
     if (const std::optional<int> found = search(m_variables, m_variables.CurrentParagraph))
         goTo(*found);
     else
         m_prompts.beep();
-    m_view.focusEditor();
 }
 
-bool Navigation::goToTyped(const QString &number)
+std::optional<int> Navigation::typedNumber(const QString &number)
 {
-    if (!m_variables.AdventureOpen)
-        return true;
     const int n = roundHalfEven(lenientNumber(number));
-    if (n > Variables::LastParagraph) {
-        m_prompts.beep();
-        return false;
-    }
-    goTo(n);
-    return true;
+    return n <= Variables::LastParagraph ? std::optional(n) : std::nullopt;
 }
 
 void Navigation::followNumberAtCaret()
 {
-    if (!m_variables.AdventureOpen)
-        return;
     const RichTextBox &box = m_view.editingBox();
     const int n = numberAround(box.text(), box.selStart());
-    if (n != 0)
+    if (n >= 1 && n <= Variables::LastParagraph)
         goTo(n);
 }
 
 void Navigation::tellFirstFree()
 {
-    if (!m_variables.AdventureOpen)
-        return;
-    m_view.SaveCurParg();
     const std::optional<int> free = firstFree(m_variables, m_variables.CurrentParagraph);
     if (free)
         m_prompts.message(QStringLiteral("Paragraphe libre : ") + QString::number(*free),
@@ -88,5 +103,4 @@ void Navigation::tellFirstFree()
     else
         m_prompts.message(QStringLiteral("Tous les paragraphes sont écrits ou réservés !"),
                           QStringLiteral("Aïe !"), Prompts::Buttons::Ok);
-    m_view.focusEditor();
 }

@@ -1,17 +1,21 @@
 #pragma once
 
+#include "editor/VisitHistory.h"
 #include "platform/Prompts.h"
 #include "store/Variables.h"
 
+#include <QObject>
 #include <optional>
 
 class EditorView;
 
-// The commands that go to another paragraph. Each saves the current one first, and stays there when
-// that fails (FileError) or when the other cannot be shown (FileError, FormatError). Without an
-// open adventure they do nothing.
-class Navigation
+// The commands that go to another paragraph of the open adventure. Each saves the current one
+// first, and stays there when that fails (FileError) or when the other cannot be shown (FileError,
+// FormatError).
+class Navigation : public QObject
 {
+    Q_OBJECT
+
 public:
     using Search = std::optional<int> (*)(const Variables &variables, int from);
 
@@ -23,20 +27,32 @@ public:
     void goToNext();
     void goToPrevious();
 
+    // As a browser does. They do nothing at the end of the way.
+    void goBack();
+    void goForward();
+    const VisitHistory &history() const { return m_history; }
+
     // Goes where the search leads from the current paragraph. Beeps and saves nothing when it finds
     // none.
     void goWhere(Search search);
 
-    // Goes to the number typed, 0..2000. False, with a beep, when it is none.
-    bool goToTyped(const QString &number);
+    // The number that was typed, rounded; nothing when it is above 2000.
+    static std::optional<int> typedNumber(const QString &number);
 
-    // Goes to the number of the text that the caret stands on, if there is one.
+    // Goes to the number of the text that the caret stands on, if it is one of 1..2000.
     void followNumberAtCaret();
 
+    // The current paragraph must have been saved.
     void tellFirstFree();
 
+Q_SIGNALS:
+    void historyChanged();
+
 private:
+    void show(int n);
+
     const Variables &m_variables;
     Prompts &m_prompts;
     EditorView &m_view;
+    VisitHistory m_history;
 };

@@ -1,6 +1,7 @@
 #include "editor/StatusLine.h"
 
 #include "richtext/RichTextBox.h"
+#include "store/AdventureChanges.h"
 #include "store/ReferenceIndex.h"
 
 #include <QLabel>
@@ -46,6 +47,11 @@ StatusLine::StatusLine(const Variables &variables, const RichTextBox &box, QStat
     bar.setContentsMargins(8, 0, 8, 0);
     bar.addWidget(m_counts, 1);
     bar.addPermanentWidget(m_saved);
+    const AdventureEvents *events = variables.Events.get();
+    connect(events, &AdventureEvents::paragraphSaved, this, &StatusLine::refresh);
+    connect(events, &AdventureEvents::modifiedChanged, this, &StatusLine::refresh);
+    connect(events, &AdventureEvents::adventureReplaced, this, &StatusLine::refresh);
+    refresh();
 }
 
 void StatusLine::refresh()
@@ -57,6 +63,6 @@ void StatusLine::refresh()
     }
     m_counts->setText(
         describeParagraph(m_variables.CurrentParagraph, m_box.text(), m_variables.TargetPhrase));
-    const bool modified = m_variables.ParagraphDirty || m_variables.AdventureModified;
+    const bool modified = m_variables.ParagraphDirty || hasUnsavedChanges(m_variables);
     m_saved->setText(modified ? QStringLiteral("modifié") : QStringLiteral("enregistré"));
 }

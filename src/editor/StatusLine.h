@@ -2,13 +2,17 @@
 
 #include "store/Variables.h"
 
+#include <QObject>
+
 class QLabel;
 class QStatusBar;
 class RichTextBox;
 
 // What the line under the editing box says of the paragraph on screen and of the adventure.
-class StatusLine
+class StatusLine : public QObject
 {
+    Q_OBJECT
+
 public:
     StatusLine(const Variables &variables, const RichTextBox &box, QStatusBar &bar);
 

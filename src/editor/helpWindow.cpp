@@ -1,10 +1,10 @@
 #include "editor/helpWindow.h"
 
-#include "platform/Errors.h"
 #include "ui_helpWindow.h"
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <exception>
 
 helpWindow::helpWindow(const Variables &variables)
     : m_variables(variables), m_ui(std::make_unique<Ui::helpWindow>())
@@ -36,7 +36,7 @@ void helpWindow::load(Tag tag)
         french ? QStringLiteral("Aide Française.rtf") : QStringLiteral("English Help.rtf");
     try {
         m_ui->rtfHelp->loadFile(m_variables.WorkingFolder + name);
-    } catch (const UsmiraError &) {
+    } catch (const std::exception &) {
         m_ui->rtfHelp->setText(french ? QStringLiteral("Aide Française Non Trouvée")
                                       : QStringLiteral("English Help File Not Found"));
     }

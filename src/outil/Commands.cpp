@@ -7,6 +7,7 @@
 #include "outil/StateReport.h"
 #include "platform/SafeFile.h"
 #include "richtext/RtfPlainText.h"
+#include "store/AdventureChanges.h"
 #include "store/LenientNumbers.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
@@ -134,7 +135,7 @@ QString Commands::help()
 
 void Commands::finish(bool save)
 {
-    if (!m_variables.AdventureOpen || !m_variables.AdventureModified)
+    if (!m_variables.AdventureOpen || !hasUnsavedChanges(m_variables))
         return;
     if (save)
         m_adventure.Save();
@@ -197,7 +198,7 @@ QByteArray Commands::fixe(const QStringList &arguments)
     if (value != QStringLiteral("0") && value != QStringLiteral("1"))
         throw UsageError(QStringLiteral("0 ou 1 attendu : ") + value);
     const int n = paragraphNumber(arguments.first());
-    m_variables.Unmixable.at(n) = value == QStringLiteral("1") ? 1 : 0;
+    setFixed(m_variables, n, value == QStringLiteral("1"));
     return {};
 }
 

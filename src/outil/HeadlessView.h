@@ -13,7 +13,6 @@ public:
 
     RichTextBox &editingBox() override { return m_box; }
     void LoadParg(int n) override;
-    void adventureReplaced() override {}
     void begin(const QString & /*caption*/, Stopping /*stopping*/) override {}
     bool progress(int /*done*/, int /*total*/) override { return false; }
     void end() override {}

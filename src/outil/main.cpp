@@ -92,10 +92,11 @@ int runScript(const QCommandLineParser &parser, QTextStream &errors)
     output.open(stdout, QIODevice::WriteOnly);
     const QStringList lines = scriptLines(parser);
     for (const QString &line : lines) {
-        reportingFailures(prompts, [&] {
+        try {
             output.write(commands.run(splitCommand(line)));
-            return true;
-        });
+        } catch (const UsmiraError &error) {
+            reportFailure(prompts, error);
+        }
         output.flush();
         if (prompts.hasFailed())
             break;

@@ -101,3 +101,9 @@ void reportFailure(Prompts &prompts, const UsmiraError &error)
 {
     prompts.message(failureText(words(error), error), QStringLiteral("BUG"), Prompts::Buttons::Ok);
 }
+
+void reportUnforeseen(Prompts &prompts)
+{
+    prompts.message(QCoreApplication::translate("Failures", "Une action a échoué."),
+                    QStringLiteral("BUG"), Prompts::Buttons::Ok);
+}

@@ -11,13 +11,20 @@ void reportFailure(Prompts &prompts, const UsmiraError &error);
 // "/home/moi/Le Loup.usm : le disque est plein.". What is not known is left out.
 QString failureText(const QString &words, const UsmiraError &error);
 
-// Runs action, which returns whether it succeeded. A failure is reported and gives false.
+// Tells the author of a failure that nobody foresaw, such as memory that is all used.
+void reportUnforeseen(Prompts &prompts);
+
+// Runs action, which returns whether it succeeded. A failure of any kind is reported and gives
+// false.
 template <typename Action> bool reportingFailures(Prompts &prompts, Action action)
 {
     try {
         return action();
     } catch (const UsmiraError &error) {
         reportFailure(prompts, error);
+        return false;
+    } catch (const std::exception &) {
+        reportUnforeseen(prompts);
         return false;
     }
 }

@@ -2,6 +2,7 @@
 
 #include "platform/Failures.h"
 #include "renumber/RenumberParagraphs.h"
+#include "store/AdventureChanges.h"
 #include "store/LenientNumbers.h"
 #include "store/LongWork.h"
 
@@ -126,7 +127,7 @@ bool RenumberCommands::renumber(const RenumberMap &map, int low, int high)
         return false;
     }
     RecomputeWrittenRange(m_variables);
-    m_variables.AdventureModified = true;
+    setModified(m_variables);
     return true;
 }
 

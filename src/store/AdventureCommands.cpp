@@ -4,6 +4,7 @@
 #include "platform/OpenedFile.h"
 #include "platform/SafeFile.h"
 #include "richtext/RichTextBox.h"
+#include "store/AdventureChanges.h"
 #include "store/AdventureFile.h"
 #include "store/LongWork.h"
 #include "store/ParagraphStore.h"
@@ -29,6 +30,18 @@ QString otherVersionPath(const QString &path)
     for (int k = 2; QFileInfo::exists(backup); ++k)
         backup = stem + QStringLiteral(" (autre version %1)").arg(k) + suffix;
     return backup;
+}
+
+// The paragraphs that are not as the adventure file has them.
+QList<int> changedNumbers(const Variables &variables)
+{
+    QList<int> changed;
+    for (int n = 0; n <= Variables::LastParagraph; ++n) {
+        const bool emptied = variables.SectionOffset.at(n) > 0 && variables.Written.at(n) == 0;
+        if (variables.Extracted.at(n) == 1 || emptied)
+            changed.append(n);
+    }
+    return changed;
 }
 
 // A placeholder claims the name of a new adventure. A file that is there already stays until the
@@ -65,7 +78,7 @@ bool AdventureCommands::LeaveAdventure()
         return true;
     return reportingFailures(m_prompts, [this] {
         SaveCurParg(m_variables, m_view.editingBox());
-        if (!m_variables.AdventureModified)
+        if (!hasUnsavedChanges(m_variables))
             return true;
         switch (AskToSave()) {
         case Prompts::Answer::Yes:
@@ -91,13 +104,16 @@ void AdventureCommands::discardChanges()
             saved = readAdventure(m_variables.AdventureFile);
         return true;
     });
+    const QList<int> changed = changedNumbers(m_variables);
     DiscardWorkingFiles(m_variables);
-    m_variables.AdventureModified = false;
+    setSaved(m_variables);
     if (!readable)
         return;
     takeOver(m_variables, std::move(saved));
     if (!m_variables.CurrentFormat)
         RebuildReferenceIndex(m_variables, [](int, int) {});
+    Q_EMIT m_variables.Events->textsChanged(changed);
+    Q_EMIT m_variables.Events->marksChanged();
 }
 
 // After a command that left the adventure but opened no other.
@@ -119,10 +135,21 @@ void AdventureCommands::New()
 
 void AdventureCommands::Open()
 {
+    openFrom([this] {
+        return m_prompts.openName(QStringLiteral("Ouvrir une Aventure"), adventureFilter());
+    });
+}
+
+void AdventureCommands::OpenInstead(const QString &path)
+{
+    openFrom([&path] { return path; });
+}
+
+void AdventureCommands::openFrom(const std::function<QString()> &choose)
+{
     if (!LeaveAdventure())
         return;
-    const QString path =
-        m_prompts.openName(QStringLiteral("Ouvrir une Aventure"), adventureFilter());
+    const QString path = choose();
     if (path.isEmpty() || !OpenAdventure(path))
         showAgain();
 }
@@ -135,8 +162,8 @@ bool AdventureCommands::NewAdventure(const QString &path)
         empty.version = CurrentVersion;
         empty.targetPhrase = QStringLiteral(" au ");
         takeOver(m_variables, std::move(empty));
-        m_variables.AdventureModified = true;
         nameAdventure(path);
+        setModified(m_variables);
         Save();
         m_view.LoadParg(1);
         return true;
@@ -169,7 +196,7 @@ void AdventureCommands::nameAdventure(const QString &path)
     m_variables.AdventureFileName = QFileInfo(path).fileName();
     m_variables.FilePrefix = filePrefixOf(m_variables.AdventureFileName);
     m_prompts.beginIn(QFileInfo(path).absolutePath());
-    m_view.adventureReplaced();
+    Q_EMIT m_variables.Events->adventureReplaced();
 }
 
 void AdventureCommands::rebuildIndex(Variables &opened)
@@ -205,7 +232,7 @@ bool AdventureCommands::Save()
         return true;
     return reportingFailures(m_prompts, [this] {
         SaveCurParg(m_variables, m_view.editingBox());
-        return !m_variables.AdventureModified || writeAndSwap();
+        return !hasUnsavedChanges(m_variables) || writeAndSwap();
     });
 }
 
@@ -213,11 +240,11 @@ bool AdventureCommands::Save()
 // after a failure the next attempt finds all it needs.
 bool AdventureCommands::writeAndSwap()
 {
-    const LongWork work(m_report, QStringLiteral("Saving..."));
+    LongWork work(m_report, QStringLiteral("Saving..."));
     const QString temporary =
         m_variables.WorkingFolder + QStringLiteral("Usmira Temporary Save File.xyz");
     AdventureContents saved =
-        writing(temporary, [&] { return writeAdventure(m_variables, temporary); });
+        writing(temporary, [&] { return writeAdventure(m_variables, temporary, work.progress()); });
     const QString words =
         QStringLiteral("Fichier enregistré, incapable d'échanger avec l'original.");
     try {
@@ -237,7 +264,7 @@ bool AdventureCommands::writeAndSwap()
     m_variables.AdventureFile = saved.file;
     m_variables.CurrentFormat = true;
     DiscardWorkingFiles(m_variables);
-    m_variables.AdventureModified = false;
+    setSaved(m_variables);
     return true;
 }
 

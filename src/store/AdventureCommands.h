@@ -3,6 +3,8 @@
 #include "platform/Prompts.h"
 #include "store/Variables.h"
 
+#include <functional>
+
 class RichTextBox;
 class WorkReport;
 
@@ -20,9 +22,6 @@ public:
     // Shows paragraph n and makes it the current one. Throws FileError or FormatError, and stays on
     // the paragraph that was shown, when n's text cannot be read.
     virtual void LoadParg(int n) = 0;
-
-    // Another adventure has become the open one: title and lists start afresh.
-    virtual void adventureReplaced() = 0;
 };
 
 // New, Open and Save, with the question about unsaved changes. Failures are told to the author in
@@ -43,6 +42,9 @@ public:
     void New();
     void Open();
 
+    // Open with the file already chosen.
+    void OpenInstead(const QString &path);
+
     // Creates the adventure at path, replacing what is there only once the new file is whole.
     bool NewAdventure(const QString &path);
 
@@ -54,6 +56,7 @@ public:
     bool Save();
 
 private:
+    void openFrom(const std::function<QString()> &choose);
     void discardChanges();
     void showAgain();
     void nameAdventure(const QString &path);

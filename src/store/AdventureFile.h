@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Progress.h"
 #include "store/Variables.h"
 
 // The adventure file, extension "usm". All numbers are big-endian, texts have one Windows-1252 byte
@@ -45,4 +46,5 @@ void takeOver(Variables &variables, AdventureContents contents);
 // Writes the whole adventure to path, reads it back with readAdventure and compares numbers,
 // lengths and lists. Changes neither the state nor any other file. Throws FileError, or
 // FormatError when what was read back is not what was written.
-AdventureContents writeAdventure(const Variables &variables, const QString &path);
+AdventureContents writeAdventure(
+    const Variables &variables, const QString &path, const Progress &progress = [](int, int) {});

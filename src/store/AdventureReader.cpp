@@ -201,5 +201,6 @@ void takeOver(Variables &variables, AdventureContents contents)
     variables.CurrentFormat = contents.version == CurrentVersion;
     variables.AdventureOpen = true;
     variables.AdventureModified = false;
+    variables.MarksModified = false;
     variables.ParagraphDirty = false;
 }

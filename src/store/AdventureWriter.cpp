@@ -114,8 +114,10 @@ void compare(const AdventureContents &read, const Variables &variables,
 }
 } // namespace
 
-AdventureContents writeAdventure(const Variables &variables, const QString &path)
+AdventureContents writeAdventure(const Variables &variables, const QString &path,
+                                 const Progress &progress)
 {
+    const int total = variables.HighestWritten - variables.LowestWritten + 1;
     ParagraphArray<qint32, 2001> offsets;
     SafeFile file(path, Durability::Data, Links::Replace);
     ByteWriter out(file);
@@ -123,6 +125,7 @@ AdventureContents writeAdventure(const Variables &variables, const QString &path
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
         if (variables.Written.at(n) == 1)
             offsets.at(n) = writeSection(out, variables, n);
+        progress(n - variables.LowestWritten + 1, total);
     }
     out.bytes("DONE");
     out.flush();

@@ -5,6 +5,7 @@
 #include "platform/SafeFile.h"
 #include "richtext/RichTextBox.h"
 #include "richtext/TextLimit.h"
+#include "store/AdventureChanges.h"
 #include "store/Journal.h"
 #include "store/ReferenceIndex.h"
 
@@ -93,10 +94,11 @@ void SaveCurParg(Variables &variables, RichTextBox &box)
         dropText(variables, current);
     else
         saveText(variables, box, current);
-    variables.AdventureModified = true;
     variables.ParagraphDirty = false;
     ScanReferences(variables, text, variables.CurrentParagraph);
     box.select(0, 0);
+    setModified(variables);
+    Q_EMIT variables.Events->paragraphSaved(current);
 }
 
 void DiscardWorkingFiles(Variables &variables)

@@ -3,9 +3,11 @@
 #include "platform/Errors.h"
 #include "platform/SafeFile.h"
 #include "richtext/TextLimit.h"
+#include "store/AdventureChanges.h"
 #include "store/ParagraphStore.h"
 
 #include <algorithm>
+#include <numeric>
 #include <set>
 
 ParagraphTransaction::ParagraphTransaction(Variables &variables) : m_variables(variables)
@@ -125,5 +127,26 @@ void ParagraphTransaction::takeOver(const Journal &journal)
         m_variables.LowestWritten = std::min(m_variables.LowestWritten, number);
         m_variables.HighestWritten = std::max(m_variables.HighestWritten, number);
     }
-    m_variables.AdventureModified = true;
+    setModified(m_variables);
+    announce(journal);
+}
+
+void ParagraphTransaction::announce(const Journal &journal) const
+{
+    AdventureEvents &events = *m_variables.Events;
+    ParagraphArray<qint16, 2001> newNumbers;
+    std::iota(newNumbers.begin(), newNumbers.end(), qint16{0});
+    const ParagraphArray<qint16, 2001> unmoved = newNumbers;
+    QList<int> changed;
+    for (const Journal::Emptied &emptied : journal.emptied)
+        changed.append(emptied.number);
+    for (const Journal::Placed &placed : journal.placed) {
+        newNumbers.at(placed.before) = static_cast<qint16>(placed.after);
+        changed.append(placed.after);
+    }
+    if (newNumbers != unmoved)
+        Q_EMIT events.numbersChanged(newNumbers);
+    std::sort(changed.begin(), changed.end());
+    Q_EMIT events.textsChanged(changed);
+    Q_EMIT events.marksChanged();
 }

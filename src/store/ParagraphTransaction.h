@@ -51,6 +51,7 @@ private:
     void refuseLostTexts(const Journal &journal) const;
     void place(const Journal &journal);
     void takeOver(const Journal &journal);
+    void announce(const Journal &journal) const;
 
     Variables &m_variables;
     std::map<int, Journal::Placed> m_changes; // by the number before

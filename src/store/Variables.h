@@ -5,12 +5,15 @@
 #include <QString>
 #include <memory>
 
+class AdventureEvents;
 class OpenedFile;
 
 // The state of the one open adventure, and the options. main owns the only instance; everything
 // else is handed a reference. Array bounds differ by one on purpose: Written and Unmixable accept
 // 2001, so that a loop may look one number past the last paragraph.
 struct Variables {
+    Variables();
+
     static constexpr int LastParagraph = 2000;
 
     QString AdventureFileName; // without its folder
@@ -24,6 +27,7 @@ struct Variables {
     bool AdventureOpen = false;
     bool ParagraphDirty = false;    // the box has changed since the paragraph was loaded or saved
     bool AdventureModified = false; // a paragraph was saved since the adventure file was written
+    bool MarksModified = false;     // a paragraph was fixed or freed since then
     bool CurrentFormat = true;      // the adventure file has version 35
 
     ParagraphArray<quint8, 2002> Written;   // 1: the paragraph has text
@@ -40,6 +44,10 @@ struct Variables {
     // A change of many paragraphs has been committed but could not be put in place whole: whatever
     // touches working files tries again first, see finishJournal().
     bool JournalLeft = false;
+
+    // Announces changes. The flags and arrays that others follow are set through
+    // AdventureChanges.h, and by what saves, renumbers and opens.
+    std::shared_ptr<AdventureEvents> Events;
 
     bool optNDash = false;
     bool optMDash = false;

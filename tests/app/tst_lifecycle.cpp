@@ -1,11 +1,14 @@
 #include "WindowFixture.h"
 
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QScrollBar>
 #include <QTimer>
+#include <QUrl>
 
 namespace
 {
@@ -38,6 +41,9 @@ protected:
     void paintEvent(QPaintEvent * /*event*/) override { ++paints; }
 };
 } // namespace
+
+using Command = std::function<void(WindowFixture &)>;
+Q_DECLARE_METATYPE(Command)
 
 // Start-up, settings, saving on the way out, and a story from end to end.
 class tst_lifecycle : public QObject
@@ -108,20 +114,60 @@ private Q_SLOTS:
         QVERIFY(fixture.window->close()); // without a question
     }
 
-    void deactivationSavesWithoutMovingTheAuthor()
+    void authorStaysWhereHeWas_data()
     {
-        const WindowFixture fixture(oneText());
+        using Answer = Prompts::Answer;
+        QTest::addColumn<Command>("command");
+        const auto row = [](const char *name, const Command &command) {
+            QTest::newRow(name) << command;
+        };
+        const auto item = [&row](const char *name) {
+            row(name, [name](WindowFixture &f) { f.trigger(name); });
+        };
+        for (const char *name : {"menuAvSave", "menuComSwap", "menuComMasterMix", "menuConvRTF",
+                                 "menuConv1toHTML", "menuConvNtoHTML"})
+            item(name);
+        row("deactivation", deactivate);
+        row("count", [](WindowFixture &f) {
+            f.prompts.expect(QStringLiteral("Paragraphes rédigés : 1"), QStringLiteral("Compte"));
+            f.trigger("menuComCount");
+        });
+        row("first free", [](WindowFixture &f) {
+            f.prompts.expect(QStringLiteral("Paragraphe libre : 13"), QStringLiteral("Voilà"));
+            f.trigger("menuNavFirstFree");
+        });
+        row("same number", [](WindowFixture &f) { f.enter(f.field("txtPargNum"), "12"); });
+        row("reminder cancelled", [](WindowFixture &f) {
+            expectQuestion(f, Answer::Cancel);
+            QVERIFY(!f.window->close());
+        });
+        row("new cancelled", [](WindowFixture &f) {
+            expectQuestion(f, Answer::Yes);
+            f.prompts.expectFileDialog(QStringLiteral("Nouvelle Aventure"), {});
+            f.trigger("menuAvNew");
+        });
+        row("open failed", [](WindowFixture &f) {
+            expectQuestion(f, Answer::Yes);
+            f.prompts.expectFileDialog(QStringLiteral("Ouvrir une Aventure"),
+                                       f.adventure.path(QStringLiteral("absent.usm")));
+            f.prompts.expect(QStringLiteral("Erreur de lecture de fichier."),
+                             QStringLiteral("BUG"));
+            f.trigger("menuAvOpen");
+        });
+    }
+    void authorStaysWhereHeWas()
+    {
+        QFETCH(const Command, command);
+        WindowFixture fixture(oneText());
         RtfBox &box = fixture.box();
-        for (int i = 0; i < 80; ++i) {
-            fixture.type("au 7");
-            QTest::keyClick(&box, Qt::Key_Return);
-        }
+        box.textCursor().insertText(QStringLiteral("au 7\n").repeated(80));
         box.select(400, 3);
+        const QString text = box.text();
         const int scrolled = box.verticalScrollBar()->value();
         QVERIFY(scrolled > 0);
-        deactivate(fixture);
+        fixture.inDialog([&] { command(fixture); }, [](QDialog &) {});
         QVERIFY(!fixture.adventure.variables.ParagraphDirty);
-        QCOMPARE(fixture.adventure.variables.Extracted.at(12), quint8(1));
+        QCOMPARE(box.text(), text);
         QCOMPARE(box.selStart(), 400);
         QCOMPARE(box.selLength(), 3);
         QCOMPARE(box.verticalScrollBar()->value(), scrolled);
@@ -135,10 +181,16 @@ private Q_SLOTS:
         fixture.click("btnUnmixable");
         QCOMPARE(fixture.adventure.variables.Unmixable.at(12), quint8(1));
         QVERIFY(!fixture.adventure.variables.AdventureModified);
+        QCOMPARE(fixture.control<QLabel>("lblSaved").text(), QStringLiteral("modifié"));
         fixture.click("btnNext");
         QVERIFY(!fixed.isChecked());
         fixture.click("btnPrev");
         QVERIFY(fixed.isChecked());
+        fixture.click("btnSave");
+        QCOMPARE(fixture.control<QLabel>("lblSaved").text(), QStringLiteral("enregistré"));
+        const AdventureBuilder marked({QStringLiteral("12!: Une porte. Allez au 3.")});
+        QCOMPARE(fixture.adventure.content(QStringLiteral("Le Loup.usm")),
+                 AdventureBuilder(marked).current(12).bytes());
         fixture.click("btnUnmixable");
         QCOMPARE(fixture.adventure.variables.Unmixable.at(12), quint8(0));
     }
@@ -151,6 +203,49 @@ private Q_SLOTS:
         fixture.window->openCommandLine(fixture.adventure.path(QStringLiteral("absent.usm")));
         QCOMPARE(fixture.window->windowTitle(), QStringLiteral("Usmira - Aucun Fichier Ouvert"));
         QVERIFY(fixture.box().isReadOnly());
+    }
+
+    void copyLeavesTheOpenAdventureAsItIs()
+    {
+        WindowFixture fixture(oneText());
+        fixture.type(" Du neuf.");
+        const QString title = QStringLiteral("Enregistrer une Copie Sous");
+        fixture.prompts.expectFileDialog(title,
+                                         fixture.adventure.path(QStringLiteral("copie.usm")));
+        fixture.trigger("menuAvSaveCopy");
+        QVERIFY(fixture.adventure.content(QStringLiteral("copie.usm")).contains("Du neuf."));
+        QVERIFY(!fixture.adventure.content(QStringLiteral("Le Loup.usm")).contains("Du neuf."));
+        QVERIFY(fixture.adventure.variables.AdventureModified);
+        QCOMPARE(fixture.adventure.variables.AdventureFileName, QStringLiteral("Le Loup.usm"));
+        fixture.prompts.expectFileDialog(title, fixture.adventure.variables.AdventurePath);
+        fixture.prompts.expect(QStringLiteral("Erreur pendant l'écriture du fichier."),
+                               QStringLiteral("BUG"));
+        fixture.trigger("menuAvSaveCopy");
+        QVERIFY(!fixture.adventure.content(QStringLiteral("Le Loup.usm")).contains("Du neuf."));
+    }
+
+    void droppedAdventureIsOpenedAndDroppedTextIsText()
+    {
+        const WindowFixture fixture(oneText());
+        const auto drop = [&fixture](const QMimeData &data) {
+            QWidget *page = fixture.box().viewport();
+            QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(page, &enter);
+            QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(page, &event);
+            QCoreApplication::processEvents();
+        };
+        QMimeData text;
+        text.setText(QStringLiteral("Loin. "));
+        drop(text);
+        QVERIFY(fixture.box().text().contains(QStringLiteral("Loin. ")));
+        fixture.click("btnSave");
+        QMimeData file;
+        file.setUrls({QUrl::fromLocalFile(fixture.adventure.file(
+            QStringLiteral("autre.usm"), AdventureBuilder({QStringLiteral("1: Un.")}).bytes()))});
+        drop(file);
+        QCOMPARE(fixture.adventure.variables.AdventureFileName, QStringLiteral("autre.usm"));
+        QCOMPARE(fixture.box().text(), QStringLiteral("Un."));
     }
 
     void longWorkShowsItsCaptionAndGivesTheFocusBack()

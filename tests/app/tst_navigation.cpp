@@ -1,5 +1,7 @@
 #include "WindowFixture.h"
 
+#include <new>
+
 namespace
 {
 // Written: 2, 3, 5 and 8.
@@ -135,19 +137,83 @@ private Q_SLOTS:
         QVERIFY(!fixture.adventure.variables.ParagraphDirty);
     }
 
-    void ctrlClickFollowsTheNumber()
+    void ctrlClickFollowsANumberOfAParagraph()
     {
-        const WindowFixture fixture(fourParagraphs().current(2));
-        RtfBox &box = fixture.box();
-        // The right half of the last digit: a click there puts the caret behind the number.
-        QTextCursor behindNumber(box.document());
-        behindNumber.setPosition(static_cast<int>(box.text().indexOf(u'8')) + 1);
-        const QPoint point = box.cursorRect(behindNumber).center() - QPoint(3, 0);
-        QTest::mouseClick(box.viewport(), Qt::LeftButton, {}, point);
-        QCoreApplication::processEvents();
-        QCOMPARE(fixture.current(), 2);
-        QTest::mouseClick(box.viewport(), Qt::LeftButton, Qt::ControlModifier, point);
-        QTRY_COMPARE(fixture.current(), 8);
+        struct Case {
+            const char *number;
+            bool selected;
+            int to;
+        };
+        const Case cases[] = {{"8", false, 8}, {"8", true, 8}, {"2024", false, 2}, {"0", true, 2}};
+        for (const Case &c : cases) {
+            const WindowFixture fixture(
+                AdventureBuilder({QStringLiteral("2: Allez au 8, en 2024 ou 0.")}).current(2));
+            RtfBox &box = fixture.box();
+            // The right half of the last digit: a click there puts the caret behind the number.
+            const QString number = QString::fromLatin1(c.number);
+            const auto at = static_cast<int>(box.text().indexOf(number));
+            QTextCursor behindNumber(box.document());
+            behindNumber.setPosition(at + static_cast<int>(number.size()));
+            const QPoint point = box.cursorRect(behindNumber).center() - QPoint(3, 0);
+            QTest::mouseClick(box.viewport(), Qt::LeftButton, {}, point);
+            QCoreApplication::processEvents();
+            QCOMPARE(fixture.current(), 2);
+            if (c.selected)
+                box.select(at, static_cast<int>(number.size()));
+            QTest::mouseClick(box.viewport(), Qt::LeftButton, Qt::ControlModifier, point);
+            QCoreApplication::processEvents();
+            QCOMPARE(fixture.current(), c.to);
+        }
+    }
+
+    void historyGoesBackAndForward()
+    {
+        const WindowFixture fixture(fourParagraphs().current(3));
+        const auto press = [&fixture](Qt::Key key) {
+            QTest::keyClick(&fixture.box(), key, Qt::AltModifier);
+            return fixture.current();
+        };
+        QCOMPARE(press(Qt::Key_Left), 3);
+        fixture.click("btnNext");
+        fixture.click("btnLast");
+        QCOMPARE(press(Qt::Key_Left), 4);
+        QCOMPARE(press(Qt::Key_Left), 3);
+        QVERIFY(!fixture.control<QAction>("menuNavBack").isEnabled());
+        QCOMPARE(press(Qt::Key_Right), 4);
+        fixture.click("btnFirst"); // what was gone back from is forgotten
+        QCOMPARE(press(Qt::Key_Right), 2);
+        QCOMPARE(press(Qt::Key_Left), 4);
+    }
+
+    void escapeLeavesTheNumberBox()
+    {
+        const WindowFixture fixture(fourParagraphs().current(3));
+        QLineEdit &number = fixture.field("txtPargNum");
+        number.setFocus();
+        QTest::keyClicks(&number, QStringLiteral("8"));
+        QTest::keyClick(&number, Qt::Key_Escape);
+        QCOMPARE(number.text(), QStringLiteral("3"));
+        QVERIFY(fixture.box().hasFocus());
+    }
+
+    void whatNobodyForesawLosesNothing()
+    {
+        struct Failing : PromptRecorder {
+            void beep() override { throw std::bad_alloc(); }
+        };
+        TestAdventure adventure;
+        Failing prompts;
+        formUsmira window(adventure.variables, prompts);
+        window.openCommandLine(
+            adventure.file(QStringLiteral("a.usm"), fourParagraphs().current(8).bytes()));
+        auto *box = window.findChild<RtfBox *>();
+        box->moveCursor(QTextCursor::End);
+        QTest::keyClicks(box, QStringLiteral(" Vraiment."));
+        prompts.expect(QStringLiteral("Une action a échoué. Ce qui était tapé a été mis à l'abri."),
+                       QStringLiteral("BUG"));
+        window.findChild<QAction *>(QStringLiteral("menuNavNextTyped"))->trigger();
+        QCOMPARE(adventure.workingFiles(), QStringList(QStringLiteral("a-0008.rtf")));
+        QCOMPARE(box->text(), QStringLiteral("Fin. Vraiment."));
     }
 
     void paragraphThatCannotBeSavedIsNotLeft()

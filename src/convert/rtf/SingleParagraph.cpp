@@ -24,8 +24,6 @@ SingleParagraph::SingleParagraph(Variables &variables, Prompts &prompts, Adventu
 bool SingleParagraph::Load()
 {
     RichTextBox &box = m_view.editingBox();
-    if (!m_variables.AdventureOpen)
-        return false;
     if (box.textLength() >= 1 &&
         m_prompts.message(
             QStringLiteral("Ceci va effacer le texte actuel du paragraphe. Continuer?"),
@@ -46,8 +44,6 @@ bool SingleParagraph::Load()
 void SingleParagraph::Save()
 {
     RichTextBox &box = m_view.editingBox();
-    if (!m_variables.AdventureOpen)
-        return;
     SaveCurParg(m_variables, box);
     if (box.textLength() == 0) {
         m_prompts.message(QStringLiteral("Rien à enregistrer. Tapez quelque chose d'abord."),

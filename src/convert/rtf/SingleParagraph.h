@@ -5,8 +5,8 @@ class Prompts;
 class WorkReport;
 struct Variables;
 
-// Exchanges the paragraph in the editing box with an RTF file that the author chooses. Without an
-// open adventure both commands do nothing.
+// Exchanges the paragraph in the editing box with an RTF file that the author chooses. An adventure
+// is open.
 class SingleParagraph
 {
 public:

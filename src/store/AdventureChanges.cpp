@@ -1,0 +1,38 @@
+#include "store/AdventureChanges.h"
+
+namespace
+{
+void setFlags(Variables &variables, bool texts, bool marks)
+{
+    const bool before = hasUnsavedChanges(variables);
+    variables.AdventureModified = texts;
+    variables.MarksModified = marks;
+    if (hasUnsavedChanges(variables) != before)
+        Q_EMIT variables.Events->modifiedChanged(!before);
+}
+} // namespace
+
+bool hasUnsavedChanges(const Variables &variables)
+{
+    return variables.AdventureModified || variables.MarksModified;
+}
+
+void setModified(Variables &variables)
+{
+    setFlags(variables, true, variables.MarksModified);
+}
+
+void setSaved(Variables &variables)
+{
+    setFlags(variables, false, false);
+}
+
+void setFixed(Variables &variables, int n, bool fixed)
+{
+    quint8 &mark = variables.Unmixable.at(n);
+    if ((mark == 1) == fixed)
+        return;
+    mark = fixed ? 1 : 0;
+    setFlags(variables, variables.AdventureModified, true);
+    Q_EMIT variables.Events->marksChanged();
+}

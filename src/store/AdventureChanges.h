@@ -1,0 +1,19 @@
+#pragma once
+
+#include "store/AdventureEvents.h"
+#include "store/Variables.h"
+
+// The few functions that set what an adventure's listeners follow, and tell them.
+
+// Whether saving has something to write: a text or a fixed mark.
+bool hasUnsavedChanges(const Variables &variables);
+
+// The texts are no longer those of the adventure file.
+void setModified(Variables &variables);
+
+// The adventure file holds everything.
+void setSaved(Variables &variables);
+
+// Fixes paragraph n, 0..2000, or frees it. The mark alone leaves AdventureModified as it is:
+// required; saving writes it all the same.
+void setFixed(Variables &variables, int n, bool fixed);
