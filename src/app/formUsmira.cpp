@@ -8,11 +8,15 @@
 #include "editor/FirstWords.h"
 #include "editor/ParagraphSearch.h"
 #include "platform/Guarded.h"
+#include "platform/SafeFile.h"
 #include "store/AdventureEvents.h"
+#include "store/SampleAdventure.h"
+#include "store/WorkingFolder.h"
 #include "ui_formUsmira.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 
 namespace
 {
@@ -23,6 +27,11 @@ constexpr QSize DesignSize(1080, 720);
 QString settingsPath(const Variables &variables)
 {
     return variables.WorkingFolder + QStringLiteral("Usmira Settings.xyz");
+}
+
+QString maximizedPath(const Variables &variables)
+{
+    return variables.WorkingFolder + QStringLiteral("Usmira Fenêtre.xyz");
 }
 
 // What stands on the form takes parts of it, so that it must be there first.
@@ -163,6 +172,10 @@ void formUsmira::connectMenus()
                                 *m_ui->menuConv1toHTML, *m_ui->menuConvNtoHTML},
                                *m_ui->rtfBox, m_runner);
     m_menuStates.watch(*m_ui->menuConv);
+    m_runner.add(*m_ui->menuInfoSample, Kind::Anytime, [this] {
+        m_adventure.OpenInstead(
+            copyOfSample(findBundledDocuments(QCoreApplication::applicationDirPath())));
+    });
     m_info.connectItems({*m_ui->menuInfoAide, *m_ui->menuInfoHelp, *m_ui->menuInfoAbout});
 }
 
@@ -175,6 +188,8 @@ void formUsmira::Form_Load()
         place(*this, geometry);
     else
         shrinkToScreen(*this);
+    if (QFileInfo::exists(maximizedPath(m_variables)))
+        setWindowState(windowState() | Qt::WindowMaximized);
     m_page.showTabPanel();
     m_page.showWelcome(m_variables.WorkingFolder + QStringLiteral("Copyright.rtf"));
     m_page.focusEditor();
@@ -201,12 +216,23 @@ void formUsmira::closeEvent(QCloseEvent *event)
     m_page.keepingPlace([&] { leaves = m_adventure.LeaveAdventure(); });
     try {
         writeSettings(settingsPath(m_variables), m_variables, geometryOf(*this));
+        keepMaximized();
     } catch (const std::exception &) {
         // The next start has the settings of before.
     }
     if (leaves)
         m_info.closeHelp();
     event->setAccepted(leaves);
+}
+
+// The settings have no place for it: a file that is there says it.
+void formUsmira::keepMaximized() const
+{
+    const QString path = maximizedPath(m_variables);
+    if (isMaximized())
+        writeWholeFile(path, "1\r\n", Durability::Data, Links::Replace);
+    else
+        removeFile(path);
 }
 
 void formUsmira::showTitle()

@@ -56,6 +56,7 @@ private:
     void connectBox();
     void connectMenus();
 
+    void keepMaximized() const;
     void showTitle();
     void txtPargNum_Enter();
     void theList_Click();

@@ -248,6 +248,32 @@ private Q_SLOTS:
         QCOMPARE(fixture.box().text(), QStringLiteral("Un."));
     }
 
+    void sampleIsCopiedOnceAndOpened()
+    {
+        const WindowFixture fixture;
+        const QString home = fixture.adventure.path(QStringLiteral("chez moi"));
+        for (const char *name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+            qputenv(name, home.toLocal8Bit());
+        fixture.trigger("menuInfoSample");
+        const QString copy = home + QStringLiteral("/Usmira/La Dernière Tournée.usm");
+        QCOMPARE(fixture.adventure.variables.AdventurePath, copy);
+        fixture.type("Du neuf.");
+        fixture.click("btnSave");
+        fixture.trigger("menuInfoSample");
+        QVERIFY(fixture.box().text().contains(QStringLiteral("Du neuf.")));
+    }
+
+    void maximizedWindowComesBackMaximized()
+    {
+        WindowFixture fixture;
+        for (const bool maximized : {true, false}) {
+            fixture.window->setWindowState(maximized ? Qt::WindowMaximized : Qt::WindowNoState);
+            QVERIFY(fixture.window->close());
+            fixture.start();
+            QCOMPARE(fixture.window->isMaximized(), maximized);
+        }
+    }
+
     void longWorkShowsItsCaptionAndGivesTheFocusBack()
     {
         const WindowFixture fixture(oneText());
