@@ -11,12 +11,6 @@ namespace
 // Left for the title bar, whose height nobody knows before the window is shown.
 constexpr int TitleBar = 36;
 
-// Where the inside of a window may lie.
-QRect roomOn(const QScreen &screen)
-{
-    return screen.availableGeometry().adjusted(0, 0, 0, -TitleBar);
-}
-
 int overlap(const QRect &a, const QRect &b)
 {
     const QRect common = a.intersected(b);
@@ -28,10 +22,9 @@ WindowGeometry geometryOf(const QWidget &window)
 {
     const bool asPlaced = !window.isMaximized() && !window.isFullScreen() && !window.isMinimized();
     const QRect normal = window.normalGeometry();
-    const QPoint topLeft = asPlaced || normal.isEmpty() ? window.pos() : normal.topLeft();
-    const QSize size = asPlaced || normal.isEmpty() ? window.size() : normal.size();
-    return {Twips::fromPixels(size.width()), Twips::fromPixels(size.height()),
-            Twips::fromPixels(topLeft.x()), Twips::fromPixels(topLeft.y())};
+    const QRect inside = asPlaced || normal.isEmpty() ? window.geometry() : normal;
+    return {Twips::fromPixels(inside.width()), Twips::fromPixels(inside.height()),
+            Twips::fromPixels(inside.x()), Twips::fromPixels(inside.y())};
 }
 
 void place(QWidget &window, const WindowGeometry &geometry)
@@ -41,15 +34,14 @@ void place(QWidget &window, const WindowGeometry &geometry)
     QList<QRect> screens;
     const QList<QScreen *> all = QGuiApplication::screens();
     for (const QScreen *screen : all)
-        screens.append(roomOn(*screen));
-    const QRect placed = withinScreens(wanted, window.minimumSize(), screens);
-    window.resize(placed.size());
-    window.move(placed.topLeft());
+        screens.append(screen->availableGeometry());
+    window.setGeometry(withinScreens(wanted, window.minimumSize(), screens));
 }
 
 void shrinkToScreen(QWidget &window)
 {
-    window.resize(window.size().boundedTo(roomOn(*window.screen()).size()));
+    const QSize room = window.screen()->availableSize() - QSize(0, TitleBar);
+    window.resize(window.size().boundedTo(room));
 }
 
 QRect withinScreens(const QRect &wanted, const QSize &smallest, const QList<QRect> &screens)

@@ -7,8 +7,9 @@
 
 class QWidget;
 
-// Where the main window stands, in the twips of the settings. Of a maximised window: where it
-// stands when it is not.
+// Where the inside of the main window stands, in the twips of the settings: nobody knows how large
+// its frame is before it is shown, so that a frame put where it was would let the window sink by
+// the height of its title. Of a maximised window: where it stands when it is not.
 WindowGeometry geometryOf(const QWidget &window);
 
 // Puts the window there, on a screen that exists.
