@@ -6,8 +6,6 @@
 #include "store/ParagraphTransaction.h"
 #include "store/ReferenceIndex.h"
 
-#include <QTextCursor>
-
 namespace
 {
 bool isWritten(const Variables &variables, int n)
@@ -118,12 +116,15 @@ void RecomputeWrittenRange(Variables &variables)
 // need not move all of it: it is written backwards, over what has been searched.
 void rewriteReferences(RichTextBox &box, const QString &targetPhrase, const RenumberMap &map)
 {
-    QTextCursor step(box.document()); // one step, in which no change is measured for its own sake
-    step.beginEditBlock();
+    const RichTextBox::EditStep step(box); // in which no change is measured for its own sake
     QString text = box.text();
+    const qsizetype most = text.size(); // references that a text can have
+    qsizetype rewritten = 0;
     qsizetype from = 0;
     qsizetype offset = 0; // of a position in the box from the same in text
     while (const std::optional<Reference> reference = nextReference(text, targetPhrase, from)) {
+        if (++rewritten > most)
+            throw LimitError(QStringLiteral("references that the rewriting makes"), most);
         const int number = roundHalfEven(reference->number);
         const auto length = QString::number(number).size();
         const QString newNumber = QString::number(map.of(number));
@@ -139,5 +140,4 @@ void rewriteReferences(RichTextBox &box, const QString &targetPhrase, const Renu
         text.replace(from, newNumber.size(), newNumber);
         offset = inBox - from;
     }
-    step.endEditBlock();
 }

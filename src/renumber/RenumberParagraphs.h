@@ -25,5 +25,6 @@ void RecomputeWrittenRange(Variables &variables);
 
 // Writes the new number of every reference of a text. The characters that the new number takes the
 // place of are as many as the number has digits, whatever stands there: required, so that texts
-// come out as authors know them. "au 026" with 26 unmoved gives "au 266".
+// come out as authors know them. "au 026" with 26 unmoved gives "au 266". Throws LimitError where a
+// phrase of digits finds itself again and again in the numbers that come in.
 void rewriteReferences(RichTextBox &box, const QString &targetPhrase, const RenumberMap &map);

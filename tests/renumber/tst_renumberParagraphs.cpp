@@ -162,6 +162,14 @@ private Q_SLOTS:
         QCOMPARE(box.selBold(), std::optional(false));
     }
 
+    void phraseThatFindsItselfEnds()
+    {
+        Opened a(AdventureBuilder({"1: 11", "11: onze"}).phrase("1").list(1, "0001/"));
+        const QByteArray before = GetParagraphRtf(a.variables, 1);
+        QVERIFY_THROWS_EXCEPTION(LimitError, a.renumber(SwapMap(1, 11)));
+        QCOMPARE(GetParagraphRtf(a.variables, 1), before);
+    }
+
     void touchesWhatMovesAndWhatLeadsThere()
     {
         Opened a(AdventureBuilder({"1: Allez au 3, au 7 ou au 026", "2: Ni au 1 ni au 5",
