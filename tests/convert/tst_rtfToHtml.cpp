@@ -88,16 +88,12 @@ private Q_SLOTS:
               "<FONT COLOR=\"#FF0000\">red</FONT> black"},
              {"order of tags", "\\qc\\cf2\\ul\\i\\b x\\plain y",
               "<B><I><U><FONT COLOR=\"#00800A\"><P ALIGN=\"Center\">x</B></I></U></FONT>y"},
-             {"order at the end", "\\cf1\\ul\\i\\b x",
-              "<B><I><U><FONT COLOR=\"#FF0000\">x</B></I></U></FONT>"},
              {"words that begin alike", "\\ilvl0 a\\ulnone b\\box c\\fi0 d",
               "<I>a</I><U>b<B></U>c</B>d"},
              {"colour stays without \\plain", "\\cf1 a\\f1 b\\f1\\plain c\\plain d",
               "<FONT COLOR=\"#FF0000\">abc</FONT>d"},
              {"colour after colour", "\\cf1 a\\cf2\\b b",
               "<FONT COLOR=\"#FF0000\">a<B></FONT><FONT COLOR=\"#00800A\">b</B></FONT>"},
-             {"two digits of a colour", "\\cf012 a\\cf b",
-              "<FONT COLOR=\"#FF0000\">a</FONT><FONT COLOR=\"#000000\">b</FONT>"},
              {"signs close nothing", "\\b\\cf1 a\\par b\\tab \\bullet \\endash \\emdash ",
               "<B><FONT COLOR=\"#FF0000\">a<BR>b&nbsp; &nbsp; &nbsp;&#149;&#150;&#151;</B></FONT>"},
              {"no sign with more in the run", "\\b x\\par\\pard \\tab\\fs2 ",
@@ -106,7 +102,6 @@ private Q_SLOTS:
               "<P ALIGN=\"Left\">a<P ALIGN=\"Center\">bc<P ALIGN=\"Center\"><P ALIGN=\"Right\">d"},
              {"codes", "\\'e0\\'0a\\'E9\\'95\\'4z\\'zz.", "&#224;&#010;&#233;&#149;&#004;&#000;."},
              {"no-break space", "\\x a\\~b", "a&nbsp;b"},
-             {"text as it stands", "\\x <I>a & b</I> {\r\n  c", "<I>a & b</I> {\r\n  c"},
              {"a run goes on to the space", "\\x*?{\r\n\\y=z  a", " a"},
              {"behind the last brace but one", "\\b lost}lost\\i kept", "<I>kept</I>"},
              {"characters by number",
@@ -133,7 +128,6 @@ private Q_SLOTS:
               "010203"},
              {"not of the third", "{\r\n\r\n{" + entry + "}\r\n\\cf0 }", "000000"},
              {"one line end", "{\r\n{" + entry + "}\\cf0 }", "000000"},
-             {"beyond the table", "{\r\n{" + entry + "}\r\n\\cf1 }", "010203"},
              {"three digits", "{\r\n{\\red2555\\green12x\\blue\\x}\r\n\\cf0 }", "FF0C00"},
              {"above a byte", "{\r\n{\\red999\\green256\\blue0}\r\n\\cf0 }", "3E80000"},
              {"the 21st", "{\r\n{" + entry.repeated(20) + "\\red4\\green5\\blue6;}\r\n\\cf20 }",
@@ -155,7 +149,6 @@ private Q_SLOTS:
             {"text", "list", "phrase", "html"},
             {{"all digits", " au 5, au 1999", "0005/1999/", " au ",
               " au <A HREF=\"#P0005\">5</A>, au <A HREF=\"#P1999\">1999</A>"},
-             {"at the very end", "va au 26", "0026/", " au ", "va au " + link},
              {"each place of a listed number", " au 26 au 26", "0026/", " au ",
               " au " + link + " au " + link},
              {"listed twice", " au 26, au 7", "0026/0007/0026/", " au ",
@@ -176,8 +169,6 @@ private Q_SLOTS:
              {"> hides what is before it", " au > 26 -> 26, au 26", "0026/", "> ",
               " au > 26 -> 26, au 26"},
              {"no tag, no mark", "a < b au > 26", "0026/", "a  ", "a < b au > " + link},
-             {"> behind a link hides the link's tag", "6 26> 5", "0026/0005/", "6 ",
-              "6 " + link + "> <A HREF=\"#P0005\">5</A>"},
              {"no phrase", "26", "0026/", "", "26"},
              {"digits in the phrase", "n1126", "0126/0026/", "n1",
               "n1<A HREF=\"#P0126\">126</A>"}});
@@ -196,8 +187,6 @@ private Q_SLOTS:
         QCOMPARE(paragraph.html(),
                  QByteArray("Va au <A HREF=\"\xc9\xbb&#321;&#128216;-0026.htm\">26</A> - au "
                             "<A HREF=\"\xc9\xbb&#321;&#128216;-1234.htm\">1234</A>."));
-        paragraph.prefix.clear();
-        QVERIFY(paragraph.html().startsWith("Va au <A HREF=\"0026.htm\">26</A>"));
         paragraph.prefix = "a #1 %23\"?";
         QVERIFY(paragraph.html().contains("<A HREF=\"a %231 %2523%22%3F0026.htm\">26</A>"));
     }

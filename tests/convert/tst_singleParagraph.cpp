@@ -49,7 +49,7 @@ private Q_SLOTS:
         fixture.field("txtPargNum").setFocus();
         fixture.trigger("menuConvLoad1");
         QTEST(fixture.box().text(), "text");
-        QCOMPARE(fixture.adventure.variables.ParagraphDirty, dirty);
+        QCOMPARE(fixture.variables.ParagraphDirty, dirty);
         QVERIFY(fixture.box().hasFocus());
         if (!dirty)
             return;
@@ -69,7 +69,7 @@ private Q_SLOTS:
             fixture.prompts.expectFileDialog(
                 SaveTitle, *name == '\0' ? "" : fixture.adventure.path(name), "LL-0005");
             fixture.trigger("menuConvSave1");
-            QVERIFY(!fixture.adventure.variables.ParagraphDirty);
+            QVERIFY(!fixture.variables.ParagraphDirty);
             QCOMPARE(fixture.prompts.fileKind(), "Fichiers RTF (*.rtf)|*.rtf;rtf");
         }
         HiddenBox saved;
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QTest::keyClick(&fixture.box(), Qt::Key_Delete);
         fixture.prompts.expect("Rien à enregistrer. Tapez quelque chose d'abord.", "Tséveudire");
         fixture.trigger("menuConvSave1");
-        QCOMPARE(fixture.adventure.variables.Written.at(5), 0);
+        QCOMPARE(fixture.variables.Written.at(5), 0);
     }
 };
 

@@ -6,8 +6,6 @@
 #include "support/TestTable.h"
 #include "widgets/NumberBox.h"
 
-#include <QPushButton>
-
 namespace
 {
 const QString RangeOf = "Vous devez spécifier des paragraphes entre 1 et 2000.|Zut";
@@ -48,11 +46,6 @@ void fill(const QWidget &dialog, const QString &numbers)
     }
 }
 
-void click(const QWidget &dialog, const QString &button)
-{
-    QTest::mouseClick(dialog.findChild<QPushButton *>(button), Qt::LeftButton);
-}
-
 // Presses the key of a command where the focus is and does the work in the dialog that comes.
 QString inDialog(const WindowFixture &fixture, const QString &key,
                  const std::function<void(QDialog &dialog)> &work)
@@ -91,9 +84,8 @@ private Q_SLOTS:
     {
         QFETCH(const QString, key);
         WindowFixture fixture;
-        QCOMPARE(inDialog(fixture, key, [](QDialog &) {}), QString());
+        QCOMPARE(inDialog(fixture, key, [](QDialog &) {}), "");
         fixture.open(fourParagraphs().bytes());
-        QPoint away;
         for (const bool escape : {false, true}) {
             const QString name = inDialog(fixture, key, [&](const QDialog &dialog) {
                 QTEST(dialog.windowTitle(), "title");
@@ -101,7 +93,9 @@ private Q_SLOTS:
                 NumberBox *first = boxesOf(dialog).first();
                 QTRY_VERIFY(first->hasFocus());
                 QCOMPARE(first->selectedText(), first->text());
-                away = dialog.geometry().center() - fixture.window->geometry().center();
+                const QPoint away =
+                    dialog.geometry().center() - fixture.window->geometry().center();
+                QVERIFY2(away.manhattanLength() < 48, "not centred on the window");
                 if (escape)
                     QTest::keyClick(first, Qt::Key_Escape);
                 else
@@ -109,9 +103,7 @@ private Q_SLOTS:
                 QVERIFY(!dialog.isVisible());
             });
             QTEST(name, "name");
-            QVERIFY2(away.manhattanLength() < 48, "not centred on the window");
-            QVERIFY(fixture.editorHasFocus());
-            QVERIFY(!fixture.adventure.variables.AdventureModified);
+            QVERIFY(fixture.editorHasFocus() && !fixture.variables.AdventureModified);
         }
     }
 
@@ -154,7 +146,7 @@ private Q_SLOTS:
             QVERIFY(dialog.isVisible());
             QCOMPARE(textsOf(dialog), numbers);
         });
-        QVERIFY(!fixture.adventure.variables.AdventureModified);
+        QVERIFY(!fixture.variables.AdventureModified);
     }
 
     // Between 8 and 12 there is no text that MasterMix could move.
@@ -178,7 +170,7 @@ private Q_SLOTS:
         QFETCH(const QString, button);
         QFETCH(const QString, numbers);
         const WindowFixture fixture(fourParagraphs());
-        const Variables &variables = fixture.adventure.variables;
+        const Variables &variables = fixture.variables;
         fixture.type(" Fin.");
         fixture.field("txtPargNum").setFocus();
         inDialog(fixture, key, [&](const QDialog &dialog) {
@@ -203,13 +195,12 @@ private Q_SLOTS:
         QStringList orders;
         for (const int second : {1, 1, 2}) {
             WindowFixture fixture{AdventureBuilder(lines)};
-            RenumberCommands commands(fixture.adventure.variables, fixture.prompts,
-                                      fixture.window->work());
-            masterMix dialog(fixture.adventure.variables, fixture.prompts, commands, nullptr,
+            RenumberCommands commands(fixture.variables, fixture.prompts, fixture.window->work());
+            masterMix dialog(fixture.variables, fixture.prompts, commands, nullptr,
                              [&] { return QTime(0, 0).addSecs(second); });
             fill(dialog, "1|20");
             click(dialog, "OKButton");
-            orders.append(written(fixture.adventure.variables));
+            orders.append(written(fixture.variables));
         }
         QVERIFY(orders.at(0) == orders.at(1) && orders.at(0) != orders.at(2));
     }
@@ -220,7 +211,7 @@ private Q_SLOTS:
         for (const bool renumbered : {true, false}) {
             WindowFixture fixture(fourParagraphs());
             fixture.type(" Fin.");
-            const QString file = workingFilePath(fixture.adventure.variables, 5);
+            const QString file = workingFilePath(fixture.variables, 5);
             fixture.prompts.expect("Erreur de lecture de fichier.", "BUG");
             inDialog(fixture, "Ctrl+E", [&](QDialog &dialog) {
                 connect(&dialog, &QDialog::finished, this, [&] { QVERIFY(QFile::remove(file)); });
@@ -232,7 +223,7 @@ private Q_SLOTS:
             QCOMPARE(box.text(), renumbered ? "" : "Cinq. Fin.");
             QCOMPARE(fixture.control<QToolButton>("btnBold").isEnabled(), !renumbered);
             fixture.type("x");
-            QCOMPARE(fixture.adventure.variables.ParagraphDirty, !renumbered);
+            QCOMPARE(fixture.variables.ParagraphDirty, !renumbered);
             fixture.window->LoadParg(3);
             QVERIFY(!box.isReadOnly());
             QCOMPARE(box.text(), "Trois.");
