@@ -16,31 +16,28 @@ class tst_controls : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void onlyNumbersAreTaken_data()
-    {
-        addTable<bool, QString, QString, int>({"filtering", "typed", "text", "beeps"},
-                                              {{"numbers", true, "01234.56789", "01234.56789", 0},
-                                               {"backspace", true, "12\b3", "13", 0},
-                                               {"others beep", true, "1,2-x 3", "123", 4},
-                                               {"not filtering", false, "Vide 3", "Vide 3", 0}});
-    }
     void onlyNumbersAreTaken()
     {
-        QFETCH(bool, filtering);
-        QFETCH(QString, typed);
-        QWidget window;
-        PromptRecorder prompts;
-        auto *box = new NumberBox(&window);
-        box->setFiltering(filtering);
-        NumberBox::connectBeeps(window, prompts);
-        for (const QChar c : typed) {
-            if (c == u'\b')
-                QTest::keyClick(box, Qt::Key_Backspace);
-            else
-                QTest::keyClick(box, c.toLatin1());
+        const Table<bool, QString, QString, int> rows{
+            {"numbers", true, "01234.56789", "01234.56789", 0},
+            {"backspace", true, "12\b3", "13", 0},
+            {"others beep", true, "1,2-x 3", "123", 4},
+            {"not filtering", false, "Vide 3", "Vide 3", 0}};
+        for (const auto &[name, filtering, typed, text, beeps] : rows) {
+            QWidget window;
+            PromptRecorder prompts;
+            auto *box = new NumberBox(&window);
+            box->setFiltering(filtering);
+            NumberBox::connectBeeps(window, prompts);
+            for (const QChar c : typed) {
+                if (c == u'\b')
+                    QTest::keyClick(box, Qt::Key_Backspace);
+                else
+                    QTest::keyClick(box, c.toLatin1());
+            }
+            QCOMPARE(box->text(), text);
+            QCOMPARE(prompts.beeps(), beeps);
         }
-        QTEST(box->text(), "text");
-        QTEST(prompts.beeps(), "beeps");
     }
 
     void pastedTextIsHeldToTheSame()
@@ -76,15 +73,10 @@ private Q_SLOTS:
         QCOMPARE(box.selectedText(), "126");
     }
 
-    void filtersAreConverted()
-    {
-        QCOMPARE(dialogFilters("Page HTML (*.htm)|*.htm;*.html|Tous|*.*"),
-                 QStringList({"Page HTML (*.htm *.html)", "Tous (*.*)"}));
-    }
-
-    void namesGetTheExtensionThatTheyLack()
+    void filtersAndNamesAreMadeForTheDialog()
     {
         const QString filter = "Page HTML (*.htm)|*.htm;*.html|Tous|*.*";
+        QCOMPARE(dialogFilters(filter), QStringList({"Page HTML (*.htm *.html)", "Tous (*.*)"}));
         for (const char *name : {"Loup.htm", "Loup.HTML", "Tome 1.5.htm"})
             QCOMPARE(withExtension(name, filter, "htm"), name);
         for (const QString name : {"Livre 2.1", "Mr. Loup", "Loup", "Loup.usm", "htm"})
@@ -92,36 +84,31 @@ private Q_SLOTS:
         QCOMPARE(withExtension("Loup", {}, {}), "Loup"); // a dialog for every kind of file
     }
 
-    void messageBoxesAnswer_data()
+    void messageBoxesAnswer()
     {
         using Buttons = Prompts::Buttons;
         using Answer = Prompts::Answer;
         const QStringList all{"&Annuler", "&Non", "&Oui"};
-        addTable<Buttons, Qt::Key, QStringList, Answer>(
-            {"buttons", "key", "captions", "answer"},
-            {{"enter is yes", Buttons::YesNoCancel, Qt::Key_Return, all, Answer::Yes},
-             {"escape is cancel", Buttons::YesNoCancel, Qt::Key_Escape, all, Answer::Cancel},
-             {"escape is no", Buttons::YesNo, Qt::Key_Escape, all.mid(1), Answer::No},
-             {"escape is ok", Buttons::Ok, Qt::Key_Escape, {"OK"}, Answer::Ok}});
-    }
-    void messageBoxesAnswer()
-    {
-        QFETCH(Prompts::Buttons, buttons);
-        QFETCH(Qt::Key, key);
-        QFETCH(Prompts::Answer, answer);
-        QStringList shown;
-        QTimer::singleShot(0, this, [&] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            for (const QAbstractButton *button : box->buttons())
-                shown.append(button->text());
-            shown.append(box->text());
-            QTest::keyClick(box, key);
-        });
-        const QString asked = "L'aventure <b>Loup</b> ?";
-        QCOMPARE(DialogPrompts().message(asked, "Rappel amical", buttons), answer);
-        QCOMPARE(shown.takeLast(), asked);
-        shown.sort();
-        QTEST(shown, "captions");
+        const Table<Buttons, Qt::Key, QStringList, Answer> rows{
+            {"enter is yes", Buttons::YesNoCancel, Qt::Key_Return, all, Answer::Yes},
+            {"escape is cancel", Buttons::YesNoCancel, Qt::Key_Escape, all, Answer::Cancel},
+            {"escape is no", Buttons::YesNo, Qt::Key_Escape, all.mid(1), Answer::No},
+            {"escape is ok", Buttons::Ok, Qt::Key_Escape, {"OK"}, Answer::Ok}};
+        for (const auto &[name, buttons, key, captions, answer] : rows) {
+            QStringList shown;
+            QTimer::singleShot(0, this, [&shown, pressed = key] {
+                auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                for (const QAbstractButton *button : box->buttons())
+                    shown.append(button->text());
+                shown.append(box->text());
+                QTest::keyClick(box, pressed);
+            });
+            const QString asked = "L'aventure <b>Loup</b> ?";
+            QCOMPARE(DialogPrompts().message(asked, "Rappel amical", buttons), answer);
+            QCOMPARE(shown.takeLast(), asked);
+            shown.sort();
+            QCOMPARE(shown, captions);
+        }
     }
 };
 

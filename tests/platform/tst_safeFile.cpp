@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <csignal>
+#include <memory>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -19,7 +20,7 @@ class tst_safeFile : public QObject
 
     static constexpr qint64 Size = 4 * 65536 - 100; // four blocks
 
-    QTemporaryDir *m_folder = nullptr;
+    std::unique_ptr<QTemporaryDir> m_folder;
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
     QString written(const QString &name, const QByteArray &bytes,
@@ -32,8 +33,7 @@ class tst_safeFile : public QObject
     QStringList names() const { return QDir(m_folder->path()).entryList(QDir::Files); }
 
 private Q_SLOTS:
-    void init() { m_folder = new QTemporaryDir; }
-    void cleanup() { delete m_folder; }
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
     // A disk that is full shows only when the bytes are flushed.
     void halfAFileLeavesTheTargetAndNothingElse()
@@ -52,50 +52,50 @@ private Q_SLOTS:
     }
 
     // By every way of writing; all the links stay.
-    void chainsOfLinksAreFollowedToTheirEnd_data()
-    {
-        addTable<QStringList, QString>(
-            {"links", "end"}, {{"a link to a link", {"link>@/middle", "middle>@/real"}, "real"},
-                               {"relative", {"link>sub/middle", "sub/middle>../real"}, "real"},
-                               {"through a linked folder",
-                                {"far>sub/deep", "link>far/middle", "sub/deep/middle>../real"},
-                                "sub/real"},
-                               {"to no file yet", {"link>middle", "middle>new"}, "new"},
-                               {"in a circle", {"link>middle", "middle>link"}, QString()}});
-    }
     void chainsOfLinksAreFollowedToTheirEnd()
     {
-        QFETCH(QStringList, links);
-        QFETCH(QString, end);
-        QVERIFY(QDir(m_folder->path()).mkpath("sub/deep"));
-        written("real", "old");
-        written("sub/real", "old");
-        for (const QString &link : links)
-            QVERIFY(QFile::link(link.section(u'>', 1).replace(u'@', m_folder->path()),
-                                path(link.section(u'>', 0, 0))));
-        const QList<std::function<void(const QByteArray &)>> ways{
-            [&](const QByteArray &bytes) { written("link", bytes, Links::Follow); },
-            [&](const QByteArray &bytes) { moveIntoPlace(written("source", bytes), path("link")); },
-            [&](const QByteArray &bytes) {
-                FileBatch batch;
-                batch.add(path("link"), bytes);
-                batch.commit();
-            }};
-        QByteArray bytes;
-        for (const auto &way : ways) {
-            bytes += 'x';
-            if (end.isEmpty()) {
-                QVERIFY_THROWS_EXCEPTION(FileError, way(bytes));
-                continue;
+        const Table<QStringList, QString> rows{
+            {"a link to a link", {"link>@/middle", "middle>@/real"}, "real"},
+            {"relative", {"link>sub/middle", "sub/middle>../real"}, "real"},
+            {"through a linked folder",
+             {"far>sub/deep", "link>far/middle", "sub/deep/middle>../real"},
+             "sub/real"},
+            {"to no file yet", {"link>middle", "middle>new"}, "new"},
+            {"in a circle", {"link>middle", "middle>link"}, ""}};
+        for (const auto &[name, links, end] : rows) {
+            init();
+            QVERIFY(QDir(m_folder->path()).mkpath("sub/deep"));
+            written("real", "old");
+            written("sub/real", "old");
+            for (const QString &link : links)
+                QVERIFY(QFile::link(link.section(u'>', 1).replace(u'@', m_folder->path()),
+                                    path(link.section(u'>', 0, 0))));
+            const QList<std::function<void(const QByteArray &)>> ways{
+                [&](const QByteArray &bytes) { written("link", bytes, Links::Follow); },
+                [&](const QByteArray &bytes) {
+                    moveIntoPlace(written("source", bytes), path("link"));
+                },
+                [&](const QByteArray &bytes) {
+                    FileBatch batch;
+                    batch.add(path("link"), bytes);
+                    batch.commit();
+                }};
+            QByteArray bytes;
+            for (const auto &way : ways) {
+                bytes += 'x';
+                if (end.isEmpty()) {
+                    QVERIFY_THROWS_EXCEPTION(FileError, way(bytes));
+                    continue;
+                }
+                way(bytes);
+                QCOMPARE(content(end), bytes);
+                QVERIFY(isSameFile(path("link"), path(end)));
             }
-            way(bytes);
-            QCOMPARE(content(end), bytes);
-            QVERIFY(isSameFile(path("link"), path(end)));
+            for (const QString &link : links)
+                QVERIFY(QFileInfo(path(link.section(u'>', 0, 0))).isSymLink());
+            written("link", "own", Links::Replace);
+            QVERIFY(content("link") == "own" && !QFileInfo(path("link")).isSymLink());
         }
-        for (const QString &link : links)
-            QVERIFY(QFileInfo(path(link.section(u'>', 0, 0))).isSymLink());
-        written("link", "own", Links::Replace);
-        QVERIFY(content("link") == "own" && !QFileInfo(path("link")).isSymLink());
     }
 
     void onlyRegularFilesAreReadOrReplaced()
@@ -138,30 +138,25 @@ private Q_SLOTS:
     }
 
     // Written over in its place: what was there is never mixed with what is there.
-    void openedFileComparesWhatIsUsed_data()
-    {
-        addTable<qint64, QByteArray, bool, bool>({"at", "bytes", "whole", "end"},
-                                                 {{"touched", 0, "x", true, true},
-                                                  {"its beginning", 0, "y", false, true},
-                                                  {"its end", Size - 1, "y", false, false},
-                                                  {"longer", Size, "y", false, true}});
-    }
     void openedFileComparesWhatIsUsed()
     {
-        QFETCH(qint64, at);
-        QFETCH(QByteArray, bytes);
-        QFETCH(bool, end);
-        OpenedFile opened(written("a", QByteArray(Size, 'x')));
-        QFile file(path("a"));
-        QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && file.seek(at));
-        QCOMPARE(file.write(bytes), 1);
-        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(1),
-                                 QFileDevice::FileModificationTime));
-        file.close();
-        QTEST(opened.isStillAt(path("a")), "whole");
-        if (!end)
-            QVERIFY_THROWS_EXCEPTION(FileError, opened.read(Size - 2, 2));
-        QCOMPARE(opened.read(2 * 65536 - 1, 2), "xx"); // from two blocks that nobody touched
+        const Table<qint64, QByteArray, bool, bool> rows{{"touched", 0, "x", true, true},
+                                                         {"its beginning", 0, "y", false, true},
+                                                         {"its end", Size - 1, "y", false, false},
+                                                         {"longer", Size, "y", false, true}};
+        for (const auto &[name, at, bytes, whole, end] : rows) {
+            OpenedFile opened(written("a", QByteArray(Size, 'x')));
+            QFile file(path("a"));
+            QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) && file.seek(at));
+            QCOMPARE(file.write(bytes), 1);
+            QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(1),
+                                     QFileDevice::FileModificationTime));
+            file.close();
+            QCOMPARE(opened.isStillAt(path("a")), whole);
+            if (!end)
+                QVERIFY_THROWS_EXCEPTION(FileError, opened.read(Size - 2, 2));
+            QCOMPARE(opened.read(2 * 65536 - 1, 2), "xx"); // from two blocks that nobody touched
+        }
     }
 };
 

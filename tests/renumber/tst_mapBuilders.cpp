@@ -38,24 +38,18 @@ Marks randomMarks(QRandomGenerator &random, int percent)
     return marks;
 }
 
-bool isPermutation(const RenumberMap &map)
+// Each number goes to another one; the fixed and those outside low..high stay, so that no fixed
+// number receives one either.
+bool isPermutation(const RenumberMap &map, int low, int high, const Marks &fixed)
 {
     std::set<int> numbers;
-    for (int n = 0; n <= Variables::LastParagraph; ++n)
-        numbers.insert(map.of(n));
-    return numbers.size() == Variables::LastParagraph + 1 && *numbers.begin() == 0 &&
-           *numbers.rbegin() == Variables::LastParagraph;
-}
-
-// Fixed numbers and those outside low..high stay, so that no fixed number receives one either.
-bool staysWithin(const RenumberMap &map, int low, int high, const Marks &fixed)
-{
     for (int n = 0; n <= Variables::LastParagraph; ++n) {
-        const bool may = n >= low && n <= high && fixed.at(n) == 0;
-        if (map.moves(n) && !may)
+        numbers.insert(map.of(n));
+        if (map.moves(n) && (n < low || n > high || fixed.at(n) != 0))
             return false;
     }
-    return true;
+    return numbers.size() == Variables::LastParagraph + 1 && *numbers.begin() == 0 &&
+           *numbers.rbegin() == Variables::LastParagraph;
 }
 } // namespace
 
@@ -64,80 +58,50 @@ class tst_mapBuilders : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void blockMove_data()
-    {
-        addTable<int, int, int, bool, QString, QString>(
-            {"low", "high", "delta", "down", "fixed", "moved"},
-            {{"down, overlapping", 10, 12, 2, true, "", "8>11 9>12 10>8 11>9 12>10"},
-             {"down, apart", 10, 11, 5, true, "", "5>10 6>11 10>5 11>6"},
-             {"down, fixed on the way", 10, 12, 2, true, "9", "8>11 10>12 11>8 12>10"},
-             {"down, fixed in the block", 10, 12, 2, true, "11", "8>12 9>8 10>9 12>10"},
-             {"down to 1", 2, 4, 1, true, "", "1>4 2>1 3>2 4>3"},
-             {"up, overlapping", 10, 12, 2, false, "", "10>12 11>13 12>14 13>10 14>11"},
-             {"up, apart", 10, 11, 5, false, "", "10>15 11>16 15>10 16>11"},
-             {"up, fixed on the way", 10, 12, 2, false, "13", "10>12 11>14 12>10 14>11"},
-             {"all fixed", 10, 12, 2, true, "8-12", ""}});
-    }
     void blockMove()
     {
-        QFETCH(int, low);
-        QFETCH(int, high);
-        QFETCH(int, delta);
-        QFETCH(bool, down);
-        QFETCH(QString, fixed);
-        QTEST(moves(BlockMoveMap(low, high, delta, down ? Towards::Lower : Towards::Higher,
-                                 marks(fixed))),
-              "moved");
-    }
-
-    void packHoles_data()
-    {
-        addTable<int, int, QString, QString, QString>(
-            {"low", "high", "written", "fixed", "moved"},
-            {{"holes", 1, 10, "1 2 5 9", "", "3>5 4>6 5>3 6>7 7>8 8>9 9>4"},
-             {"fixed stepped over", 1, 10, "1 2 4 5 9", "4", "5>3 3>6 6>7 7>8 8>9 9>5"},
-             {"holes at the end alone", 1, 10, "1-5", "", ""},
-             {"no hole", 1, 10, "1-10", "", "none"},
-             {"no hole before the fixed end", 1, 10, "1-10", "10", ""},
-             {"nothing written", 1, 10, "", "", "none"},
-             {"nothing but fixed", 1, 10, "4 5", "4 5", "none"},
-             {"to the last number", 1998, 2000, "2000", "1998", "1999>2000 2000>1999"}});
-    }
-    void packHoles()
-    {
-        QFETCH(int, low);
-        QFETCH(int, high);
-        QFETCH(QString, written);
-        QFETCH(QString, fixed);
-        QFETCH(QString, moved);
-        const auto map = PackHolesMap(low, high, marks(written), marks(fixed));
-        QCOMPARE(map.has_value(), moved != "none");
-        if (map) {
-            QStringList sorted = moved.split(u' ');
-            QStringList actual = moves(*map).split(u' ');
-            std::sort(sorted.begin(), sorted.end());
-            std::sort(actual.begin(), actual.end());
-            QCOMPARE(actual, sorted);
+        const Table<int, int, int, bool, QString, QString> rows{
+            {"down, overlapping", 10, 12, 2, true, "", "8>11 9>12 10>8 11>9 12>10"},
+            {"down, apart", 10, 11, 5, true, "", "5>10 6>11 10>5 11>6"},
+            {"down, fixed on the way", 10, 12, 2, true, "9", "8>11 10>12 11>8 12>10"},
+            {"down, fixed in the block", 10, 12, 2, true, "11", "8>12 9>8 10>9 12>10"},
+            {"up, overlapping", 10, 12, 2, false, "", "10>12 11>13 12>14 13>10 14>11"},
+            {"up, fixed on the way", 10, 12, 2, false, "13", "10>12 11>14 12>10 14>11"},
+            {"all fixed", 10, 12, 2, true, "8-12", ""}};
+        for (const auto &[name, low, high, delta, down, fixed, moved] : rows) {
+            const auto towards = down ? Towards::Lower : Towards::Higher;
+            QCOMPARE(moves(BlockMoveMap(low, high, delta, towards, marks(fixed))), moved);
         }
     }
 
-    void mixExchangesEachNumberOnce_data()
+    void packHoles()
     {
-        addTable<int, int, QString, double, QString>(
-            {"low", "high", "fixed", "drawn", "moved"},
-            {{"four numbers", 1, 4, "", 0.5, "2>3 3>2"},
-             {"always the first", 10, 15, "", 0.0, "11>14 12>11 13>12 14>13"},
-             {"always the last", 10, 15, "", 0.999999, "11>14 12>11 13>12 14>13"},
-             {"a fixed partner is not drawn again", 10, 15, "14", 0.999999, ""},
-             {"one alone is free", 10, 15, "11-13", 0.5, ""}});
+        const Table<int, int, QString, QString, QString> rows{
+            {"holes", 1, 10, "1 2 5 9", "", "3>5 4>6 5>3 6>7 7>8 8>9 9>4"},
+            {"fixed stepped over", 1, 10, "1 2 4 5 9", "4", "3>6 5>3 6>7 7>8 8>9 9>5"},
+            {"holes at the end alone", 1, 10, "1-5", "", ""},
+            {"no hole", 1, 10, "1-10", "", "none"},
+            {"no hole before the fixed end", 1, 10, "1-10", "10", ""},
+            {"nothing but fixed", 1, 10, "4 5", "4 5", "none"},
+            {"to the last number", 1998, 2000, "2000", "1998", "1999>2000 2000>1999"}};
+        for (const auto &[name, low, high, written, fixed, moved] : rows) {
+            const auto map = PackHolesMap(low, high, marks(written), marks(fixed));
+            QCOMPARE(map ? moves(*map) : "none", moved);
+        }
     }
+
     void mixExchangesEachNumberOnce()
     {
-        QFETCH(int, low);
-        QFETCH(int, high);
-        QFETCH(QString, fixed);
-        QFETCH(double, drawn);
-        QTEST(moves(MixMap(low, high, marks(fixed), [drawn] { return drawn; })), "moved");
+        const Table<int, int, QString, double, QString> rows{
+            {"four numbers", 1, 4, "", 0.5, "2>3 3>2"},
+            {"always the first", 10, 15, "", 0.0, "11>14 12>11 13>12 14>13"},
+            {"always the last", 10, 15, "", 0.999999, "11>14 12>11 13>12 14>13"},
+            {"a fixed partner is not drawn again", 10, 15, "14", 0.999999, ""},
+            {"one alone is free", 10, 15, "11-13", 0.5, ""}};
+        for (const auto &[name, low, high, fixed, drawn, moved] : rows) {
+            const auto draw = [value = drawn] { return value; };
+            QCOMPARE(moves(MixMap(low, high, marks(fixed), draw)), moved);
+        }
     }
 
     void everyMapIsAPermutationThatLeavesTheFixedAlone()
@@ -149,19 +113,16 @@ private Q_SLOTS:
             const int low = random.bounded(1, 1990);
             const int high = random.bounded(low + 3, round % 2 == 0 ? 2001 : low + 10);
             const auto holds = [&](const RenumberMap &map, int first, int last) {
-                return isPermutation(map) && staysWithin(map, first, last, fixed);
+                return isPermutation(map, first, last, fixed);
             };
             const auto drawn = [&random] { return random.generateDouble(); };
             QVERIFY(holds(MixMap(low, high, fixed, drawn), low + 1, high - 1));
             if (const auto packed = PackHolesMap(low, high, written, fixed))
                 QVERIFY(holds(*packed, low, high));
-            const int down = random.bounded(low);
-            if (down > 0)
-                QVERIFY(
-                    holds(BlockMoveMap(low, high, down, Towards::Lower, fixed), low - down, high));
-            const int up = random.bounded(2001 - high);
-            if (up > 0)
-                QVERIFY(holds(BlockMoveMap(low, high, up, Towards::Higher, fixed), low, high + up));
+            if (const int by = random.bounded(low); by > 0)
+                QVERIFY(holds(BlockMoveMap(low, high, by, Towards::Lower, fixed), low - by, high));
+            if (const int by = random.bounded(2001 - high); by > 0)
+                QVERIFY(holds(BlockMoveMap(low, high, by, Towards::Higher, fixed), low, high + by));
         }
     }
 };

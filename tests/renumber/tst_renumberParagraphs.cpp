@@ -54,23 +54,18 @@ AdventureBuilder randomAdventure(QRandomGenerator &random)
     return AdventureBuilder(lines);
 }
 
-// The name of the text at a number; the number's own new name when there is none.
-QString nameAt(const Opened &adventure, int n)
-{
-    return adventure.text(n).section(u']', 0, 0);
-}
-
 // For each text its name and the names of the texts that it leads to, "-" for the unwritten.
 QStringList web(const Opened &adventure)
 {
     static const QRegularExpression reference(QStringLiteral(" au (\\d+)"),
                                               QRegularExpression::CaseInsensitiveOption);
+    const auto nameAt = [&adventure](int n) { return adventure.text(n).section(u']', 0, 0); };
     QStringList web;
     for (int n = 1; n <= 40; ++n) {
-        QStringList line{nameAt(adventure, n)};
+        QStringList line{nameAt(n)};
         auto found = reference.globalMatch(adventure.text(n));
         while (found.hasNext()) {
-            const QString name = nameAt(adventure, found.next().captured(1).toInt());
+            const QString name = nameAt(found.next().captured(1).toInt());
             line.append(name.isEmpty() ? QStringLiteral("-") : name);
         }
         if (!line.first().isEmpty())
@@ -84,10 +79,7 @@ QStringList everything(const Opened &adventure)
 {
     QStringList lines;
     for (int n = 0; n <= 41; ++n)
-        lines.append(QStringLiteral("%1 %2 %3")
-                         .arg(n)
-                         .arg(QString::fromLatin1(GetParagraphRtf(adventure.variables, n)),
-                              adventure.entry(n)));
+        lines += GetParagraphRtf(adventure.variables, n) + adventure.entry(n).toLatin1();
     return lines;
 }
 
@@ -99,38 +91,31 @@ class tst_renumberParagraphs : public QObject
 
 private Q_SLOTS:
     // 26 becomes 7, 7 becomes 340, 340 becomes 26; every other number stays.
-    void rewritesReferences_data()
-    {
-        addTable<QString, QString, QString>(
-            {"phrase", "text", "rewritten"},
-            {{"plain", " au ", "Allez au 26.", "Allez au 7."},
-             {"longer", " au ", "Allez au 7, au 26 ou au 340", "Allez au 340, au 7 ou au 26"},
-             {"letter case", " au ", "AU FOND AU 26", "AU FOND AU 7"},
-             {"no number", " au ", "au 0, au 2001 et au vingt", "au 0, au 2001 et au vingt"},
-             {"one that stays", " au ", "puis au 5", "puis au 5"},
-             {"zeros in front, staying", " au ", "ou au 012 ?", "ou au 122 ?"},
-             {"zeros in front, moving", " au ", "ou au 026 ?", "ou au 76 ?"},
-             {"blanks in front", " au ", "ou au   26 ?", "ou au 726 ?"},
-             {"a fraction", " au ", "au 26 au 6.5x", "au 26 au 6.5x"},
-             {"half to even", " au ", "vers au 25.5 ?", "vers au 7.5 ?"},
-             {"exponent over the end", " au ", "vers au 1e3", "vers au 1000"},
-             {"exponent before a break", " au ", "vers au 1e3\r\nFin", "vers au 1000\r\nFin"},
-             {"exponent eats the next phrase", " au ", "vers au 1e3 au 26", "vers au 1000au 26"},
-             {"phrase of digits", "2", "226", "27"},
-             {"phrase with a digit", "x7", "x726x77", "x77x7340"}});
-    }
     void rewritesReferences()
     {
-        RenumberMap map;
-        map.set(26, 7);
-        map.set(7, 340);
-        map.set(340, 26);
-        QFETCH(QString, phrase);
-        QFETCH(QString, text);
-        HiddenBox box;
-        box.setText(text);
-        rewriteReferences(box, phrase, map);
-        QTEST(box.text(), "rewritten");
+        const Table<QString, QString, QString> rows{
+            {"longer", " au ", "Allez au 7, au 26 ou au 340", "Allez au 340, au 7 ou au 26"},
+            {"letter case", " au ", "AU FOND AU 26", "AU FOND AU 7"},
+            {"no number", " au ", "au 0, au 2001, au 5, au vingt", "au 0, au 2001, au 5, au vingt"},
+            {"zeros in front, staying", " au ", "ou au 012 ?", "ou au 122 ?"},
+            {"zeros in front, moving", " au ", "ou au 026 ?", "ou au 76 ?"},
+            {"blanks in front", " au ", "ou au   26 ?", "ou au 726 ?"},
+            {"a fraction", " au ", "au 26 au 6.5x", "au 26 au 6.5x"},
+            {"half to even", " au ", "vers au 25.5 ?", "vers au 7.5 ?"},
+            {"exponent over the end", " au ", "vers au 1e3\r\nFin", "vers au 1000\r\nFin"},
+            {"exponent eats the next phrase", " au ", "vers au 1e3 au 26", "vers au 1000au 26"},
+            {"phrase of digits", "2", "226", "27"},
+            {"phrase with a digit", "x7", "x726x77", "x77x7340"}};
+        for (const auto &[name, phrase, text, rewritten] : rows) {
+            RenumberMap map;
+            map.set(26, 7);
+            map.set(7, 340);
+            map.set(340, 26);
+            HiddenBox box;
+            box.setText(text);
+            rewriteReferences(box, phrase, map);
+            QCOMPARE(box.text(), rewritten);
+        }
     }
 
     // Only work that grows faster than the line comes near this time.
@@ -250,25 +235,20 @@ private Q_SLOTS:
         }
     }
 
-    void theRangeIsThatOfTheTexts_data()
-    {
-        addTable<QList<int>, int, int>({"written", "lowest", "highest"},
-                                       {{"none", {}, 1, 1},
-                                        {"zero alone", {0}, 0, 0},
-                                        {"last alone", {2000}, 2000, 2000},
-                                        {"several", {7, 30, 1999}, 7, 1999}});
-    }
     void theRangeIsThatOfTheTexts()
     {
-        Variables v;
-        v.LowestWritten = 500;
-        v.HighestWritten = 900;
-        QFETCH(QList<int>, written);
-        for (const int n : written)
-            v.Written.at(n) = 1;
-        RecomputeWrittenRange(v);
-        QTEST(int{v.LowestWritten}, "lowest");
-        QTEST(int{v.HighestWritten}, "highest");
+        const std::pair<QList<int>, int> rows[] = {
+            {{}, 1}, {{0}, 0}, {{2000}, 2000}, {{7, 30, 1999}, 7}};
+        for (const auto &[written, lowest] : rows) {
+            Variables v;
+            v.LowestWritten = 500;
+            v.HighestWritten = 900;
+            for (const int n : written)
+                v.Written.at(n) = 1;
+            RecomputeWrittenRange(v);
+            QCOMPARE(int{v.LowestWritten}, lowest);
+            QCOMPARE(int{v.HighestWritten}, written.isEmpty() ? lowest : written.last());
+        }
     }
 };
 

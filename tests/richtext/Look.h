@@ -5,6 +5,14 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
+struct WithText : HiddenBox {
+    explicit WithText(const QString &text) { setText(text); }
+};
+
+struct WithRtf : HiddenBox {
+    explicit WithRtf(const QByteArray &rtf) { setRtf(rtf); }
+};
+
 inline RichTextBox &at(RichTextBox &box, int start, int length)
 {
     box.select(start, length);

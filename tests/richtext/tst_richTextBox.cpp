@@ -10,10 +10,7 @@ namespace
 {
 const QRgb red = qRgb(255, 0, 0);
 
-void fill(RichTextBox &box)
-{
-    box.setText("un\r\n\r\ndeux trois\r\nquatre");
-}
+const QString four = "un\r\n\r\ndeux trois\r\nquatre";
 
 // Gives the selection every attribute but a bullet, which would hang by itself.
 void format(RichTextBox &box)
@@ -38,92 +35,65 @@ class TestRichTextBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void positionsCountBreaksTwice_data()
-    {
-        addTable<int, int, int, QString>(
-            {"start", "length", "gotStart", "text"},
-            {{"with break", 0, 4, 0, "un\r\n"},
-             {"half a break at the end", 0, 3, 0, "un"},
-             {"from half a break", 3, 1, 2, "\r\n"},
-             {"across", 6, 14, 6, "deux trois\r\nqu"},
-             {"to the end", 18, 999, 18, "quatre"},
-             {"before", -5, 2, 0, "un"},
-             {"largest", 6, std::numeric_limits<int>::max(), 6, "deux trois\r\nquatre"}});
-    }
     void positionsCountBreaksTwice()
     {
-        QFETCH(int, start);
-        QFETCH(int, length);
-        QFETCH(QString, text);
-        HiddenBox box;
-        fill(box);
-        box.select(start, length);
-        QTEST(box.selStart(), "gotStart");
-        QCOMPARE(box.selLength(), text.size());
-        QCOMPARE(box.selText(), text);
-        QCOMPARE(box.textLength(), box.text().size());
+        const Table<int, int, int, QString> rows{
+            {"with break", 0, 4, 0, "un\r\n"},
+            {"half a break at the end", 0, 3, 0, "un"},
+            {"from half a break", 3, 1, 2, "\r\n"},
+            {"to the end", 18, 999, 18, "quatre"},
+            {"before", -5, 2, 0, "un"},
+            {"largest", 6, std::numeric_limits<int>::max(), 6, "deux trois\r\nquatre"}};
+        for (const auto &[name, start, length, gotStart, text] : rows) {
+            WithText box(four);
+            box.select(start, length);
+            QCOMPARE(box.selStart(), gotStart);
+            QCOMPARE(box.selLength(), text.size());
+            QCOMPARE(box.selText(), text);
+            QCOMPARE(box.textLength(), box.text().size());
+        }
     }
 
-    void enteringTextIsCleaned_data()
-    {
-        const QString lines = "a\r\nb";
-        addTable<QString, QString>({"entered", "text"},
-                                   {{"LF", "a\nb", lines},
-                                    {"CR", "a\rb", lines},
-                                    {"CR LF", lines, lines},
-                                    {"paragraph separator", "a\u2029b", lines},
-                                    {"controls", QStringLiteral(u"a\u0001\u0000\tb"), "a\tb"},
-                                    {"frame marks", QStringLiteral(u"a\ufdd0\ufdd1\ufffcb"), "ab"},
-                                    {"half a pair", "a" + QString(QChar(0xd800)), "a\ufffd"},
-                                    {"no-break space", "1\u00a0a", "1\u00a0a"}});
-    }
     void enteringTextIsCleaned()
     {
-        QFETCH(QString, entered);
-        QFETCH(QString, text);
-        HiddenBox box;
-        box.setText(entered);
-        QCOMPARE(box.text(), text);
-        box.setText({});
-        box.setSelText(entered);
-        QCOMPARE(box.text(), text);
-        QCOMPARE(box.selStart(), text.size());
+        const Table<QString, QString> rows{
+            {"breaks", "a\nb\rc\r\nd\u2029e", "a\r\nb\r\nc\r\nd\r\ne"},
+            {"controls and marks", QStringLiteral(u"a\u0001\u0000\tb\ufdd0\ufdd1\ufffcc"), "a\tbc"},
+            {"half a pair", "a" + QString(QChar(0xd800)), "a\ufffd"},
+            {"no-break space", "1\u00a0a", "1\u00a0a"}};
+        for (const auto &[name, entered, text] : rows) {
+            WithText box(entered);
+            QCOMPARE(box.text(), text);
+            box.setText({});
+            box.setSelText(entered);
+            QCOMPARE(box.text(), text);
+            QCOMPARE(box.selStart(), text.size());
+        }
     }
 
-    void findSelects_data()
-    {
-        // The text: "Allez au 3\r\nou AU 7, à l'Été\u00a0: porte, portes"
-        addTable<QString, int, bool, bool, int>(
-            {"needle", "start", "wholeWord", "matchCase", "found"},
-            {{"first", " au ", 0, false, false, 5},
-             {"same case", " au ", 6, false, true, -1},
-             {"accents count", "ete", 0, false, false, -1},
-             {"across a break", "3\r\nou", 0, false, false, 9},
-             {"no-break space", "\u00a0:", 0, false, false, 28},
-             {"word", "porte", 32, true, false, -1},
-             {"word at the end", "portes", 0, true, false, 38},
-             {"beyond", " au ", 500, false, false, -1},
-             {"before", "allez", -3, false, false, 0}});
-    }
     void findSelects()
     {
-        QFETCH(QString, needle);
-        QFETCH(int, start);
-        QFETCH(bool, wholeWord);
-        QFETCH(bool, matchCase);
-        QFETCH(int, found);
-        HiddenBox box;
-        box.setText("Allez au 3\r\nou AU 7, à l'Été\u00a0: porte, portes");
-        box.select(1, 2);
-        QCOMPARE(box.find(needle, start, {wholeWord, matchCase}), found);
-        QCOMPARE(box.selStart(), found < 0 ? 1 : found);
-        QCOMPARE(box.selLength(), found < 0 ? 2 : needle.size());
+        const Table<QString, int, bool, bool, int> rows{
+            {"first", " au ", 0, false, false, 5},
+            {"same case", " au ", 6, false, true, -1},
+            {"accents count", "ete", 0, false, false, -1},
+            {"across a break", "3\r\nou", 0, false, false, 9},
+            {"no-break space", "\u00a0:", 0, false, false, 28},
+            {"word", "porte", 32, true, false, -1},
+            {"word at the end", "portes", -3, true, false, 38},
+            {"beyond", " au ", 500, false, false, -1}};
+        for (const auto &[name, needle, start, wholeWord, matchCase, found] : rows) {
+            WithText box("Allez au 3\r\nou AU 7, à l'Été\u00a0: porte, portes");
+            box.select(1, 2);
+            QCOMPARE(box.find(needle, start, {wholeWord, matchCase}), found);
+            QCOMPARE(box.selStart(), found < 0 ? 1 : found);
+            QCOMPARE(box.selLength(), found < 0 ? 2 : needle.size());
+        }
     }
 
     void replacementKeepsFirstFormat()
     {
-        HiddenBox box;
-        box.setText("au 26.");
+        WithText box("au 26.");
         at(box, 3, 1).setSelBold(true);
         box.setSelColor(red);
         at(box, 3, 2).setSelText("143");
@@ -137,12 +107,10 @@ private Q_SLOTS:
         const QString chars = "b i ul strike Écriture; {ronde} ★ 10.5 #cc00ff ";
         const QString paragraph = "r li1 fi-0.5 ri0.25 t2.5,5";
         const QString mixed = "b? i? ul? strike? ? ? ? ";
-        HiddenBox written;
-        fill(written);
+        WithText written(four);
         format(at(written, 6, 4));
-        HiddenBox read;
-        read.setRtf(written.rtf());
-        for (RichTextBox *box : {&written, &read}) {
+        WithRtf read(written.rtf());
+        for (HiddenBox *box : std::initializer_list<HiddenBox *>{&written, &read}) {
             QCOMPARE(look(*box, 6, 4), chars + paragraph);
             QCOMPARE(look(*box, 6, 8), mixed + paragraph);
             // A selection that merely ends at the start of a paragraph does not hold it.
@@ -157,8 +125,7 @@ private Q_SLOTS:
 
     void plainTakesEveryFormatOfTheSelection()
     {
-        HiddenBox box;
-        fill(box);
+        WithText box(four);
         format(at(box, 0, 24));
         at(box, 6, 12).setSelBullet(true);
         const QString before = look(box, 0, 2);
@@ -174,8 +141,7 @@ private Q_SLOTS:
 
     void insertedRtfKeepsFormatBehind()
     {
-        HiddenBox box;
-        box.setText("avantaprès");
+        WithText box("avantaprès");
         box.setSelAlignment(RichTextBox::Alignment::Right);
         at(box, 5, 0).setSelRtf("{\\rtf1\\pard\\qc\\b un\\par\\ls1 deux\\par trois\\par}");
         QCOMPARE(looks(box), "[avant c][un b c]/[deux b c *]/[trois b r][après r]");
@@ -183,8 +149,7 @@ private Q_SLOTS:
 
     void insertedSelectionIsItself()
     {
-        HiddenBox box;
-        fill(box);
+        WithText box(four);
         at(box, 6, 4).setSelBold(true);
         box.setSelBullet(true);
         const QByteArray before = box.rtf();
@@ -199,8 +164,7 @@ private Q_SLOTS:
     void refusedValuesChangeNothing()
     {
         constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-        HiddenBox box;
-        fill(box);
+        WithText box(four);
         box.select(0, 24);
         const QByteArray before = box.rtf();
         for (const double size : {0.0, -3.0, 1639.0, nan})
@@ -244,7 +208,7 @@ private Q_SLOTS:
     {
         HiddenBox box;
         box.setBaseFont("Arial", 10);
-        fill(box);
+        box.setText(four);
         at(box, 0, 24).setSelBullet(true);
         box.setSelColor(red);
         const QByteArray rich = box.rtf();
@@ -264,15 +228,13 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath("LTdI-0026.rtf");
-        HiddenBox box;
-        fill(box);
-        box.saveFile(path);
+        WithText box(four);
         HiddenBox other;
+        box.saveFile(path);
         other.loadFile(path);
-        QCOMPARE(other.rtf(), box.rtf());
         QVERIFY_THROWS_EXCEPTION(FileError, other.loadFile(path + u'x'));
         QVERIFY_THROWS_EXCEPTION(FileError, other.saveFile(folder.filePath("x/y.rtf")));
-        QCOMPARE(other.text(), box.text());
+        QCOMPARE(other.rtf(), box.rtf());
     }
 };
 

@@ -21,35 +21,27 @@ class TestRichTextClipboard : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void htmlGivesText_data()
-    {
-        addTable<QString, QString>(
-            {"html", "text"},
-            {
-                {"nothing", "", ""},
-                {"paragraphs", "<p>un</p><p>deux<br>trois</p>", "un\r\ndeux\r\ntrois"},
-                {"white space", "<p>a \n b&nbsp;c&amp;</p>", "a b\u00a0c&"},
-                {"list", "<ul><li>a</li><li>b</li></ul>", "a\r\nb"},
-                {"numbers", "<ol><li>a</li><li>b</li></ol>", "1.\ta\r\n2.\tb"},
-                {"table",
-                 "<p>x</p><table><tr><td>a</td><td>b</td></tr>"
-                 "<tr><td>c</td><td></td></tr></table><p>y</p>",
-                 "x\r\na\tb\r\nc\t\r\ny"},
-                {"table alone", "<table><tr><td>a</td><td><p>b</p><p>c<br>d</p></td></tr></table>",
-                 "a\tb c d"},
-                {"not text", "<style>p{}</style><script>x()</script><p>a</p>", "a"},
-            });
-    }
     void htmlGivesText()
     {
-        QFETCH(QString, html);
-        QTEST(rtfToPlainText(rtfFromHtml(html)), "text");
+        const Table<QString, QString> rows{
+            {"paragraphs", "<p>un</p><p>deux<br>trois</p>", "un\r\ndeux\r\ntrois"},
+            {"white space", "<p>a \n b&nbsp;c&amp;</p>", "a b\u00a0c&"},
+            {"lists", "<ul><li>a</li></ul><ol><li>b</li><li>c</li></ol>", "a\r\n1.\tb\r\n2.\tc"},
+            {"table",
+             "<p>x</p><table><tr><td>a</td><td>b</td></tr>"
+             "<tr><td>c</td><td></td></tr></table><p>y</p>",
+             "x\r\na\tb\r\nc\t\r\ny"},
+            {"table alone", "<table><tr><td>a</td><td><p>b</p><p>c<br>d</p></td></tr></table>",
+             "a\tb c d"},
+            {"not text", "<style>p{}</style><script>x()</script><p>a</p>", "a"},
+        };
+        for (const auto &[name, html, text] : rows)
+            QCOMPARE(rtfToPlainText(rtfFromHtml(html)), text);
     }
 
     void htmlKeepsKnownFormatting()
     {
-        HiddenBox box;
-        box.setRtf(rtfFromHtml(
+        WithRtf box(rtfFromHtml(
             "<p align=center><b>gras</b><i>i</i><font color=#ff0000>rouge</font><span "
             "style='font-family:Courier;font-size:16px'>fixe</span></p><ul><li>puce</li></ul>"));
         QCOMPARE(looks(box), "[gras b Arial 10 c][i i Arial 10 c][rouge Arial 10 #ff0000 c]"
@@ -71,51 +63,42 @@ private Q_SLOTS:
         QVERIFY(!rtf.contains("\\b "));
     }
 
-    void bestFormIsPasted_data()
-    {
-        const QString html = "<p>html</p>";
-        const QString plain = "brut\nsuite";
-        addTable<QByteArray, QString, QString, QString, QString>(
-            {"rtf", "html", "plain", "text", "alone"},
-            {
-                {"RTF", "{\\rtf1 rtf}", html, plain, "[rtf]", "[brut\r\nsuite]"},
-                {"RTF only", "{\\rtf1\\b rtf}", "", "", "[rtf]", "[rtf]"},
-                {"bad RTF", "rtf", html, plain, "[html]", "[brut\r\nsuite]"},
-                {"HTML", "", html, "", "[html]", "[html]"},
-                {"text", "", "", plain, "[brut\r\nsuite]", "[brut\r\nsuite]"},
-                {"nothing", "", "", "", "[x]", "[x]"},
-            });
-    }
     void bestFormIsPasted()
     {
-        QFETCH(QByteArray, rtf);
-        QFETCH(QString, html);
-        QFETCH(QString, plain);
-        QFETCH(QString, text);
-        QMimeData data;
-        if (!rtf.isEmpty())
-            data.setData("application/rtf", rtf);
-        if (!html.isEmpty())
-            data.setHtml(html);
-        if (!plain.isEmpty())
-            data.setText(plain);
-        HiddenBox box;
-        box.setText("[x]");
-        const bool pasted = RichTextClipboard::paste(at(box, 1, 1), data);
-        QCOMPARE(box.text(), text);
-        QCOMPARE(pasted, text != "[x]");
-        QCOMPARE(RichTextClipboard::canPaste(data), pasted);
-        box.setText("[x]");
-        at(box, 1, 1).setSelBold(true);
-        QCOMPARE(RichTextClipboard::pastePlain(box, data), pasted);
-        QTEST(box.text(), "alone");
-        QCOMPARE(look(box, 1, 1), "b");
+        const QString page = "<p>html</p>";
+        const QString lines = "brut\nsuite";
+        const Table<QByteArray, QString, QString, QString, QString> rows{
+            {"RTF", "{\\rtf1 rtf}", page, lines, "[rtf]", "[brut\r\nsuite]"},
+            {"RTF only", "{\\rtf1\\b rtf}", "", "", "[rtf]", "[rtf]"},
+            {"bad RTF", "rtf", page, lines, "[html]", "[brut\r\nsuite]"},
+            {"HTML", "", page, "", "[html]", "[html]"},
+            {"text", "", "", lines, "[brut\r\nsuite]", "[brut\r\nsuite]"},
+            {"nothing", "", "", "", "[x]", "[x]"},
+        };
+        for (const auto &[name, rtf, html, plain, text, alone] : rows) {
+            QMimeData data;
+            if (!rtf.isEmpty())
+                data.setData("application/rtf", rtf);
+            if (!html.isEmpty())
+                data.setHtml(html);
+            if (!plain.isEmpty())
+                data.setText(plain);
+            WithText box("[x]");
+            const bool pasted = RichTextClipboard::paste(at(box, 1, 1), data);
+            QCOMPARE(box.text(), text);
+            QCOMPARE(pasted, text != "[x]");
+            QCOMPARE(RichTextClipboard::canPaste(data), pasted);
+            box.setText("[x]");
+            at(box, 1, 1).setSelBold(true);
+            QCOMPARE(RichTextClipboard::pastePlain(box, data), pasted);
+            QCOMPARE(box.text(), alone);
+            QCOMPARE(look(box, 1, 1), "b");
+        }
     }
 
     void copyPastesTheSame()
     {
-        HiddenBox box;
-        box.setRtf("{\\rtf1{\\colortbl;\\red255;}\\cf1\\b a\\par\\ls1 b\\par\\pard c}");
+        WithRtf box("{\\rtf1{\\colortbl;\\red255;}\\cf1\\b a\\par\\ls1 b\\par\\pard c}");
         QVERIFY(RichTextClipboard::mimeData(box) == nullptr);
         const auto data = RichTextClipboard::mimeData(at(box, 0, 7));
         QCOMPARE(data->text(), "a\nb\nc");

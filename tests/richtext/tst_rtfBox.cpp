@@ -34,8 +34,7 @@ private Q_SLOTS:
     {
         const QByteArray rtf =
             "{\\rtf1{\\fonttbl{\\f0 Arial;}}\\qc\\b a\\par\\ls1\\fs21 b\\par\\pard c}";
-        HiddenBox hidden;
-        hidden.setRtf(rtf);
+        WithRtf hidden(rtf);
         RtfBox box;
         box.show();
         QTest::keyClicks(&box, "x");
@@ -55,39 +54,30 @@ private Q_SLOTS:
         QVERIFY(box.document()->isUndoRedoEnabled());
     }
 
-    void editsAreSignalledSingleUndoSteps_data()
-    {
-        addTable<Edit>(
-            {"edit"},
-            {
-                {"key", [](RtfBox &box) { QTest::keyClicks(&box, "x"); }},
-                {"bold", [](RtfBox &box) { box.setSelBold(true); }},
-                {"bullet", [](RtfBox &box) { box.setSelBullet(true); }},
-                {"tabs",
-                 [](RtfBox &box) {
-                     box.setSelTabs({1, 2});
-                 }},
-                {"text", [](RtfBox &box) { box.setSelText("a\nb"); }},
-                {"RTF", [](RtfBox &box) { box.setSelRtf("{\\rtf1\\qc\\b a\\par\\ls1 b\\par c}"); }},
-            });
-    }
     void editsAreSignalledSingleUndoSteps()
     {
-        QFETCH(Edit, edit);
-        RtfBox box;
-        box.setText("un\r\n\r\ndeux");
-        const QByteArray before = box.rtf();
-        box.select(0, 10);
-        QSignalSpy edited(&box, &RtfBox::edited);
-        edit(box);
-        QVERIFY(edited.count() > 0);
-        const QByteArray after = box.rtf();
-        QVERIFY(after != before);
-        for (int i = 0; i < 2; ++i) {
-            edited.clear();
-            i == 0 ? box.undo() : box.redo();
+        const Table<Edit> rows{
+            {"key", [](RtfBox &box) { QTest::keyClicks(&box, "x"); }},
+            {"bold", [](RtfBox &box) { box.setSelBold(true); }},
+            {"bullet", [](RtfBox &box) { box.setSelBullet(true); }},
+            {"text", [](RtfBox &box) { box.setSelText("a\nb"); }},
+            {"RTF", [](RtfBox &box) { box.setSelRtf("{\\rtf1\\qc\\b a\\par\\ls1 b\\par c}"); }}};
+        for (const auto &[name, edit] : rows) {
+            RtfBox box;
+            box.setText("un\r\n\r\ndeux");
+            const QByteArray before = box.rtf();
+            box.select(0, 10);
+            QSignalSpy edited(&box, &RtfBox::edited);
+            edit(box);
             QVERIFY(edited.count() > 0);
-            QCOMPARE(box.rtf(), i == 0 ? before : after);
+            const QByteArray after = box.rtf();
+            QVERIFY(after != before);
+            edited.clear();
+            box.undo();
+            QVERIFY(edited.count() > 0);
+            QCOMPARE(box.rtf(), before);
+            box.redo();
+            QCOMPARE(box.rtf(), after);
         }
     }
 
@@ -220,54 +210,47 @@ private Q_SLOTS:
         QVERIFY(!box.document()->isUndoAvailable());
     }
 
-    void tabsAreDrawnFromTheMargin_data()
-    {
-        addTable<double, double, bool, double, double>(
-            {"left", "first", "bullet", "tab", "drawn"},
-            {{"no indent", 0.0, 0.0, false, 4.0, 4.0},
-             {"indents", 1.5, 1.0, false, 4.0, 4.0},
-             {"hanging", 1.5, -1.0, false, 4.0, 1.5},
-             {"before the hanging indent", 1.5, -1.0, false, 1.0, 1.0},
-             {"bullet", 1.0, 0.0, true, 4.0, 4.0},
-             {"left of the line", 3.0, 0.0, false, 2.0, 3.81},
-             {"usual distance", 1.5, 0.0, false, 0.0, 2.54},
-             {"usual distance of a bullet", 0.0, 0.0, true, 0.0, 1.27}});
-    }
     void tabsAreDrawnFromTheMargin()
     {
-        QFETCH(double, left);
-        QFETCH(double, first);
-        QFETCH(bool, bullet);
-        QFETCH(double, tab);
-        QFETCH(double, drawn);
-        constexpr double pixels = 96 / 2.54;
-        RtfBox box;
-        box.resize(900, 300);
-        box.show();
-        const auto drawnAt = [&box, pixels] {
-            QTextCursor caret(box.document());
-            caret.setPosition(1);
-            return (box.cursorRect(caret).left() + box.horizontalScrollBar()->value() -
-                    box.document()->documentMargin()) /
-                   pixels;
-        };
-        for (const bool tabsFirst : {true, false}) {
-            box.setText("\tX");
-            if (tabsFirst)
-                box.setSelTabs({tab});
-            box.setSelIndent(left);
-            box.setSelHangingIndent(first);
-            box.setSelBullet(bullet);
-            if (!tabsFirst)
-                box.setSelTabs({tab});
-            QVERIFY2(qAbs(drawnAt() - drawn) < 0.04, qPrintable(QString::number(drawnAt())));
-            const QByteArray rtf = box.rtf();
-            QCOMPARE(rtf.count("\\tx"), tab > 0 ? 1 : 0);
-            QVERIFY(tab == 0 ||
-                    rtf.contains("\\tx" + QByteArray::number(qRound(tab * 1440 / 2.54))));
-            box.setRtf(rtf);
-            QCOMPARE(box.rtf(), rtf);
-            QVERIFY2(qAbs(drawnAt() - drawn) < 0.04, qPrintable(QString::number(drawnAt())));
+        const Table<double, double, bool, double, double> rows{
+            {"no indent", 0.0, 0.0, false, 4.0, 4.0},
+            {"indents", 1.5, 1.0, false, 4.0, 4.0},
+            {"hanging", 1.5, -1.0, false, 4.0, 1.5},
+            {"before the hanging indent", 1.5, -1.0, false, 1.0, 1.0},
+            {"bullet", 1.0, 0.0, true, 4.0, 4.0},
+            {"left of the line", 3.0, 0.0, false, 2.0, 3.81},
+            {"usual distance", 1.5, 0.0, false, 0.0, 2.54},
+            {"usual distance of a bullet", 0.0, 0.0, true, 0.0, 1.27}};
+        for (const auto &[name, left, first, bullet, tab, drawn] : rows) {
+            constexpr double pixels = 96 / 2.54;
+            RtfBox box;
+            box.resize(900, 300);
+            box.show();
+            const auto drawnAt = [&box, pixels] {
+                QTextCursor caret(box.document());
+                caret.setPosition(1);
+                return (box.cursorRect(caret).left() + box.horizontalScrollBar()->value() -
+                        box.document()->documentMargin()) /
+                       pixels;
+            };
+            for (const bool tabsFirst : {true, false}) {
+                box.setText("\tX");
+                if (tabsFirst)
+                    box.setSelTabs({tab});
+                box.setSelIndent(left);
+                box.setSelHangingIndent(first);
+                box.setSelBullet(bullet);
+                if (!tabsFirst)
+                    box.setSelTabs({tab});
+                QVERIFY2(qAbs(drawnAt() - drawn) < 0.04, qPrintable(QString::number(drawnAt())));
+                const QByteArray rtf = box.rtf();
+                QCOMPARE(rtf.count("\\tx"), tab > 0 ? 1 : 0);
+                QVERIFY(tab == 0 ||
+                        rtf.contains("\\tx" + QByteArray::number(qRound(tab * 1440 / 2.54))));
+                box.setRtf(rtf);
+                QCOMPARE(box.rtf(), rtf);
+                QVERIFY2(qAbs(drawnAt() - drawn) < 0.04, qPrintable(QString::number(drawnAt())));
+            }
         }
     }
 

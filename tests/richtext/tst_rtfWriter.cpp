@@ -109,9 +109,8 @@ private Q_SLOTS:
 
     void fontNamesThatAreWrittenAlikeAreOne()
     {
-        HiddenBox box;
-        box.setRtf("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 A\\'01rial ;}{\\f2 " +
-                   QByteArray(255, 'x') + " y;}}\\f0 a\\f1 b\\f2 c}");
+        WithRtf box("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 A\\'01rial ;}{\\f2 " +
+                    QByteArray(255, 'x') + " y;}}\\f0 a\\f1 b\\f2 c}");
         const QByteArray rtf = box.rtf();
         QCOMPARE(rtf.count("Arial"), 1);
         QVERIFY(rtf.contains(" ab"));

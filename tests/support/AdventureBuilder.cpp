@@ -11,17 +11,14 @@
 
 namespace
 {
-QByteArray u16(int n)
+template <typename Number> QByteArray bigEndian(qsizetype n)
 {
-    const quint16 big = qToBigEndian(static_cast<quint16>(n));
-    return QByteArray(reinterpret_cast<const char *>(&big), 2);
+    const Number big = qToBigEndian(static_cast<Number>(n));
+    return QByteArray(reinterpret_cast<const char *>(&big), sizeof big);
 }
 
-QByteArray u32(qsizetype n)
-{
-    const quint32 big = qToBigEndian(static_cast<quint32>(n));
-    return QByteArray(reinterpret_cast<const char *>(&big), 4);
-}
+constexpr auto u16 = &bigEndian<quint16>;
+constexpr auto u32 = &bigEndian<quint32>;
 
 // What the index should hold for a text, for " au " and plain numbers.
 QByteArray listOf(const QString &text)
@@ -48,8 +45,7 @@ AdventureBuilder::AdventureBuilder(const QStringList &lines)
         const qsizetype colon = line.indexOf(u':');
         QString number = line.left(colon);
         const bool fixed = number.endsWith(u'!');
-        if (fixed)
-            number.chop(1);
+        number.remove(u'!');
         const QString text = line.mid(colon + 2);
         m_paragraphs.append({number.toInt(), rtfOf(text), listOf(text), fixed});
     }
@@ -60,34 +56,10 @@ AdventureBuilder::AdventureBuilder(const QStringList &lines)
     }
 }
 
-AdventureBuilder &AdventureBuilder::current(int n)
-{
-    m_current = n;
-    return *this;
-}
-
-AdventureBuilder &AdventureBuilder::phrase(const QByteArray &windows1252)
-{
-    m_phrase = windows1252;
-    return *this;
-}
-
 AdventureBuilder &AdventureBuilder::range(int lowest, int highest)
 {
     m_lowest = lowest;
     m_highest = highest;
-    return *this;
-}
-
-AdventureBuilder &AdventureBuilder::rawText(int n, const QByteArray &bytes)
-{
-    paragraph(n).text = bytes;
-    return *this;
-}
-
-AdventureBuilder &AdventureBuilder::list(int n, const QByteArray &list)
-{
-    paragraph(n).list = list;
     return *this;
 }
 
@@ -112,13 +84,12 @@ char AdventureBuilder::flag(int n) const
 
 QByteArray AdventureBuilder::bytes() const
 {
-    QByteArray bytes = header(35) + "TARG" + u16(static_cast<int>(m_phrase.size())) + m_phrase;
+    QByteArray bytes = header(35) + "TARG" + u16(m_phrase.size()) + m_phrase;
     bytes += "UNMX";
     for (int n = m_lowest; n <= m_highest; ++n)
         bytes += flag(n);
     for (const Paragraph &p : m_paragraphs)
-        bytes += "SECT" + u16(p.number) + u32(p.text.size()) + p.text +
-                 u16(static_cast<int>(p.list.size())) + p.list;
+        bytes += "SECT" + u16(p.number) + u32(p.text.size()) + p.text + u16(p.list.size()) + p.list;
     return bytes + "DONE";
 }
 

@@ -17,12 +17,15 @@ class AdventureBuilder
 public:
     explicit AdventureBuilder(const QStringList &lines = {});
 
-    AdventureBuilder &current(int n);
-    AdventureBuilder &phrase(const QByteArray &windows1252);
+    AdventureBuilder &current(int n) { return set(m_current, n); }
+    AdventureBuilder &phrase(const QByteArray &windows1252) { return set(m_phrase, windows1252); }
     AdventureBuilder &range(int lowest, int highest);
     // Replaces the text of a paragraph by these bytes.
-    AdventureBuilder &rawText(int n, const QByteArray &bytes);
-    AdventureBuilder &list(int n, const QByteArray &list);
+    AdventureBuilder &rawText(int n, const QByteArray &bytes)
+    {
+        return set(paragraph(n).text, bytes);
+    }
+    AdventureBuilder &list(int n, const QByteArray &list) { return set(paragraph(n).list, list); }
 
     // The file in version 35, and in an older version.
     QByteArray bytes() const;
@@ -35,6 +38,11 @@ private:
         QByteArray list;
         bool fixed;
     };
+    template <typename Value> AdventureBuilder &set(Value &field, const Value &value)
+    {
+        field = value;
+        return *this;
+    }
     Paragraph &paragraph(int n);
     QByteArray header(int version) const;
     char flag(int n) const;

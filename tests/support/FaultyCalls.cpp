@@ -68,8 +68,9 @@ int onDescriptor(const char *name, int descriptor)
     return systemFunction<int (*)(int)>(name, nullptr)(descriptor);
 }
 
-int opened(const char *name, const char *path, int flags, mode_t mode)
+int opened(const char *name, const char *path, int flags, va_list arguments)
 {
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
     const bool watched = isWatched(path);
     if (watched && (flags & (O_WRONLY | O_RDWR)) != 0 && goesWrong())
         return -1;
@@ -80,10 +81,6 @@ int opened(const char *name, const char *path, int flags, mode_t mode)
     return descriptor;
 }
 
-mode_t modeOf(int flags, va_list arguments)
-{
-    return (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
-}
 } // namespace
 
 void FaultyCalls::arm(const QString &prefix, Fault fault, int call)
@@ -103,18 +100,18 @@ int open(const char *path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
-    const mode_t mode = modeOf(flags, arguments);
+    const int descriptor = opened("open", path, flags, arguments);
     va_end(arguments);
-    return opened("open", path, flags, mode);
+    return descriptor;
 }
 
 int open64(const char *path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
-    const mode_t mode = modeOf(flags, arguments);
+    const int descriptor = opened("open64", path, flags, arguments);
     va_end(arguments);
-    return opened("open64", path, flags, mode);
+    return descriptor;
 }
 
 int close(int descriptor)
