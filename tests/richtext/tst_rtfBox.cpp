@@ -17,6 +17,7 @@ namespace
 class OpenBox : public RtfBox
 {
 public:
+    explicit OpenBox(const QString &text = {}) { setText(text); }
     using RtfBox::canInsertFromMimeData;
     using RtfBox::createMimeDataFromSelection;
     using RtfBox::insertFromMimeData;
@@ -63,8 +64,7 @@ private Q_SLOTS:
             {"text", [](RtfBox &box) { box.setSelText("a\nb"); }},
             {"RTF", [](RtfBox &box) { box.setSelRtf("{\\rtf1\\qc\\b a\\par\\ls1 b\\par c}"); }}};
         for (const auto &[name, edit] : rows) {
-            RtfBox box;
-            box.setText("un\r\n\r\ndeux");
+            OpenBox box("un\r\n\r\ndeux");
             const QByteArray before = box.rtf();
             box.select(0, 10);
             QSignalSpy edited(&box, &RtfBox::edited);
@@ -100,8 +100,7 @@ private Q_SLOTS:
 
     void keysGiveWhatTheFileHolds()
     {
-        RtfBox box;
-        box.setText("a");
+        OpenBox box("a");
         const QByteArray before = box.rtf();
         box.setSelBullet(true);
         QTest::keyClick(&box, Qt::Key_Backspace);
@@ -113,8 +112,7 @@ private Q_SLOTS:
 
     void enterOnAnEmptyLineKeepsItsFormat()
     {
-        RtfBox box;
-        box.setText({});
+        OpenBox box;
         box.setSelAlignment(RichTextBox::Alignment::Centre);
         box.setSelIndent(1);
         box.setSelBold(true);
@@ -133,8 +131,7 @@ private Q_SLOTS:
 
     void typingIsUndoneByWordsAndShortRuns()
     {
-        RtfBox box;
-        box.setText({});
+        OpenBox box;
         quint64 now = 5000;
         const auto type = [&box, &now](const QString &text, quint64 wait = 0) {
             now += wait;
@@ -176,9 +173,7 @@ private Q_SLOTS:
                 throw std::bad_alloc();
             }
         } failing;
-        OpenBox box;
-        box.resize(300, 300);
-        box.setText("un deux");
+        OpenBox box("un deux");
         box.show();
         QTest::keyClicks(&box, "x");
         box.selectAll();
@@ -196,8 +191,7 @@ private Q_SLOTS:
 
     void pastingTooMuchLeavesTheBox()
     {
-        OpenBox box;
-        box.setText("reste");
+        OpenBox box("reste");
         const QByteArray before = box.rtf();
         QSignalSpy failed(&box, &RtfBox::failed);
         QMimeData html;
@@ -222,16 +216,15 @@ private Q_SLOTS:
             {"usual distance", 1.5, 0.0, false, 0.0, 2.54},
             {"usual distance of a bullet", 0.0, 0.0, true, 0.0, 1.27}};
         for (const auto &[name, left, first, bullet, tab, drawn] : rows) {
-            constexpr double pixels = 96 / 2.54;
             RtfBox box;
             box.resize(900, 300);
             box.show();
-            const auto drawnAt = [&box, pixels] {
+            const auto drawnAt = [&box] {
                 QTextCursor caret(box.document());
                 caret.setPosition(1);
                 return (box.cursorRect(caret).left() + box.horizontalScrollBar()->value() -
-                        box.document()->documentMargin()) /
-                       pixels;
+                        box.document()->documentMargin()) *
+                       2.54 / 96;
             };
             for (const bool tabsFirst : {true, false}) {
                 box.setText("\tX");
@@ -256,8 +249,7 @@ private Q_SLOTS:
 
     void coloursAreLighterOnADarkPageAlone()
     {
-        RtfBox box;
-        box.setText("a bleu z");
+        OpenBox box("a bleu z");
         at(box, 2, 4).setSelColor(qRgb(0, 0, 255));
         const QByteArray rtf = box.rtf();
         QSignalSpy edited(&box, &RtfBox::edited);
@@ -289,8 +281,7 @@ private Q_SLOTS:
 
     void pasteGoesThroughOurRtf()
     {
-        OpenBox box;
-        box.setText("[]");
+        OpenBox box("[]");
         box.select(1, 0);
         QMimeData html;
         html.setHtml("<p>a<br><b>b</b><img src='x.png'></p>");
