@@ -11,6 +11,7 @@
 #include "platform/SafeFile.h"
 #include "store/AdventureEvents.h"
 #include "store/SampleAdventure.h"
+#include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 #include "ui_formUsmira.h"
 
@@ -23,16 +24,6 @@ namespace
 using Kind = CommandRunner::Kind;
 
 constexpr QSize DesignSize(1080, 720);
-
-QString settingsPath(const Variables &variables)
-{
-    return variables.WorkingFolder + QStringLiteral("Usmira Settings.xyz");
-}
-
-QString maximizedPath(const Variables &variables)
-{
-    return variables.WorkingFolder + QStringLiteral("Usmira Fenêtre.xyz");
-}
 
 // What stands on the form takes parts of it, so that it must be there first.
 std::unique_ptr<Ui::formUsmira> setUp(formUsmira &window)
@@ -183,15 +174,15 @@ void formUsmira::Form_Load()
 {
     WindowGeometry geometry = geometryOf(*this);
     const WindowGeometry design = geometry;
-    readSettings(settingsPath(m_variables), m_variables, geometry);
+    readSettings(WorkingFiles(m_variables).settings(), m_variables, geometry);
     if (geometry != design)
         place(*this, geometry);
     else
         shrinkToScreen(*this);
-    if (QFileInfo::exists(maximizedPath(m_variables)))
+    if (QFileInfo::exists(WorkingFiles(m_variables).maximized()))
         setWindowState(windowState() | Qt::WindowMaximized);
     m_page.showTabPanel();
-    m_page.showWelcome(m_variables.WorkingFolder + QStringLiteral("Copyright.rtf"));
+    m_page.showWelcome(WorkingFiles(m_variables).document(WorkingFiles::Document::Welcome));
     m_page.focusEditor();
 }
 
@@ -215,7 +206,7 @@ void formUsmira::closeEvent(QCloseEvent *event)
     bool leaves = false;
     m_page.keepingPlace([&] { leaves = m_adventure.LeaveAdventure(); });
     try {
-        writeSettings(settingsPath(m_variables), m_variables, geometryOf(*this));
+        writeSettings(WorkingFiles(m_variables).settings(), m_variables, geometryOf(*this));
         keepMaximized();
     } catch (const std::exception &) {
         // The next start has the settings of before.
@@ -228,7 +219,7 @@ void formUsmira::closeEvent(QCloseEvent *event)
 // The settings have no place for it: a file that is there says it.
 void formUsmira::keepMaximized() const
 {
-    const QString path = maximizedPath(m_variables);
+    const QString path = WorkingFiles(m_variables).maximized();
     if (isMaximized())
         writeWholeFile(path, "1\r\n", Durability::Data, Links::Replace);
     else

@@ -3,6 +3,7 @@
 #include "editor/EditorView.h"
 #include "editor/MenuStates.h"
 #include "platform/Failures.h"
+#include "store/Journal.h"
 
 CommandRunner::CommandRunner(Variables &variables, Prompts &prompts, EditorView &view,
                              MenuStates &states)
@@ -50,6 +51,7 @@ void CommandRunner::rescue(const QString &failure)
 
 void CommandRunner::prepareAndRun(Kind kind, const Work &work)
 {
+    tryFinishLeftJournal(m_variables);
     if (kind == Kind::Saved || kind == Kind::Rewriting)
         m_view.SaveCurParg();
     work();

@@ -1,7 +1,7 @@
 #include "editor/FirstWords.h"
 
 #include "richtext/HiddenBox.h"
-#include "store/ParagraphStore.h"
+#include "store/ParagraphTexts.h"
 
 #include <exception>
 

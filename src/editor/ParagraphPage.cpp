@@ -7,6 +7,7 @@
 #include "editor/TabPanel.h"
 #include "platform/Failures.h"
 #include "store/AdventureChanges.h"
+#include "store/DamagedTexts.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
 #include "widgets/NumberBox.h"
@@ -65,8 +66,10 @@ RichTextBox &ParagraphPage::editingBox()
 
 void ParagraphPage::LoadParg(int n)
 {
-    const QByteArray rtf = GetParagraphRtf(m_variables, n);
-    if (!isShown(n, rtf)) {
+    const QByteArray rtf = textToShow(m_variables, n, m_prompts);
+    // The box may then hold the last copy of the text.
+    const bool lastCopy = m_variables.Damaged.at(n) == 1 && n == m_shown && !m_stale;
+    if (!lastCopy && !isShown(n, rtf)) {
         setText(rtf);
         m_shown = n;
     }
@@ -75,6 +78,7 @@ void ParagraphPage::LoadParg(int n)
     m_visited.visit(n);
     setEditable(true);
     showCurrent();
+    m_variables.ParagraphDirty = lastCopy && m_controls.box.textLength() > 0;
 }
 
 // What the author typed has been saved, or it would be dirty: the stored text tells whether it is
@@ -128,7 +132,7 @@ void ParagraphPage::showCurrent()
 
 void ParagraphPage::SaveCurParg()
 {
-    ::SaveCurParg(m_variables, m_controls.box);
+    ::SaveCurParg(m_variables, m_controls.box, m_prompts);
 }
 
 void ParagraphPage::keepingPlace(const std::function<void()> &work)
@@ -151,7 +155,8 @@ void ParagraphPage::Form_Deactivate()
     if (!m_variables.AdventureOpen || !m_variables.ParagraphDirty)
         return;
     reportingFailures(m_prompts, [this] {
-        keepingPlace([this] { SaveCurParg(); });
+        // Going to another window is no moment for a question.
+        keepingPlace([this] { ::SaveCurParg(m_variables, m_controls.box); });
         return true;
     });
 }

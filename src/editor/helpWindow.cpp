@@ -1,5 +1,6 @@
 #include "editor/helpWindow.h"
 
+#include "store/WorkingFiles.h"
 #include "ui_helpWindow.h"
 
 #include <QApplication>
@@ -32,10 +33,10 @@ void helpWindow::showHelp(Tag tag)
 void helpWindow::load(Tag tag)
 {
     const bool french = tag == Tag::French;
-    const QString name =
-        french ? QStringLiteral("Aide Française.rtf") : QStringLiteral("English Help.rtf");
+    const auto help =
+        french ? WorkingFiles::Document::FrenchHelp : WorkingFiles::Document::EnglishHelp;
     try {
-        m_ui->rtfHelp->loadFile(m_variables.WorkingFolder + name);
+        m_ui->rtfHelp->loadFile(WorkingFiles(m_variables).document(help));
     } catch (const std::exception &) {
         m_ui->rtfHelp->setText(french ? QStringLiteral("Aide Française Non Trouvée")
                                       : QStringLiteral("English Help File Not Found"));

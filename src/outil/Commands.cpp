@@ -175,7 +175,7 @@ void Commands::replaceParagraph(int n, const std::function<void(RichTextBox &)> 
     m_view.LoadParg(n);
     change(m_view.editingBox());
     m_variables.ParagraphDirty = true;
-    SaveCurParg(m_variables, m_view.editingBox());
+    SaveCurParg(m_variables, m_view.editingBox(), m_prompts);
 }
 
 QByteArray Commands::texte(const QStringList &arguments)
@@ -278,16 +278,16 @@ QByteArray Commands::combler(const QStringList &arguments)
 }
 
 // The author's own HTML codes, from the files that the dialogs begin with.
-QString Commands::code(const QString &name) const
+QString Commands::code(WorkingFiles::Document document) const
 {
-    return readSnippet(m_variables.WorkingFolder + name).text;
+    return readSnippet(WorkingFiles(m_variables).document(document)).text;
 }
 
 QByteArray Commands::html(const QStringList &arguments)
 {
-    const HtmlCodes codes{code(QStringLiteral("Début du Fichier Unique.txt")),
-                          code(QStringLiteral("Numéros de Paragraphes.txt")),
-                          code(QStringLiteral("Fin de Chaque Paragraphe.txt"))};
+    const HtmlCodes codes{code(WorkingFiles::Document::OneFileHeader),
+                          code(WorkingFiles::Document::Numbers),
+                          code(WorkingFiles::Document::Footer)};
     if (!exportToOneFile(m_export, exportRequest(arguments), codes))
         m_prompts.beep(); // also where a window says nothing, a script fails
     return {};
@@ -295,8 +295,8 @@ QByteArray Commands::html(const QStringList &arguments)
 
 QByteArray Commands::pages(const QStringList &arguments)
 {
-    const HtmlCodes codes{code(QStringLiteral("Début de Chaque Paragraphe.txt")), QString(),
-                          code(QStringLiteral("Fin de Chaque Paragraphe.txt"))};
+    const HtmlCodes codes{code(WorkingFiles::Document::PageHeader), QString(),
+                          code(WorkingFiles::Document::Footer)};
     exportToManyFiles(m_export, exportRequest(arguments), codes,
                       arguments.value(3, m_variables.FilePrefix));
     return {};

@@ -5,6 +5,7 @@
 #include "outil/Script.h"
 #include "renumber/RenumberCommands.h"
 #include "store/AdventureCommands.h"
+#include "store/WorkingFiles.h"
 
 #include <QByteArray>
 #include <QStringList>
@@ -51,7 +52,7 @@ private:
     QByteArray etat(const QStringList &arguments);
 
     QByteArray renumbered(bool done);
-    QString code(const QString &name) const;
+    QString code(WorkingFiles::Document document) const;
     void replaceParagraph(int n, const std::function<void(RichTextBox &)> &change);
 
     Variables &m_variables;

@@ -15,6 +15,11 @@ Prompts::Answer ScriptPrompts::message(const QString &text, const QString &title
     return buttons == Buttons::YesNoCancel ? Answer::Cancel : question ? Answer::No : Answer::Ok;
 }
 
+void ScriptPrompts::notice(const QString &text, const QString &title)
+{
+    m_errors << title << QStringLiteral(" : ") << text << Qt::endl;
+}
+
 // Scripts name their files: no command of theirs opens a dialog.
 QString ScriptPrompts::openName(const QString & /*title*/, const QString & /*filter*/)
 {

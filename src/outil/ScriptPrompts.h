@@ -13,6 +13,7 @@ public:
     ScriptPrompts(QTextStream &errors, std::optional<Answer> answer);
 
     Answer message(const QString &text, const QString &title, Buttons buttons) override;
+    void notice(const QString &text, const QString &title) override;
     QString openName(const QString &title, const QString &filter) override;
     QString saveName(const QString &title, const QString &filter, const QString &defaultExtension,
                      const QString &proposed) override;

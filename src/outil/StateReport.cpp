@@ -1,9 +1,10 @@
 #include "outil/StateReport.h"
 
+#include "platform/Errors.h"
 #include "platform/OpenedFile.h"
 #include "richtext/RtfPlainText.h"
 #include "store/AdventureFile.h"
-#include "store/ParagraphStore.h"
+#include "store/ParagraphTexts.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -21,10 +22,17 @@ int fileVersion(const Variables &variables)
 
 QJsonObject paragraphReport(const Variables &variables, int n)
 {
-    const QByteArray rtf = GetParagraphRtf(variables, n);
+    QByteArray rtf;
+    bool damaged = false;
+    try {
+        rtf = GetParagraphRtf(variables, n);
+    } catch (const UsmiraError &) {
+        damaged = true;
+    }
     return {{QStringLiteral("number"), n},
             {QStringLiteral("written"), variables.Written.at(n) == 1},
             {QStringLiteral("extracted"), variables.Extracted.at(n) == 1},
+            {QStringLiteral("damaged"), damaged},
             {QStringLiteral("fixed"), variables.Unmixable.at(n) == 1},
             {QStringLiteral("refs"), variables.refIndex.at(n)},
             {QStringLiteral("size"), rtf.size()},

@@ -79,18 +79,11 @@ std::optional<Prompts::Answer> givenAnswer(const QCommandLineParser &parser)
     return std::nullopt;
 }
 
-int runScript(const QCommandLineParser &parser, QTextStream &errors)
+// Up to the first command that fails. Throws UsageError.
+void runLines(const QStringList &lines, Commands &commands, ScriptPrompts &prompts)
 {
-    Variables variables;
-    variables.WorkingFolder = workingFolder(parser);
-    prepareWorkingFolder(variables.WorkingFolder,
-                         findBundledDocuments(QCoreApplication::applicationDirPath()));
-    ScriptPrompts prompts(errors, givenAnswer(parser));
-    recoverJournal(variables.WorkingFolder);
-    Commands commands(variables, prompts);
     QFile output;
     output.open(stdout, QIODevice::WriteOnly);
-    const QStringList lines = scriptLines(parser);
     for (const QString &line : lines) {
         try {
             output.write(commands.run(splitCommand(line)));
@@ -100,6 +93,23 @@ int runScript(const QCommandLineParser &parser, QTextStream &errors)
         output.flush();
         if (prompts.hasFailed())
             break;
+    }
+}
+
+int runScript(const QCommandLineParser &parser, QTextStream &errors)
+{
+    Variables variables;
+    variables.WorkingFolder = workingFolder(parser);
+    prepareWorkingFolder(variables.WorkingFolder,
+                         findBundledDocuments(QCoreApplication::applicationDirPath()));
+    ScriptPrompts prompts(errors, givenAnswer(parser));
+    recoverJournal(variables.WorkingFolder);
+    Commands commands(variables, prompts);
+    try {
+        runLines(scriptLines(parser), commands, prompts);
+    } catch (const UsageError &) {
+        commands.finish(false);
+        throw;
     }
     commands.finish(parser.isSet(QStringLiteral("oui")) && !prompts.hasFailed());
     return prompts.hasFailed() ? Failed : Done;

@@ -34,6 +34,8 @@ UnreadableTexts::UnreadableTexts(const QList<int> &paragraphs)
 {
 }
 
+NotAllowed::NotAllowed() : UsmiraError(QStringLiteral("not allowed by the author")) {}
+
 LimitError::LimitError(const QString &what, qint64 limit)
     : UsmiraError(QStringLiteral("%1: the limit is %2").arg(what).arg(limit))
 {

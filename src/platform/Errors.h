@@ -58,6 +58,13 @@ private:
     QList<int> m_paragraphs;
 };
 
+// The author has not allowed it: nothing has changed, and there is nothing to tell.
+class NotAllowed : public UsmiraError
+{
+public:
+    NotAllowed();
+};
+
 // A number or a size is beyond what the program allows.
 class LimitError : public UsmiraError
 {

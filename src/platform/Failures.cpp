@@ -7,18 +7,6 @@
 
 namespace
 {
-// A message box is no list: when more fail, the first ones tell enough.
-constexpr qsizetype MostNamed = 20;
-
-QString named(const QList<int> &paragraphs)
-{
-    QStringList numbers;
-    for (const int n : paragraphs.first(std::min(paragraphs.size(), MostNamed)))
-        numbers.append(QString::number(n));
-    const QString list = numbers.join(QStringLiteral(", "));
-    return paragraphs.size() > MostNamed ? list + QStringLiteral("...") : list + u'.';
-}
-
 struct Reason {
     std::errc why;
     const char *text;
@@ -85,11 +73,21 @@ QString words(const UsmiraError &error)
 {
     if (const auto *texts = dynamic_cast<const UnreadableTexts *>(&error))
         return QStringLiteral("Erreur de lecture de fichier. Paragraphes illisibles : ") +
-               named(texts->paragraphs());
+               paragraphNames(texts->paragraphs());
     return isWriting(error) ? QStringLiteral("Erreur pendant l'écriture du fichier.")
                             : QStringLiteral("Erreur de lecture de fichier.");
 }
 } // namespace
+
+QString paragraphNames(const QList<int> &paragraphs)
+{
+    constexpr qsizetype MostNamed = 20; // a message box is no list
+    QStringList numbers;
+    for (const int n : paragraphs.first(std::min(paragraphs.size(), MostNamed)))
+        numbers.append(QString::number(n));
+    const QString list = numbers.join(QStringLiteral(", "));
+    return paragraphs.size() > MostNamed ? list + QStringLiteral("...") : list + u'.';
+}
 
 QString failureText(const QString &words, const UsmiraError &error)
 {
@@ -99,6 +97,8 @@ QString failureText(const QString &words, const UsmiraError &error)
 
 void reportFailure(Prompts &prompts, const UsmiraError &error)
 {
+    if (dynamic_cast<const NotAllowed *>(&error) != nullptr)
+        return;
     prompts.message(failureText(words(error), error), QStringLiteral("BUG"), Prompts::Buttons::Ok);
 }
 

@@ -3,8 +3,11 @@
 #include "platform/Errors.h"
 #include "platform/Prompts.h"
 
+// "2, 9." for a message: the first twenty tell enough, and then it ends in "...".
+QString paragraphNames(const QList<int> &paragraphs);
+
 // Tells the author of a failure for which the command has no words of its own. A limit is met in
-// what is written, a wrong form in what is read.
+// what is written, a wrong form in what is read; what the author did not allow is no failure.
 void reportFailure(Prompts &prompts, const UsmiraError &error);
 
 // The words of a command, and on a line of its own below them which file and why, in French:

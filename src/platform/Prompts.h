@@ -17,6 +17,12 @@ public:
 
     virtual Answer message(const QString &text, const QString &title, Buttons buttons) = 0;
 
+    // A message that is to be read, but is no failure of the command.
+    virtual void notice(const QString &text, const QString &title)
+    {
+        message(text, title, Buttons::Ok);
+    }
+
     // From now on file dialogs begin in this folder: an adventure in it has been opened.
     virtual void beginIn(const QString & /*folder*/) {}
 

@@ -6,10 +6,6 @@
 #include "store/LenientNumbers.h"
 #include "store/LongWork.h"
 
-#include <algorithm>
-#include <tuple>
-#include <utility>
-
 namespace
 {
 struct Range {
@@ -48,8 +44,7 @@ bool RenumberCommands::Swap(double a, double b)
                       QStringLiteral("C'est la loi"));
     const int first = roundHalfEven(a);
     const int second = roundHalfEven(b);
-    return mayMoveFixed(first, second) &&
-           renumber(SwapMap(first, second), std::min(first, second), std::max(first, second));
+    return mayMoveFixed(first, second) && renumber(SwapMap(first, second));
 }
 
 bool RenumberCommands::mayMoveFixed(int a, int b)
@@ -73,7 +68,7 @@ bool RenumberCommands::MasterMix(double low, double high, const std::function<do
                       QStringLiteral("Songez-y"));
     const int first = static_cast<int>(range.low);
     const int last = static_cast<int>(range.high);
-    return renumber(MixMap(first, last, m_variables.Unmixable, random), first, last);
+    return renumber(MixMap(first, last, m_variables.Unmixable, random));
 }
 
 bool RenumberCommands::MoveBlock(double low, double high, double delta, Towards towards)
@@ -91,8 +86,7 @@ bool RenumberCommands::MoveBlock(double low, double high, double delta, Towards 
         return refuse(QStringLiteral("Il ne sert à rien de déplacer de 0 unités."),
                       QStringLiteral("Zut"));
     return renumber(BlockMoveMap(static_cast<int>(block.low), static_cast<int>(block.high),
-                                 static_cast<int>(distance), towards, m_variables.Unmixable),
-                    static_cast<int>(span.low), static_cast<int>(span.high));
+                                 static_cast<int>(distance), towards, m_variables.Unmixable));
 }
 
 bool RenumberCommands::PackHoles(double low, double high)
@@ -108,27 +102,17 @@ bool RenumberCommands::PackHoles(double low, double high)
     const int last = static_cast<int>(range.high);
     const std::optional<RenumberMap> map =
         PackHolesMap(first, last, m_variables.Written, m_variables.Unmixable);
-    return !map || renumber(*map, first, last);
+    return !map || renumber(*map);
 }
 
-// The engine visits the written range alone, so that it must cover every number that the map moves.
-bool RenumberCommands::renumber(const RenumberMap &map, int low, int high)
+bool RenumberCommands::renumber(const RenumberMap &map)
 {
-    const std::pair before(m_variables.LowestWritten, m_variables.HighestWritten);
-    m_variables.LowestWritten = std::min(m_variables.LowestWritten, static_cast<qint16>(low));
-    m_variables.HighestWritten = std::max(m_variables.HighestWritten, static_cast<qint16>(high));
-    const bool done = reportingFailures(m_prompts, [&] {
+    return reportingFailures(m_prompts, [&] {
         LongWork work(m_report, QStringLiteral("Renumérotation..."));
         RenumberParagraphs(m_variables, map, work.progress());
+        setModified(m_variables);
         return true;
     });
-    if (!done) {
-        std::tie(m_variables.LowestWritten, m_variables.HighestWritten) = before;
-        return false;
-    }
-    RecomputeWrittenRange(m_variables);
-    setModified(m_variables);
-    return true;
 }
 
 bool RenumberCommands::refuse(const QString &text, const QString &title)

@@ -43,7 +43,7 @@ public:
 private:
     bool MoveBlock(double low, double high, double delta, Towards towards);
     bool mayMoveFixed(int a, int b);
-    bool renumber(const RenumberMap &map, int low, int high);
+    bool renumber(const RenumberMap &map);
     bool refuse(const QString &text, const QString &title);
     bool refuseRange();
 

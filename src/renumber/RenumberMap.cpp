@@ -12,8 +12,3 @@ void RenumberMap::exchange(int a, int b)
 {
     std::swap(m_numbers.at(a), m_numbers.at(b));
 }
-
-bool RenumberMap::movesNothing() const
-{
-    return m_numbers == RenumberMap().m_numbers;
-}

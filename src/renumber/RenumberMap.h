@@ -17,7 +17,6 @@ public:
     void exchange(int a, int b);
 
     bool moves(int n) const { return of(n) != n; }
-    bool movesNothing() const;
 
 private:
     ParagraphArray<qint16, Variables::LastParagraph + 1> m_numbers;

@@ -6,6 +6,8 @@
 #include "store/ParagraphTransaction.h"
 #include "store/ReferenceIndex.h"
 
+#include <algorithm>
+
 namespace
 {
 bool isWritten(const Variables &variables, int n)
@@ -34,6 +36,7 @@ public:
 
     void run(const Progress &progress)
     {
+        widenRange();
         const int lowest = m_variables.LowestWritten;
         const int total = m_variables.HighestWritten - lowest + 1;
         for (int n = lowest; n < lowest + total; ++n) {
@@ -47,6 +50,19 @@ public:
     }
 
 private:
+    void widenRange()
+    {
+        int lowest = m_variables.LowestWritten;
+        int highest = m_variables.HighestWritten;
+        for (int n = 0; n <= Variables::LastParagraph; ++n) {
+            if (m_map.moves(n)) {
+                lowest = std::min(lowest, n);
+                highest = std::max(highest, n);
+            }
+        }
+        m_transaction.widenRange(lowest, highest);
+    }
+
     // A text in which the index shows no number that changes is left as it is, even if other
     // references of it would be written differently.
     void visit(int n)
@@ -94,21 +110,7 @@ private:
 
 void RenumberParagraphs(Variables &variables, const RenumberMap &map, const Progress &progress)
 {
-    if (!map.movesNothing())
-        Renumbering(variables, map).run(progress);
-}
-
-void RecomputeWrittenRange(Variables &variables)
-{
-    qint16 lowest = 0;
-    while (lowest < Variables::LastParagraph && !isWritten(variables, lowest))
-        ++lowest;
-    qint16 highest = Variables::LastParagraph;
-    while (highest > lowest && !isWritten(variables, highest))
-        --highest;
-    const bool none = !isWritten(variables, lowest);
-    variables.LowestWritten = none ? qint16{1} : lowest;
-    variables.HighestWritten = none ? qint16{1} : highest;
+    Renumbering(variables, map).run(progress);
 }
 
 // The text changes under the search, which goes on just behind each phrase: also in the digits that

@@ -15,9 +15,14 @@ QByteArrayView withoutByteOrderMark(QByteArrayView rtf)
 }
 } // namespace
 
+bool RtfReader::beginsAsRtf(QByteArrayView bytes)
+{
+    return withoutByteOrderMark(bytes).startsWith("{\\rtf");
+}
+
 RtfReader::RtfReader(QByteArrayView rtf) : m_tokens(withoutByteOrderMark(rtf))
 {
-    if (!withoutByteOrderMark(rtf).startsWith("{\\rtf"))
+    if (!beginsAsRtf(rtf))
         throw FormatError(0, QStringLiteral("{\\rtf"));
     if (rtf.size() > LargestText)
         throw FormatError(LargestText, QStringLiteral("the end of the text"));

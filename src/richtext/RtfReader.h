@@ -21,6 +21,9 @@ class RtfReader
 public:
     static constexpr int MaxDepth = 1000;
 
+    // Whether bytes, which may be the first eight alone, begin as those of a text do.
+    static bool beginsAsRtf(QByteArrayView bytes);
+
     // Throws FormatError when the bytes do not begin with {\rtf, a byte order mark aside, or are
     // more than LargestText. The bytes must outlive the reader.
     explicit RtfReader(QByteArrayView rtf);

@@ -6,9 +6,12 @@
 #include "richtext/RichTextBox.h"
 #include "store/AdventureChanges.h"
 #include "store/AdventureFile.h"
+#include "store/AdventureSave.h"
+#include "store/DamagedTexts.h"
 #include "store/LongWork.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
+#include "store/WorkingFiles.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -20,25 +23,14 @@ QString adventureFilter()
     return QStringLiteral("Fichiers Usmira (*.usm)|*.usm");
 }
 
-// "Le Loup (autre version).usm" beside "Le Loup.usm", numbered when that is taken.
-QString otherVersionPath(const QString &path)
-{
-    const QFileInfo info(path);
-    const QString stem = info.path() + u'/' + info.completeBaseName();
-    const QString suffix = info.suffix().isEmpty() ? QString() : u'.' + info.suffix();
-    QString backup = stem + QStringLiteral(" (autre version)") + suffix;
-    for (int k = 2; QFileInfo::exists(backup); ++k)
-        backup = stem + QStringLiteral(" (autre version %1)").arg(k) + suffix;
-    return backup;
-}
-
 // The paragraphs that are not as the adventure file has them.
 QList<int> changedNumbers(const Variables &variables)
 {
     QList<int> changed;
     for (int n = 0; n <= Variables::LastParagraph; ++n) {
         const bool emptied = variables.SectionOffset.at(n) > 0 && variables.Written.at(n) == 0;
-        if (variables.Extracted.at(n) == 1 || emptied)
+        const bool onScreen = variables.ParagraphDirty && n == variables.CurrentParagraph;
+        if (variables.Extracted.at(n) == 1 || emptied || onScreen)
             changed.append(n);
     }
     return changed;
@@ -72,46 +64,69 @@ Prompts::Answer AdventureCommands::AskToSave()
         QStringLiteral("Rappel amical"), Prompts::Buttons::YesNoCancel);
 }
 
+// Whatever cannot be saved, the question comes, and "Non" is a way out.
 bool AdventureCommands::LeaveAdventure()
 {
     if (!m_variables.AdventureOpen)
         return true;
-    return reportingFailures(m_prompts, [this] {
-        SaveCurParg(m_variables, m_view.editingBox());
-        if (!hasUnsavedChanges(m_variables))
-            return true;
-        switch (AskToSave()) {
-        case Prompts::Answer::Yes:
-            return Save();
-        case Prompts::Answer::No:
-            discardChanges();
-            return true;
-        default:
-            return false;
-        }
+    const bool paragraphSaved = reportingFailures(m_prompts, [this] {
+        SaveCurParg(m_variables, m_view.editingBox(), m_prompts);
+        return true;
     });
+    if (paragraphSaved && !hasUnsavedChanges(m_variables))
+        return true;
+    switch (AskToSave()) {
+    case Prompts::Answer::Yes:
+        return Save();
+    case Prompts::Answer::No:
+        discardChanges();
+        return true;
+    default:
+        return false;
+    }
 }
 
-// Back to the adventure as it was last saved. When that can no longer be read, the author is told
-// and the changes go all the same: "Non" must always be a way out.
+// Back to the adventure as it was last saved. The working files go only when it can be read: else
+// they may be all that is left of it.
 void AdventureCommands::discardChanges()
 {
     AdventureContents saved;
     saved.version = CurrentVersion;
     saved.targetPhrase = m_variables.TargetPhrase;
-    const bool readable = reportingFailures(m_prompts, [&] {
-        if (m_variables.AdventureFile)
-            saved = readAdventure(m_variables.AdventureFile);
-        return true;
-    });
+    const bool neverSaved = !m_variables.AdventureFile;
+    try {
+        if (!neverSaved)
+            saved = readAdventure(std::make_shared<OpenedFile>(m_variables.AdventurePath));
+    } catch (const UsmiraError &) {
+        keepUnsaved();
+        return;
+    }
     const QList<int> changed = changedNumbers(m_variables);
     DiscardWorkingFiles(m_variables);
     setSaved(m_variables);
-    if (!readable)
-        return;
     takeOver(m_variables, std::move(saved));
     if (!m_variables.CurrentFormat)
         RebuildReferenceIndex(m_variables, [](int, int) {});
+    Q_EMIT m_variables.Events->textsChanged(changed);
+    Q_EMIT m_variables.Events->marksChanged();
+}
+
+void AdventureCommands::keepUnsaved()
+{
+    const QList<int> changed = changedNumbers(m_variables);
+    const QString folder = setWorkingFilesAside(m_variables);
+    setSaved(m_variables);
+    m_variables.ParagraphDirty = false;
+    try {
+        takeOver(m_variables, readAdventure(m_variables.AdventureFile));
+    } catch (const UsmiraError &) {
+        // What can be read of it is still shown.
+    }
+    const QString text = QCoreApplication::translate(
+        "AdventureCommands", "L'aventure %1 ne peut plus être relue. Les paragraphes non "
+                             "enregistrés sont rangés dans le dossier %2.");
+    m_prompts.message(text.arg(m_variables.AdventureFileName, folder), QStringLiteral("BUG"),
+                      Prompts::Buttons::Ok);
     Q_EMIT m_variables.Events->textsChanged(changed);
     Q_EMIT m_variables.Events->marksChanged();
 }
@@ -186,6 +201,7 @@ bool AdventureCommands::OpenAdventure(const QString &path)
         m_variables = std::move(opened);
         nameAdventure(path);
         showCurrentParagraph();
+        tellUnreadable(damagedParagraphs(m_variables), m_prompts);
         return true;
     });
 }
@@ -205,25 +221,12 @@ void AdventureCommands::rebuildIndex(Variables &opened)
     RebuildReferenceIndex(opened, work.progress());
 }
 
-// A damaged current paragraph is reported, and the next number that can be shown stands in for it:
-// a box that shows one paragraph while another is current would overwrite that one.
 void AdventureCommands::showCurrentParagraph()
 {
-    const int current = m_variables.CurrentParagraph;
-    const auto show = [this](int n) {
-        m_view.LoadParg(n);
+    reportingFailures(m_prompts, [this] {
+        m_view.LoadParg(m_variables.CurrentParagraph);
         return true;
-    };
-    if (reportingFailures(m_prompts, [&] { return show(current); }))
-        return;
-    for (int n = current + 1; n <= current + Variables::LastParagraph; ++n) {
-        try {
-            show(n % (Variables::LastParagraph + 1));
-            return;
-        } catch (const UsmiraError &) {
-            continue;
-        }
-    }
+    });
 }
 
 bool AdventureCommands::Save()
@@ -231,64 +234,33 @@ bool AdventureCommands::Save()
     if (!m_variables.AdventureOpen)
         return true;
     return reportingFailures(m_prompts, [this] {
-        SaveCurParg(m_variables, m_view.editingBox());
-        return !hasUnsavedChanges(m_variables) || writeAndSwap();
+        const bool paragraphSaved = saveParagraph();
+        if (paragraphSaved && !hasUnsavedChanges(m_variables))
+            return true;
+        AdventureSave save(m_variables, m_prompts);
+        if (!writeAndSwap(save, paragraphSaved))
+            return false;
+        save.tellLeftOut();
+        return true;
     });
 }
 
-// Nothing is deleted before the new file is in place, and nothing in memory changes before either:
-// after a failure the next attempt finds all it needs.
-bool AdventureCommands::writeAndSwap()
+// False: there is no working folder to write it to. A damaged text that the paragraph would
+// replace is kept first, or the adventure must not be saved either.
+bool AdventureCommands::saveParagraph()
 {
-    LongWork work(m_report, QStringLiteral("Saving..."));
-    const QString temporary =
-        m_variables.WorkingFolder + QStringLiteral("Usmira Temporary Save File.xyz");
-    AdventureContents saved =
-        writing(temporary, [&] { return writeAdventure(m_variables, temporary, work.progress()); });
-    const QString words =
-        QStringLiteral("Fichier enregistré, incapable d'échanger avec l'original.");
     try {
-        if (!mayReplace()) {
-            swapFailed(words);
-            return false;
-        }
-        moveIntoPlace(temporary, m_variables.AdventurePath);
-    } catch (const FileError &error) {
-        swapFailed(failureText(words, error));
+        SaveCurParg(m_variables, m_view.editingBox(), m_prompts);
+        return true;
+    } catch (const FileError &) {
+        if (m_variables.Damaged.at(m_variables.CurrentParagraph) == 1)
+            throw;
         return false;
     }
-    // The adventure is saved: nothing below may fail. The file that was read back stays the one
-    // that is read; what it is asked here is answered once, instead of at each later read.
-    saved.file->isStillAt(m_variables.AdventurePath);
-    m_variables.SectionOffset = saved.sectionOffset;
-    m_variables.AdventureFile = saved.file;
-    m_variables.CurrentFormat = true;
-    DiscardWorkingFiles(m_variables);
-    setSaved(m_variables);
-    return true;
 }
 
-// Asks when the adventure on disk is no longer the one that was opened, and keeps a copy of it.
-bool AdventureCommands::mayReplace()
+bool AdventureCommands::writeAndSwap(AdventureSave &save, bool paragraphSaved)
 {
-    const QString path = m_variables.AdventurePath;
-    if (!m_variables.AdventureFile || !QFileInfo(path).isFile() ||
-        m_variables.AdventureFile->isStillAt(path))
-        return true;
-    const QString backup = otherVersionPath(path);
-    const Prompts::Answer answer = m_prompts.message(
-        QStringLiteral("Un autre programme a modifié l'aventure ") + m_variables.AdventureFileName +
-            QStringLiteral(" depuis son ouverture. Voulez-vous la remplacer par la vôtre ? L'autre "
-                           "version sera gardée sous le nom ") +
-            QFileInfo(backup).fileName() + QStringLiteral("."),
-        QStringLiteral("Attention !"), Prompts::Buttons::YesNo);
-    if (answer != Prompts::Answer::Yes)
-        return false;
-    copyFile(path, backup);
-    return true;
-}
-
-void AdventureCommands::swapFailed(const QString &text)
-{
-    m_prompts.message(text, QStringLiteral("BUG"), Prompts::Buttons::Ok);
+    LongWork work(m_report, QStringLiteral("Saving..."));
+    return save.run(paragraphSaved ? nullptr : &m_view.editingBox(), work.progress());
 }

@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class AdventureSave;
 class RichTextBox;
 class WorkReport;
 
@@ -58,13 +59,13 @@ public:
 private:
     void openFrom(const std::function<QString()> &choose);
     void discardChanges();
+    void keepUnsaved();
     void showAgain();
     void nameAdventure(const QString &path);
     void showCurrentParagraph();
     void rebuildIndex(Variables &opened);
-    bool writeAndSwap();
-    bool mayReplace();
-    void swapFailed(const QString &text);
+    bool saveParagraph();
+    bool writeAndSwap(AdventureSave &save, bool paragraphSaved);
 
     Variables &m_variables;
     Prompts &m_prompts;

@@ -3,6 +3,9 @@
 #include "platform/Progress.h"
 #include "store/Variables.h"
 
+#include <functional>
+#include <optional>
+
 // The adventure file, extension "usm". All numbers are big-endian, texts have one Windows-1252 byte
 // for each character, positions are 1-based. docs/format-usm.md has examples.
 //
@@ -29,22 +32,29 @@ struct AdventureContents {
     ParagraphArray<qint32, 2001> sectionOffset;
     ParagraphArray<quint8, 2002> unmixable;
     ParagraphArray<QString, 2001> refIndex;
+    ParagraphArray<quint8, 2001> damaged; // its text is no text, or lies outside the file
     std::shared_ptr<OpenedFile> file;
 };
 
 inline constexpr int CurrentVersion = 35;
 
 // Reads a file of any version. Of a hostile file: unknown tags are passed over, a range that does
-// not fit the sections is widened to them. Throws FileError, or FormatError on an end before
-// "DONE", a length beyond the end, a 2-byte number of 32768 or more and a section above 2000.
+// not fit the sections is widened to them, a text that cannot be one is damaged. Throws FileError,
+// or FormatError on an end before "DONE", a length beyond the end, a 2-byte number of 32768 or more
+// and a section above 2000.
 AdventureContents readAdventure(const std::shared_ptr<OpenedFile> &file);
 
 // Makes the contents the adventure's state: all arrays fresh, no working file, nothing modified.
 // Path, name and prefix stay as they are.
 void takeOver(Variables &variables, AdventureContents contents);
 
+// Gives the text of a written paragraph; nothing when it is to be left out.
+using TextSource = std::function<std::optional<QByteArray>(int)>;
+
 // Writes the whole adventure to path, reads it back with readAdventure and compares numbers,
 // lengths and lists. Changes neither the state nor any other file. Throws FileError, or
-// FormatError when what was read back is not what was written.
-AdventureContents writeAdventure(
-    const Variables &variables, const QString &path, const Progress &progress = [](int, int) {});
+// FormatError when what was read back is not what was written, and what the source throws.
+AdventureContents writeAdventure(const Variables &variables, const QString &path,
+                                 const TextSource &text, const Progress &progress);
+// With all texts as they are stored.
+AdventureContents writeAdventure(const Variables &variables, const QString &path);

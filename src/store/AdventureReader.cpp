@@ -1,6 +1,8 @@
 #include "platform/Errors.h"
 #include "platform/OpenedFile.h"
 #include "richtext/CodePage.h"
+#include "richtext/RtfReader.h"
+#include "richtext/TextLimit.h"
 #include "store/AdventureFile.h"
 
 #include <QtEndian>
@@ -84,6 +86,14 @@ void readHeader(ByteReader &reader, AdventureContents &contents)
     contents.current = reader.takeShort();
 }
 
+// Bytes that show whether a text is one.
+constexpr qint64 TextHead = 8;
+
+bool isTextHead(QByteArrayView head, qint64 length)
+{
+    return length <= LargestText && RtfReader::beginsAsRtf(head);
+}
+
 void readFlags(ByteReader &reader, AdventureContents &contents)
 {
     for (int n = contents.lowest; n <= contents.highest; ++n) {
@@ -102,7 +112,10 @@ void readSection(ByteReader &reader, AdventureContents &contents)
     const qint64 position = reader.offset() + 1;
     if (position > std::numeric_limits<qint32>::max())
         throw FormatError(reader.offset(), QStringLiteral("a text below 2 GiB"));
-    reader.skip(length);
+    const qint64 head = std::min<qint64>(length, TextHead);
+    const bool isText = length == 0 || isTextHead(reader.take(head), length);
+    reader.skip(length - head);
+    contents.damaged.at(n) = isText ? 0 : 1;
     contents.sectionOffset.at(n) = static_cast<qint32>(position);
     contents.refIndex.at(n) = fromWindows1252(reader.take(reader.takeShort()));
     contents.written.at(n) = 1;
@@ -147,6 +160,21 @@ void readOldLayout(ByteReader &reader, AdventureContents &contents)
         contents.written.at(n) = contents.sectionOffset.at(n + 1) > contents.sectionOffset.at(n);
 }
 
+// An old file knows its texts by their offsets alone, so that one cut short loses only some.
+void findOldDamage(OpenedFile &file, AdventureContents &contents)
+{
+    for (int n = 0; n < OldParagraphs; ++n) {
+        const qint64 offset = qint64{contents.sectionOffset.at(n)} - 1;
+        const qint64 length = qint64{contents.sectionOffset.at(n + 1)} - 1 - offset;
+        if (contents.written.at(n) == 0)
+            continue;
+        const bool inside = offset >= 0 && offset + length <= file.size();
+        const bool isText =
+            inside && isTextHead(file.read(offset, std::min(length, TextHead)), length);
+        contents.damaged.at(n) = isText ? 0 : 1;
+    }
+}
+
 // A range that says nonsense is made anew from the sections; a section outside it widens it.
 void repairRange(AdventureContents &contents)
 {
@@ -177,10 +205,12 @@ AdventureContents readAdventure(const std::shared_ptr<OpenedFile> &file)
     AdventureContents contents;
     ByteReader reader(*file);
     readHeader(reader, contents);
-    if (contents.version == CurrentVersion)
+    if (contents.version == CurrentVersion) {
         readSections(reader, contents);
-    else
+    } else {
         readOldLayout(reader, contents);
+        findOldDamage(*file, contents);
+    }
     repairRange(contents);
     contents.file = file;
     return contents;
@@ -197,6 +227,7 @@ void takeOver(Variables &variables, AdventureContents contents)
     variables.SectionOffset = contents.sectionOffset;
     variables.Unmixable = contents.unmixable;
     variables.refIndex = std::move(contents.refIndex);
+    variables.Damaged = contents.damaged;
     variables.AdventureFile = std::move(contents.file);
     variables.CurrentFormat = contents.version == CurrentVersion;
     variables.AdventureOpen = true;

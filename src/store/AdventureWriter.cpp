@@ -3,7 +3,7 @@
 #include "platform/SafeFile.h"
 #include "richtext/CodePage.h"
 #include "store/AdventureFile.h"
-#include "store/ParagraphStore.h"
+#include "store/ParagraphTexts.h"
 
 #include <QtEndian>
 #include <limits>
@@ -80,9 +80,8 @@ void writeHeader(ByteWriter &out, const Variables &variables)
     }
 }
 
-qint32 writeSection(ByteWriter &out, const Variables &variables, int n)
+qint32 writeSection(ByteWriter &out, const Variables &variables, int n, const QByteArray &text)
 {
-    const QByteArray text = GetParagraphRtf(variables, n);
     const QByteArray list = listBytes(variables.refIndex.at(n));
     out.bytes("SECT");
     out.shortNumber(n);
@@ -115,7 +114,7 @@ void compare(const AdventureContents &read, const Variables &variables,
 } // namespace
 
 AdventureContents writeAdventure(const Variables &variables, const QString &path,
-                                 const Progress &progress)
+                                 const TextSource &text, const Progress &progress)
 {
     const int total = variables.HighestWritten - variables.LowestWritten + 1;
     ParagraphArray<qint32, 2001> offsets;
@@ -123,8 +122,9 @@ AdventureContents writeAdventure(const Variables &variables, const QString &path
     ByteWriter out(file);
     writeHeader(out, variables);
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
-        if (variables.Written.at(n) == 1)
-            offsets.at(n) = writeSection(out, variables, n);
+        const std::optional<QByteArray> rtf = variables.Written.at(n) == 1 ? text(n) : std::nullopt;
+        if (rtf)
+            offsets.at(n) = writeSection(out, variables, n, *rtf);
         progress(n - variables.LowestWritten + 1, total);
     }
     out.bytes("DONE");
@@ -134,4 +134,11 @@ AdventureContents writeAdventure(const Variables &variables, const QString &path
     AdventureContents contents = readAdventure(std::make_shared<OpenedFile>(path));
     compare(contents, variables, offsets, size);
     return contents;
+}
+
+AdventureContents writeAdventure(const Variables &variables, const QString &path)
+{
+    return writeAdventure(
+        variables, path, [&variables](int n) { return GetParagraphRtf(variables, n); },
+        [](int, int) {});
 }

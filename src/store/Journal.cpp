@@ -3,29 +3,21 @@
 #include "platform/Errors.h"
 #include "platform/SafeFile.h"
 #include "richtext/TextLimit.h"
-#include "store/ParagraphStore.h"
+#include "store/Variables.h"
+#include "store/WorkingFiles.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
+#include <set>
 
 namespace
 {
 constexpr auto FirstLine = "Usmira Journal 1";
 // Far above the longest that 2000 paragraphs can give with the longest lists.
 constexpr qint64 LargestJournal = 256 * 1024 * 1024;
-
-QString sessionFolder(const QString &workingFolder)
-{
-    return workingFolder + QStringLiteral("Session");
-}
-
-QString journalPath(const QString &workingFolder)
-{
-    return sessionFolder(workingFolder) + QStringLiteral("/Journal.xyz");
-}
 
 QByteArray sha256(QByteArrayView bytes)
 {
@@ -39,92 +31,132 @@ QByteArray flag(bool on)
     return on ? "1" : "0";
 }
 
-// The words of a line, read one after the other. Any word that is not as it should be spoils the
-// whole journal.
-class JournalLine
+// Takes the lines of a journal up to the first that cannot stand there. Words are read as they
+// come: what was not written like this is found out by writing it again.
+class JournalReader
 {
 public:
-    explicit JournalLine(const QByteArray &line) : m_words(line.split(' ')) {}
-
-    bool begins(const char *word) { return m_words.value(0) == word && m_at++ == 0; }
-    QByteArray word() { return m_words.value(m_at++); }
-    int number()
+    bool read(QByteArrayView bytes)
     {
-        bool ok = false;
-        const int n = word().toInt(&ok);
-        m_good = m_good && ok && n >= 0 && n <= Variables::LastParagraph;
-        return n;
+        while (!bytes.isEmpty()) {
+            const qsizetype end = bytes.indexOf("\r\n");
+            if (end < 0 || !readLine(bytes.first(end).toByteArray().split(' ')))
+                return false;
+            bytes = bytes.sliced(end + 2);
+        }
+        return isFileNamePart(m_journal.filePrefix) && !placesEmptied();
     }
-    bool flag()
-    {
-        const QByteArray value = word();
-        m_good = m_good && (value == "0" || value == "1");
-        return value == "1";
-    }
-    // True when every word was right and there is none left.
-    bool isGood() const { return m_good && m_at == m_words.size(); }
+    const Journal &journal() const { return m_journal; }
 
 private:
-    QList<QByteArray> m_words;
-    qsizetype m_at = 0;
-    bool m_good = true;
+    bool readLine(const QList<QByteArray> &words)
+    {
+        const QByteArray kind = words.first();
+        if (kind == "place")
+            return place({words.value(1).toInt(), words.value(2).toInt(), words.value(3) == "1",
+                          words.value(4), decoded(words.value(5))});
+        if (kind == "empty")
+            return empty({words.value(1).toInt(), words.value(2) == "1"});
+        if (kind == "prefix")
+            m_journal.filePrefix = decoded(words.value(1));
+        return kind == "prefix" || kind == "Usmira";
+    }
+
+    bool place(const Journal::Placed &placed)
+    {
+        m_journal.placed.append(placed);
+        return isNew(m_before, placed.before) && isNew(m_after, placed.after);
+    }
+
+    bool empty(const Journal::Emptied &emptied)
+    {
+        m_journal.emptied.append(emptied);
+        return isNew(m_emptied, emptied.number);
+    }
+
+    static QString decoded(const QByteArray &word)
+    {
+        return QString::fromUtf8(QByteArray::fromPercentEncoding(word));
+    }
+
+    static bool isNew(std::set<int> &numbers, int n)
+    {
+        return n >= 0 && n <= Variables::LastParagraph && numbers.insert(n).second;
+    }
+
+    // Anything else would have its files lie elsewhere.
+    static bool isFileNamePart(const QString &prefix)
+    {
+        return prefix.endsWith(u'-') && !prefix.contains(u'/') && !prefix.contains(QChar::Null) &&
+               !prefix.contains(QDir::separator());
+    }
+
+    bool placesEmptied() const
+    {
+        return std::any_of(m_emptied.begin(), m_emptied.end(),
+                           [this](int n) { return m_after.count(n) != 0; });
+    }
+
+    Journal m_journal;
+    std::set<int> m_before;
+    std::set<int> m_after;
+    std::set<int> m_emptied;
 };
 
-bool readLine(const QByteArray &bytes, Journal &journal)
+// A folder or a link of that name is none of ours.
+bool isPlainFile(const QString &path, qint64 limit)
 {
-    JournalLine line(bytes);
-    if (line.begins("prefix")) {
-        journal.filePrefix = QString::fromUtf8(QByteArray::fromPercentEncoding(line.word()));
-        if (journal.filePrefix.contains(u'/'))
-            return false; // no file name, so that its files would lie elsewhere
-    } else if (line.begins("place")) {
-        const int before = line.number();
-        const int after = line.number();
-        const bool fixed = line.flag();
-        const QByteArray text = line.word();
-        journal.placed.append({before, after, fixed, text, QString::fromUtf8(line.word())});
-    } else if (line.begins("empty")) {
-        const int number = line.number();
-        journal.emptied.append({number, line.flag()});
-    } else {
-        return false;
-    }
-    return line.isGood();
+    const QFileInfo info(path);
+    return info.isFile() && !info.isSymLink() && info.size() <= limit;
 }
 
-QStringList parkedNames(const QString &workingFolder)
+bool isAnythingAt(const QString &path)
 {
-    return QDir(workingFolder)
-        .entryList({QStringLiteral("[0-9][0-9][0-9][0-9].xyz")},
-                   QDir::Files | QDir::Hidden | QDir::System);
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
 }
 
 // The program deletes nothing that it does not understand.
-void setAside(const QString &workingFolder)
+void setAside(const WorkingFiles &files)
 {
-    const QString name = workingFolder + QStringLiteral("Récupération ") +
-                         QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HHmm"));
-    QString folder = name;
-    for (int k = 2; QFileInfo::exists(folder); ++k)
-        folder = name + QStringLiteral(" (%1)").arg(k);
+    const QString folder = files.newRecoveryFolder(QDateTime::currentDateTime());
     QDir().mkpath(folder);
-    const QStringList names = parkedNames(workingFolder);
-    for (const QString &parked : names)
-        renameFile(workingFolder + parked, folder + u'/' + parked);
-    renameFile(journalPath(workingFolder), folder + QStringLiteral("/Journal.xyz"));
-    removeSessionFolder(workingFolder);
+    const QStringList aside = files.allParked() << files.journal();
+    for (const QString &path : aside)
+        renameFile(path, folder + u'/' + QFileInfo(path).fileName());
+    removeSessionFolder(files.folder());
 }
 
-// The text waits still, or is where it belongs.
-bool isTextThere(const QString &workingFolder, const Journal &journal,
-                 const Journal::Placed &placed)
+// The old text is not removed yet: whoever takes the change back needs it.
+void makeRoom(const WorkingFiles &files, int n)
 {
-    const QString parked = parkingFilePath(workingFolder, placed.before);
-    const QString there = QFileInfo::exists(parked)
-                              ? parked
-                              : workingFilePath(workingFolder, journal.filePrefix, placed.after);
-    return QFileInfo::exists(there) &&
-           textSha256(readWholeFile(there, LargestText)) == placed.sha256;
+    if (isAnythingAt(files.text(n)))
+        renameFile(files.text(n), files.before(n));
+}
+
+bool hasJournal(const WorkingFiles &files)
+{
+    return !QFileInfo(files.session()).isSymLink() && isAnythingAt(files.journal());
+}
+
+std::optional<Journal> readJournal(const WorkingFiles &files)
+{
+    if (!hasJournal(files) || !isPlainFile(files.journal(), LargestJournal))
+        return std::nullopt;
+    return journalOf(readWholeFile(files.journal(), LargestJournal));
+}
+
+// Each text waits still, or is where it belongs.
+bool areTextsThere(const QString &workingFolder, const Journal &journal)
+{
+    const WorkingFiles files(workingFolder, journal.filePrefix);
+    const auto isThere = [&files](const Journal::Placed &placed) {
+        const QString parked = files.parked(placed.before);
+        const QString there = QFileInfo::exists(parked) ? parked : files.text(placed.after);
+        return isPlainFile(there, LargestText) &&
+               textSha256(readWholeFile(there, LargestText)) == placed.sha256;
+    };
+    return std::all_of(journal.placed.begin(), journal.placed.end(), isThere);
 }
 } // namespace
 
@@ -145,21 +177,10 @@ QByteArray journalBytes(const Journal &journal)
 std::optional<Journal> journalOf(QByteArrayView bytes)
 {
     const qsizetype sumAt = bytes.lastIndexOf("sum ");
-    if (sumAt < 0 || bytes.sliced(sumAt) != "sum " + sha256(bytes.first(sumAt)) + "\r\n")
+    JournalReader reader;
+    if (sumAt < 0 || !reader.read(bytes.first(sumAt)) || journalBytes(reader.journal()) != bytes)
         return std::nullopt;
-    QList<QByteArray> lines = bytes.first(sumAt).toByteArray().replace("\r\n", "\n").split('\n');
-    if (lines.takeFirst() != FirstLine || !lines.takeLast().isEmpty())
-        return std::nullopt;
-    Journal journal;
-    for (const QByteArray &line : std::as_const(lines))
-        if (!readLine(line, journal))
-            return std::nullopt;
-    return journal;
-}
-
-QString parkingFilePath(const QString &workingFolder, int n)
-{
-    return workingFolder + fourDigits(n) + QStringLiteral(".xyz");
+    return reader.journal();
 }
 
 QByteArray textSha256(const QByteArray &rtf)
@@ -169,20 +190,26 @@ QByteArray textSha256(const QByteArray &rtf)
 
 void makeSessionFolder(const QString &workingFolder)
 {
-    QDir().mkpath(sessionFolder(workingFolder));
+    const QString session = WorkingFiles(workingFolder).session();
+    if (QFileInfo(session).isSymLink())
+        removeFile(session); // nothing in the working folder leads elsewhere
+    QDir().mkpath(session);
 }
 
 void removeSessionFolder(const QString &workingFolder)
 {
-    QDir().rmdir(sessionFolder(workingFolder));
+    QDir().rmdir(WorkingFiles(workingFolder).session());
 }
 
 void commitJournal(const QString &workingFolder, const Journal &journal)
 {
-    const QString path = journalPath(workingFolder);
+    const QString path = WorkingFiles(workingFolder).journal();
+    const QByteArray bytes = journalBytes(journal);
+    if (bytes.size() > LargestJournal)
+        throw LimitError(QStringLiteral("bytes of a journal"), LargestJournal);
     try {
-        writeWholeFile(path, journalBytes(journal), Durability::Data, Links::Replace);
-        syncFolder(sessionFolder(workingFolder)); // must not fail unseen
+        writeWholeFile(path, bytes, Durability::Data, Links::Replace);
+        syncFolder(WorkingFiles(workingFolder).session()); // must not fail unseen
     } catch (const FileError &) {
         // The journal may be in place already and only the last sync have failed. One that cannot
         // be taken back counts.
@@ -194,46 +221,72 @@ void commitJournal(const QString &workingFolder, const Journal &journal)
 
 void placeJournal(const QString &workingFolder, const Journal &journal)
 {
+    const WorkingFiles files(workingFolder, journal.filePrefix);
+    makeSessionFolder(workingFolder);
     for (const Journal::Placed &placed : journal.placed) {
-        const QString parked = parkingFilePath(workingFolder, placed.before);
-        if (QFileInfo::exists(parked))
-            renameFile(parked, workingFilePath(workingFolder, journal.filePrefix, placed.after));
+        const QString parked = files.parked(placed.before);
+        if (!QFileInfo::exists(parked))
+            continue;
+        makeRoom(files, placed.after);
+        renameFile(parked, files.text(placed.after));
     }
     for (const Journal::Emptied &emptied : journal.emptied)
-        removeFile(workingFilePath(workingFolder, journal.filePrefix, emptied.number));
+        makeRoom(files, emptied.number);
     // The journal goes for certain before anything else happens: placed once more after later
     // edits, it would undo them.
     syncFolder(workingFolder);
-    removeFile(journalPath(workingFolder));
-    syncFolder(sessionFolder(workingFolder));
+    removeFile(files.journal());
+    if (QFileInfo::exists(files.session()))
+        syncFolder(files.session());
     removeSessionFolder(workingFolder);
 }
 
-void finishJournal(const QString &workingFolder)
+void finishLeftJournal(Variables &variables)
 {
-    const QString path = journalPath(workingFolder);
-    if (!QFileInfo::exists(path))
+    if (!variables.JournalLeft)
         return;
-    const std::optional<Journal> journal = journalOf(readWholeFile(path, LargestJournal));
-    const auto isThere = [&](const Journal::Placed &placed) {
-        return isTextThere(workingFolder, *journal, placed);
-    };
-    if (journal && std::all_of(journal->placed.begin(), journal->placed.end(), isThere))
-        placeJournal(workingFolder, *journal);
-    else
-        setAside(workingFolder);
+    placeJournal(variables.WorkingFolder, *variables.JournalLeft);
+    variables.JournalLeft.reset();
+}
+
+void tryFinishLeftJournal(Variables &variables)
+{
+    try {
+        finishLeftJournal(variables);
+    } catch (const FileError &) {
+        // It is tried again, at the latest before the next working file is written.
+    }
+}
+
+std::optional<QString> waitingText(const Journal &journal, const QString &workingFolder, int n)
+{
+    const auto placed =
+        std::find_if(journal.placed.begin(), journal.placed.end(),
+                     [n](const Journal::Placed &candidate) { return candidate.after == n; });
+    if (placed == journal.placed.end())
+        return std::nullopt;
+    const QString parked = WorkingFiles(workingFolder).parked(placed->before);
+    return QFileInfo::exists(parked) ? std::optional(parked) : std::nullopt;
+}
+
+void setJournalAside(const QString &workingFolder)
+{
+    const WorkingFiles files(workingFolder);
+    if (hasJournal(files))
+        setAside(files);
 }
 
 void recoverJournal(const QString &workingFolder)
 {
-    finishJournal(workingFolder);
-    const QStringList names = parkedNames(workingFolder);
-    for (const QString &name : names)
-        removeFile(workingFolder + name);
-    const QDir session(sessionFolder(workingFolder));
-    const QStringList halfWritten =
-        session.entryList({QStringLiteral("Journal.xyz.*")}, QDir::Files | QDir::Hidden);
-    for (const QString &name : halfWritten)
-        removeFile(session.filePath(name));
+    const WorkingFiles files(workingFolder);
+    const std::optional<Journal> journal = readJournal(files);
+    if (journal && areTextsThere(workingFolder, *journal))
+        placeJournal(workingFolder, *journal);
+    else
+        setJournalAside(workingFolder);
+    const QStringList left =
+        files.allParked() + files.allBefore() + files.halfWritten(files.journal());
+    for (const QString &path : left)
+        removeFile(path);
     removeSessionFolder(workingFolder);
 }

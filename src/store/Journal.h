@@ -5,6 +5,8 @@
 #include <QString>
 #include <optional>
 
+struct Variables;
+
 // A change of many paragraphs that has been decided. Its new texts lie in parking files; a complete
 // journal beside them commits the change, and placing it moves the texts to their working files.
 // The file "Session/Journal.xyz" of the working folder, lines of UTF-8 that end in CR LF:
@@ -14,6 +16,8 @@
 //   place 0012 0340 1 SHA256 0026/0031/       was 12, is now 340, fixed, its text, its references
 //   empty 0012 0                              12 has no text any more, and is not fixed
 //   sum SHA256                                of every line above
+//
+// No number is placed twice, none is the place of two texts, and none that is emptied is a place.
 struct Journal {
     struct Placed {
         int before; // 0..2000, also the number of the parking file
@@ -36,11 +40,10 @@ struct Journal {
 };
 
 QByteArray journalBytes(const Journal &journal);
-// Nothing when the bytes are no complete journal.
+// Nothing unless the bytes are what journalBytes() gives for a journal that this program can have
+// decided on: a file of that name may come from anywhere.
 std::optional<Journal> journalOf(QByteArrayView bytes);
 
-// Where the new text of paragraph n, by the number that it has now, waits: "0012.xyz".
-QString parkingFilePath(const QString &workingFolder, int n);
 QByteArray textSha256(const QByteArray &rtf);
 
 // The folder of the journal inside the working folder, made if need be.
@@ -48,19 +51,31 @@ void makeSessionFolder(const QString &workingFolder);
 // Goes again when nothing is left in it.
 void removeSessionFolder(const QString &workingFolder);
 
-// Puts the journal on the disk: from now on the change counts. On failure throws FileError, and
-// there is no journal.
+// Puts the journal on the disk: from now on the change counts. On failure throws FileError, or
+// LimitError when the journal is too long to be read again, and there is no journal.
 void commitJournal(const QString &workingFolder, const Journal &journal);
 
-// Moves the parked texts to their working files, removes those of the emptied paragraphs, and then
-// the journal. Throws FileError at the first failure; may be called again, and goes on from there.
+// Moves the parked texts to their working files, and then removes the journal. What was there, and
+// the working files of the emptied paragraphs, are kept as WorkingFiles::before(). Throws FileError
+// at the first failure; may be called again, and goes on from there.
 void placeJournal(const QString &workingFolder, const Journal &journal);
 
-// Places the journal that lies in the working folder, if there is one. A damaged journal, or one
-// whose texts are not all there as they were, is set aside with the parked texts in a folder
-// "Récupération ...". Throws FileError.
-void finishJournal(const QString &workingFolder);
+// Places the journal that the open adventure still waits for, if any. Throws FileError, and may be
+// called again.
+void finishLeftJournal(Variables &variables);
 
-// At the start of the program: finishes a journal and removes parked texts without one, left by a
-// change that was never committed.
+// The same where a failure stops nothing.
+void tryFinishLeftJournal(Variables &variables);
+
+// Where the text of paragraph n lies while the journal is not placed whole; nothing when it leaves
+// the paragraph alone, or has placed it.
+std::optional<QString> waitingText(const Journal &journal, const QString &workingFolder, int n);
+
+// Moves a journal that the start of the program could not finish, and its parked texts, to a folder
+// "Récupération ...": placed now, it would overwrite what was edited since. Throws FileError.
+void setJournalAside(const QString &workingFolder);
+
+// At the start of the program: places a journal, and removes parked texts without one, left by a
+// change that was never committed. A damaged journal, or one whose texts are not all there as they
+// were, is set aside. Throws FileError.
 void recoverJournal(const QString &workingFolder);

@@ -1,33 +1,32 @@
 #pragma once
 
-#include "store/Variables.h"
+#include "store/ParagraphTexts.h"
 
-#include <QByteArray>
-
+class Prompts;
 class RichTextBox;
-
-// The two-level store of paragraph texts: an untouched paragraph is read from the adventure file,
-// an edited one from its working file.
-
-// "LTdI-" for "La Tour d'Ivoire.usm": the first character, each character that follows an
-// apostrophe, a space or a hyphen, and a hyphen. Adventures with the same initials share names.
-QString filePrefixOf(const QString &adventureFileName);
-
-// Where the working file of paragraph n lies, existing or not.
-QString workingFilePath(const Variables &variables, int n);
-QString workingFilePath(const QString &workingFolder, const QString &filePrefix, int n);
-
-// The RTF bytes of paragraph n, 0..2000; empty when it has no text. Reading never deletes: a
-// working file goes only after the adventure that holds its text is in place. Throws FileError when
-// the working file is missing or the adventure file has been overwritten since it was opened.
-QByteArray GetParagraphRtf(const Variables &variables, int n);
 
 // Saves the box as the current paragraph when ParagraphDirty, brings the paragraph's references up
 // to date and puts the selection back to the start. A text without characters empties the paragraph
-// and leaves the written range as it is. Throws FileError, and changes nothing, when the working
-// file cannot be written or removed: the caller must then stay on the paragraph.
+// and leaves the written range as it is; a damaged text it leaves alone.
+//
+// Throws, and changes nothing, FileError when the working file cannot be written or removed,
+// LimitError when the text is too long to be read again, NotAllowed when the author does not allow
+// a damaged text to be replaced: the caller must then stay on the paragraph.
+void SaveCurParg(Variables &variables, RichTextBox &box, Prompts &prompts);
+
+// The same where nothing may be asked: NotAllowed when there is a question.
 void SaveCurParg(Variables &variables, RichTextBox &box);
+
+// The box's RTF. Throws LimitError when it is longer than what is read.
+QByteArray rtfToSave(const RichTextBox &box);
+
+// What a paragraph with this plain text is known by: Written, the written range, its references.
+void noteText(Variables &variables, int n, const QString &text);
 
 // No text is in a working file any more, and the files are removed. One that cannot be removed is
 // harmless: it counts no more, and is replaced when its paragraph is saved again.
 void DiscardWorkingFiles(Variables &variables);
+
+// The same, but the files are kept in a folder "Récupération ...", whose path it gives. Files that
+// cannot be moved stay in the working folder.
+QString setWorkingFilesAside(Variables &variables);

@@ -4,25 +4,35 @@
 #include "platform/SafeFile.h"
 #include "richtext/TextLimit.h"
 #include "store/AdventureChanges.h"
-#include "store/ParagraphStore.h"
+#include "store/ParagraphTexts.h"
+#include "store/WorkingFiles.h"
+#include "store/WorkingFolder.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <numeric>
-#include <set>
 
 ParagraphTransaction::ParagraphTransaction(Variables &variables) : m_variables(variables)
 {
-    finishJournal(m_variables.WorkingFolder);
-    m_variables.JournalLeft = false;
+    finishLeftJournal(m_variables);
+    setJournalAside(m_variables.WorkingFolder);
+    forgetBefore();
 }
 
 ParagraphTransaction::~ParagraphTransaction()
 {
-    if (m_committed)
+    if (m_committed) {
+        forgetBefore();
         return;
+    }
+    if (m_rangeBefore) {
+        m_variables.LowestWritten = m_rangeBefore->lowest;
+        m_variables.HighestWritten = m_rangeBefore->highest;
+    }
     for (const auto &[number, change] : m_changes) {
         try {
-            removeFile(parkingFilePath(m_variables.WorkingFolder, number));
+            removeFile(WorkingFiles(m_variables).parked(number));
         } catch (const FileError &) {
             continue; // it counts for nothing, and goes at the next start
         }
@@ -32,10 +42,13 @@ ParagraphTransaction::~ParagraphTransaction()
 
 void ParagraphTransaction::change(const Change &change)
 {
+    if (change.rtf.size() > LargestText)
+        throw LimitError(QStringLiteral("bytes of a text"), LargestText);
+    makeWorkingFolder(m_variables.WorkingFolder);
     // Noted first, so that half a file goes too.
     m_changes[change.before] = {change.before, change.after, change.fixed, textSha256(change.rtf),
                                 change.references};
-    writeForLater(parkingFilePath(m_variables.WorkingFolder, change.before), change.rtf);
+    writeForLater(WorkingFiles(m_variables).parked(change.before), change.rtf);
 }
 
 void ParagraphTransaction::empty(int n, bool fixed)
@@ -46,22 +59,68 @@ void ParagraphTransaction::empty(int n, bool fixed)
 QByteArray ParagraphTransaction::rtf(int n) const
 {
     if (m_changes.count(n) != 0)
-        return readWholeFile(parkingFilePath(m_variables.WorkingFolder, n), LargestText);
+        return readWholeFile(WorkingFiles(m_variables).parked(n), LargestText);
     return m_emptied.count(n) != 0 ? QByteArray() : GetParagraphRtf(m_variables, n);
+}
+
+void ParagraphTransaction::widenRange(int low, int high)
+{
+    if (!m_rangeBefore)
+        m_rangeBefore = range();
+    m_variables.LowestWritten = std::min(m_variables.LowestWritten, static_cast<qint16>(low));
+    m_variables.HighestWritten = std::max(m_variables.HighestWritten, static_cast<qint16>(high));
 }
 
 void ParagraphTransaction::commit()
 {
     const Journal decided = journal();
-    if (decided.placed.isEmpty() && decided.emptied.isEmpty())
-        return;
-    refuseLostTexts(decided);
-    makeSessionFolder(m_variables.WorkingFolder);
-    syncFileSystem(m_variables.WorkingFolder);
-    commitJournal(m_variables.WorkingFolder, decided);
+    const bool changes = !decided.placed.isEmpty() || !decided.emptied.isEmpty();
+    if (changes) {
+        refuseLostTexts(decided);
+        makeSessionFolder(m_variables.WorkingFolder);
+        syncFileSystem(m_variables.WorkingFolder);
+        commitJournal(m_variables.WorkingFolder, decided);
+    }
     m_committed = true;
-    place(decided);
-    takeOver(decided);
+    if (changes) {
+        rememberBefore(decided);
+        place(decided);
+        takeOver(decided);
+    }
+    if (m_rangeBefore)
+        RecomputeWrittenRange(m_variables);
+    if (changes)
+        announce(decided);
+}
+
+void ParagraphTransaction::rememberBefore(const Journal &journal)
+{
+    m_before.emplace(Before{m_variables, {}});
+    for (const Journal::Placed &placed : journal.placed)
+        m_before->displaced.insert(placed.after);
+    for (const Journal::Emptied &emptied : journal.emptied)
+        m_before->displaced.insert(emptied.number);
+}
+
+// A working file makes room only when the journal is placed.
+QByteArray ParagraphTransaction::textBefore(int n) const
+{
+    if (!m_before || m_before->displaced.count(n) == 0)
+        return GetParagraphRtf(m_variables, n);
+    const QString kept = WorkingFiles(m_variables).before(n);
+    const bool madeRoom = !m_variables.JournalLeft || QFileInfo::exists(kept);
+    if (m_before->state.Extracted.at(n) == 1 && madeRoom)
+        return readWholeFile(kept, LargestText);
+    return GetParagraphRtf(m_before->state, n);
+}
+
+void ParagraphTransaction::forgetBefore()
+{
+    m_before.reset();
+    const QStringList kept = WorkingFiles(m_variables).allBefore();
+    for (const QString &path : kept)
+        tryRemoveFile(path); // one that stays goes at the next start
+    removeSessionFolder(m_variables.WorkingFolder);
 }
 
 Journal ParagraphTransaction::journal() const
@@ -97,11 +156,10 @@ void ParagraphTransaction::refuseLostTexts(const Journal &journal) const
 // Tried twice; the journal stays for a third time later.
 void ParagraphTransaction::place(const Journal &journal)
 {
-    m_variables.JournalLeft = true;
-    for (int attempt = 0; attempt < 2 && m_variables.JournalLeft; ++attempt) {
+    m_variables.JournalLeft = std::make_shared<const Journal>(journal);
+    for (int attempt = 0; attempt < 2; ++attempt) {
         try {
-            placeJournal(m_variables.WorkingFolder, journal);
-            m_variables.JournalLeft = false;
+            finishLeftJournal(m_variables);
         } catch (const FileError &) {
             continue;
         }
@@ -122,17 +180,17 @@ void ParagraphTransaction::takeOver(const Journal &journal)
         const auto number = static_cast<qint16>(placed.after);
         m_variables.Written.at(n) = 1;
         m_variables.Extracted.at(n) = 1;
+        m_variables.Damaged.at(n) = 0;
         m_variables.Unmixable.at(n) = placed.fixed ? 1 : 0;
         m_variables.refIndex.at(n) = placed.references;
         m_variables.LowestWritten = std::min(m_variables.LowestWritten, number);
         m_variables.HighestWritten = std::max(m_variables.HighestWritten, number);
     }
-    setModified(m_variables);
-    announce(journal);
 }
 
 void ParagraphTransaction::announce(const Journal &journal) const
 {
+    setModified(m_variables);
     AdventureEvents &events = *m_variables.Events;
     ParagraphArray<qint16, 2001> newNumbers;
     std::iota(newNumbers.begin(), newNumbers.end(), qint16{0});

@@ -4,6 +4,8 @@
 #include "store/Variables.h"
 
 #include <map>
+#include <optional>
+#include <set>
 
 // Changes many paragraphs at once, or none. New texts are parked beside the working files, so that
 // none is held in memory; until commit() neither the adventure nor its files change, and a
@@ -39,6 +41,10 @@ public:
     // RTF of the paragraph that has number n now, with the changes so far. Throws FileError.
     QByteArray rtf(int n) const;
 
+    // Numbers low..high belong to the written range from now on. After commit() it goes from the
+    // lowest to the highest number with a text; without a commit it is as it was.
+    void widenRange(int low, int high);
+
     // Commits and puts everything in place, in the files and in Variables: texts, Written,
     // Extracted, Unmixable, refIndex, a range widened where need be, AdventureModified. Throws
     // UsmiraError before anything has changed: FileError, or because two texts would have one
@@ -46,8 +52,24 @@ public:
     // is used next, see Variables::JournalLeft.
     void commit();
 
+    // RTF of the paragraph that had number n before the commit, also when the adventure has been
+    // saved since: until forgetBefore(), which the end of the transaction and the next one call.
+    // Throws UsmiraError when it cannot be read.
+    QByteArray textBefore(int n) const;
+    void forgetBefore();
+
 private:
+    struct Range {
+        qint16 lowest;
+        qint16 highest;
+    };
+    struct Before {
+        Variables state;
+        std::set<int> displaced; // numbers whose working files made room
+    };
+    Range range() const { return {m_variables.LowestWritten, m_variables.HighestWritten}; }
     Journal journal() const;
+    void rememberBefore(const Journal &journal);
     void refuseLostTexts(const Journal &journal) const;
     void place(const Journal &journal);
     void takeOver(const Journal &journal);
@@ -56,5 +78,7 @@ private:
     Variables &m_variables;
     std::map<int, Journal::Placed> m_changes; // by the number before
     std::map<int, bool> m_emptied;            // number and whether fixed
+    std::optional<Range> m_rangeBefore;       // when it was widened
+    std::optional<Before> m_before;           // once committed
     bool m_committed = false;
 };

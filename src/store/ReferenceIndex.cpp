@@ -4,7 +4,7 @@
 #include "platform/Errors.h"
 #include "richtext/RtfPlainText.h"
 #include "store/LenientNumbers.h"
-#include "store/ParagraphStore.h"
+#include "store/ParagraphTexts.h"
 
 namespace
 {

@@ -7,6 +7,7 @@
 
 class AdventureEvents;
 class OpenedFile;
+struct Journal;
 
 // The state of the one open adventure, and the options. main owns the only instance; everything
 // else is handed a reference. Array bounds differ by one on purpose: Written and Unmixable accept
@@ -37,13 +38,17 @@ struct Variables {
     ParagraphArray<quint8, 2002> Unmixable; // 1: MasterMix leaves its number alone
     ParagraphArray<QString, 2001> refIndex; // its references, "0012/0340/"
 
+    // 1: its text cannot be read. Known from opening on, or from when it was tried to be shown.
+    ParagraphArray<quint8, 2001> Damaged;
+
     // The adventure file as it was opened, kept open: texts are read from it even when another
     // program has put a different file under its name. Null for an adventure never written.
     std::shared_ptr<OpenedFile> AdventureFile;
 
-    // A change of many paragraphs has been committed but could not be put in place whole: whatever
-    // touches working files tries again first, see finishJournal().
-    bool JournalLeft = false;
+    // A change of many paragraphs that counts but could not be put in place whole, else null.
+    // Whatever changes working files calls finishLeftJournal() first; what only reads a text finds
+    // it through this.
+    std::shared_ptr<const Journal> JournalLeft;
 
     // Announces changes. The flags and arrays that others follow are set through
     // AdventureChanges.h, and by what saves, renumbers and opens.
@@ -62,6 +67,10 @@ struct Variables {
     QString defaultFontName = QStringLiteral("Times New Roman");
     qint16 defaultFontSize = 12; // points
 };
+
+// Sets LowestWritten and HighestWritten to the lowest and the highest number with a text, from 0
+// on; both to 1 when there is none.
+void RecomputeWrittenRange(Variables &variables);
 
 // A paragraph number as file names, anchors and the reference index write it: "0026".
 QString fourDigits(int n);

@@ -2,6 +2,7 @@
 
 #include "platform/Errors.h"
 #include "platform/SafeFile.h"
+#include "store/WorkingFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -9,17 +10,6 @@
 
 namespace
 {
-QStringList bundledNames()
-{
-    return {QStringLiteral("Copyright.rtf"),
-            QStringLiteral("Aide Française.rtf"),
-            QStringLiteral("English Help.rtf"),
-            QStringLiteral("Début du Fichier Unique.txt"),
-            QStringLiteral("Numéros de Paragraphes.txt"),
-            QStringLiteral("Début de Chaque Paragraphe.txt"),
-            QStringLiteral("Fin de Chaque Paragraphe.txt")};
-}
-
 QString workingFolderIn(const QString &folder)
 {
     return QDir::toNativeSeparators(QDir(folder).filePath(QStringLiteral("Dossier Usmira"))) +
@@ -42,12 +32,18 @@ QString findBundledDocuments(const QString &programFolder)
     return QFileInfo(installed).isDir() ? installed : QStringLiteral(USMIRA_RESOURCES);
 }
 
+void makeWorkingFolder(const QString &workingFolder)
+{
+    if (!QFileInfo::exists(workingFolder))
+        QDir().mkpath(workingFolder);
+}
+
 void prepareWorkingFolder(const QString &workingFolder, const QString &bundledDocuments)
 {
     if (QFileInfo::exists(workingFolder))
         return;
     QDir().mkpath(workingFolder);
-    const QStringList names = bundledNames();
+    const QStringList names = WorkingFiles::documentNames();
     for (const QString &name : names) {
         try {
             copyFile(QDir(bundledDocuments).filePath(name), workingFolder + name);

@@ -11,6 +11,9 @@ QString findWorkingFolder(const QString &programFolder);
 // Where the bundled documents lie for a program in programFolder: installed, or in the source tree.
 QString findBundledDocuments(const QString &programFolder);
 
+// Makes the folder again when it has gone. Whether it can be written shows when it is.
+void makeWorkingFolder(const QString &workingFolder);
+
 // Creates the folder when it is not there, with copies of the bundled documents; one that the
 // author has removed since does not come back. Failures are ignored: the program starts without.
 void prepareWorkingFolder(const QString &workingFolder, const QString &bundledDocuments);

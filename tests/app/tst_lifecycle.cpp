@@ -95,8 +95,9 @@ private Q_SLOTS:
         WindowFixture fixture(oneText());
         fixture.type(" Du neuf.");
         fixture.window->SaveCurParg();
-        // The temporary save file cannot be written: a folder has its name.
-        QVERIFY(QDir(fixture.variables.WorkingFolder).mkdir("Usmira Temporary Save File.xyz"));
+        // The temporary save file cannot be written: folders have its name.
+        for (const QString &folder : {fixture.variables.WorkingFolder, fixture.adventure.path({})})
+            QVERIFY(QDir(folder).mkdir("Usmira Temporary Save File.xyz"));
         expectQuestion(fixture, Prompts::Answer::Yes);
         fixture.prompts.expect("Erreur pendant l'écriture du fichier.", "BUG");
         QVERIFY(!fixture.window->close());

@@ -176,19 +176,36 @@ private Q_SLOTS:
         QCOMPARE(box->text(), "Fin. Vraiment.");
     }
 
-    void failureLeavesTheAuthorWhereHeIs()
+    void paragraphThatCannotBeSavedIsNotLeft()
     {
-        WindowFixture fixture(fourParagraphs().rawText(5, "no rich text").current(3));
-        fixture.prompts.expect("Erreur de lecture de fichier.", "BUG");
-        fixture.click("btnNextTyped");
+        WindowFixture fixture(fourParagraphs().current(3));
         fixture.type(" Du neuf.");
-        fixture.variables.WorkingFolder = fixture.adventure.path("parti/");
+        fixture.variables.WorkingFolder = fixture.adventure.file("fichier", {}) + u'/';
         fixture.prompts.expect("Erreur pendant l'écriture du fichier.", "BUG");
         fixture.click("btnNext");
         QCOMPARE(fixture.current(), 3);
         QCOMPARE(fixture.box().text(), "Rien. Du neuf.");
-        QCOMPARE(fixture.entries("theList"), "     3");
         QVERIFY(fixture.variables.ParagraphDirty);
+    }
+
+    void damagedParagraphIsShownEmptyAndReplacedOnlyWithLeave()
+    {
+        WindowFixture fixture;
+        fixture.prompts.expect("Paragraphes illisibles : 5.", "BUG");
+        fixture.open(fourParagraphs().rawText(5, "no rich text").current(3).bytes());
+        fixture.click("btnNextTyped");
+        QCOMPARE(fixture.current(), 5);
+        QCOMPARE(fixture.box().text(), QString());
+        fixture.type("a moi");
+        for (const auto answer : {Prompts::Answer::No, Prompts::Answer::Yes}) {
+            fixture.prompts.expect(
+                "Le texte du paragraphe 5 est illisible. Le remplacer par le vôtre "
+                "? Les octets illisibles seront gardés dans le fichier Le Loup "
+                "(illisible 0005).bin.",
+                "Attention", Prompts::Buttons::YesNo, answer);
+            fixture.click("btnNext");
+            QCOMPARE(fixture.current(), answer == Prompts::Answer::No ? 5 : 6);
+        }
     }
 };
 

@@ -147,8 +147,10 @@ melanger 4 9
             QStringLiteral("Erreur de lecture de fichier."));
         row("unknown", {QStringLiteral("danser")}, 2, QStringLiteral("commande inconnue"));
         row("missing argument", {QStringLiteral("ouvrir")}, 2, QStringLiteral("FICHIER"));
-        row("no paragraph", {QStringLiteral("ouvrir @"), QStringLiteral("rtf 2001")}, 2,
-            QStringLiteral("de 0 à 2000"));
+        row("no paragraph, after a change",
+            {QStringLiteral("ouvrir @"), QStringLiteral("texte 1 @.rtf"),
+             QStringLiteral("rtf 2001")},
+            2, QStringLiteral("de 0 à 2000"));
         row("unanswered question",
             {QStringLiteral("ouvrir @"), QStringLiteral("effacer 1"), QStringLiteral("ouvrir @")},
             1, QStringLiteral("Rappel amical"));
@@ -169,6 +171,7 @@ melanger 4 9
         TestAdventure adventure;
         const QByteArray bytes = AdventureBuilder({QStringLiteral("1: Fin")}).bytes();
         const QString path = adventure.file(QStringLiteral("a.usm"), bytes);
+        adventure.file(QStringLiteral("a.usm.rtf"), rtfOf(QStringLiteral("autre")));
         QFETCH(QStringList, commands);
         QStringList arguments;
         for (QString command : commands)
@@ -179,6 +182,32 @@ melanger 4 9
         QVERIFY2(outcome.errors.contains(message), qPrintable(outcome.errors));
         QCOMPARE(adventure.content(QStringLiteral("a.usm")), bytes);
         QVERIFY(adventure.workingFiles().isEmpty());
+    }
+
+    void damagedTextsAreToldAndStopNothing()
+    {
+        TestAdventure adventure;
+        const AdventureBuilder builder({QStringLiteral("1: Va"), QStringLiteral("2: Fin")});
+        const QString path = adventure.file(QStringLiteral("a.usm"),
+                                            AdventureBuilder(builder).rawText(1, "zut").bytes());
+        const Outcome outcome = run(adventure, {}, "ouvrir '" + path.toUtf8() + R"('
+etat
+effacer 2
+enregistrer
+)");
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.errors,
+                 QStringLiteral("BUG : Paragraphes illisibles : 1.\n"
+                                "BUG : Paragraphes illisibles, non enregistrés : 1. Leurs octets "
+                                "sont gardés à côté de l'aventure.\n"));
+        const QJsonArray state = QJsonDocument::fromJson(outcome.output)
+                                     .object()[QStringLiteral("paragraphs")]
+                                     .toArray();
+        const QJsonObject one = state.at(0).toObject();
+        QVERIFY(one[QStringLiteral("damaged")].toBool() &&
+                one[QStringLiteral("text")] == QString());
+        QVERIFY(!state.at(1).toObject()[QStringLiteral("damaged")].toBool(true));
+        QCOMPARE(adventure.content(QStringLiteral("a (illisible 0001).bin")), QByteArray("zut"));
     }
 
     void answersDecideWhatBecomesOfTheChanges_data()

@@ -133,6 +133,7 @@ private Q_SLOTS:
     {
         Scene scene;
         QVERIFY(QDir(scene.v.WorkingFolder).removeRecursively());
+        scene.adventure.file("Dossier Usmira", "in the folder's place");
         scene.prompts.expect("Erreur pendant l'écriture du fichier.", "BUG");
         QVERIFY(!scene.commands.Swap(2, 2000));
         QCOMPARE(scene.texts(), Untouched);

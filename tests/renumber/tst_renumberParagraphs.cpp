@@ -5,6 +5,7 @@
 #include "richtext/HiddenBox.h"
 #include "richtext/RtfPlainText.h"
 #include "store/AdventureFile.h"
+#include "store/DamagedTexts.h"
 #include "store/ParagraphStore.h"
 #include "support/AdventureBuilder.h"
 #include "support/TestTable.h"
@@ -78,8 +79,10 @@ QStringList web(const Opened &adventure)
 QStringList everything(const Opened &adventure)
 {
     QStringList lines;
+    QList<int> unreadable;
     for (int n = 0; n <= 41; ++n)
-        lines += GetParagraphRtf(adventure.variables, n) + adventure.entry(n).toLatin1();
+        lines += readableText(adventure.variables, n, unreadable).value_or("unreadable") +
+                 adventure.entry(n).toLatin1();
     return lines;
 }
 

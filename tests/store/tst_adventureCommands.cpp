@@ -2,26 +2,38 @@
 #include "platform/Errors.h"
 #include "store/AdventureCommands.h"
 #include "store/ParagraphStore.h"
+#include "store/WorkingFiles.h"
 #include "support/AdventureBuilder.h"
 #include "support/PromptRecorder.h"
+#include "support/TestTable.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QTest>
+
+using Answer = Prompts::Answer;
 
 namespace
 {
+AdventureBuilder wolf()
+{
+    return AdventureBuilder({"1: Va au 2", "2: Fin"});
+}
+const QString Wolf = "Le Loup.usm";
+const QString Temporary = "Usmira Temporary Save File.xyz";
+
 // The commands over a real state, with a box that nobody sees.
-struct Editor {
-    TestAdventure adventure;
-    Variables &v = adventure.variables;
+struct Editor : TestAdventure {
+    Variables &v = variables;
     PromptRecorder prompts;
     HeadlessView view{v};
     AdventureCommands commands{v, prompts, view, view};
 
-    QString file(const QString &name, const AdventureBuilder &builder) const
+    QString open(const QByteArray &bytes = wolf().bytes())
     {
-        return adventure.file(name, builder.bytes());
+        const QString path = file(Wolf, bytes);
+        QTEST_ASSERT(commands.OpenAdventure(path));
+        return path;
     }
     void type(int n, const QString &text)
     {
@@ -30,35 +42,34 @@ struct Editor {
         v.ParagraphDirty = true;
     }
     QString shown() { return view.editingBox().text(); }
-    void expectQuestion(Prompts::Answer answer)
+    void saveParagraph() { SaveCurParg(v, view.editingBox()); }
+    void expectQuestion(Answer answer)
     {
-        prompts.expect(
-            QStringLiteral("ATTENTION : Vous n'avez pas enregistré l'aventure ") +
-                v.AdventureFileName +
-                QStringLiteral(". Voulez-vous le faire? Sinon, vous perdrez tous les changements!"),
-            QStringLiteral("Rappel amical"), Prompts::Buttons::YesNoCancel, answer);
+        prompts.expect("ATTENTION : Vous n'avez pas enregistré l'aventure " + v.AdventureFileName +
+                           ". Voulez-vous le faire? Sinon, vous perdrez tous les changements!",
+                       "Rappel amical", Prompts::Buttons::YesNoCancel, answer);
     }
+    void expectReplacing(Answer answer)
+    {
+        prompts.expect("Le texte du paragraphe 1 est illisible. Le remplacer par le vôtre ? Les "
+                       "octets illisibles seront gardés dans le fichier Le Loup (illisible "
+                       "0001).bin.",
+                       "Attention", Prompts::Buttons::YesNo, answer);
+    }
+    void expectLeftOut(int n)
+    {
+        expectBug(QString("Paragraphes illisibles, non enregistrés : %1. Leurs octets sont gardés "
+                          "à côté de l'aventure.")
+                      .arg(n));
+    }
+    void expectBug(const QString &text) { prompts.expect(text, "BUG"); }
     void expectSwapFailure()
     {
-        prompts.expect(QStringLiteral("Fichier enregistré, incapable d'échanger avec l'original."),
-                       QStringLiteral("BUG"));
+        expectBug("Fichier enregistré, incapable d'échanger avec l'original.");
     }
-    void expectReadFailure()
-    {
-        prompts.expect(QStringLiteral("Erreur de lecture de fichier."), QStringLiteral("BUG"));
-    }
-    void expectWriteFailure()
-    {
-        prompts.expect(QStringLiteral("Erreur pendant l'écriture du fichier."),
-                       QStringLiteral("BUG"));
-    }
+    void expectReadFailure() { expectBug("Erreur de lecture de fichier."); }
+    void expectWriteFailure() { expectBug("Erreur pendant l'écriture du fichier."); }
 };
-
-AdventureBuilder wolf()
-{
-    return AdventureBuilder({QStringLiteral("1: Va au 2"), QStringLiteral("2: Fin")});
-}
-const QString Wolf = QStringLiteral("Le Loup.usm");
 } // namespace
 
 class tst_adventureCommands : public QObject
@@ -66,42 +77,32 @@ class tst_adventureCommands : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void newAdventureIsWrittenAtOnce()
-    {
-        Editor e;
-        e.prompts.expectFileDialog(QStringLiteral("Nouvelle Aventure"), e.adventure.path(Wolf));
-        e.commands.New();
-        QCOMPARE(e.adventure.content(Wolf), AdventureBuilder().bytes());
-        QCOMPARE(e.v.AdventureFileName, Wolf);
-        QCOMPARE(e.v.FilePrefix, QStringLiteral("LL-"));
-        QVERIFY(!e.v.AdventureModified && e.v.AdventureOpen);
-        QVERIFY(e.adventure.workingFiles().isEmpty());
-    }
-
     void editSaveAndReopen()
     {
         Editor e;
-        QVERIFY(e.commands.NewAdventure(e.adventure.path(Wolf)));
-        e.type(12, QStringLiteral("Rendez-vous au 26"));
+        e.prompts.expectFileDialog("Nouvelle Aventure", e.path(Wolf));
+        e.commands.New();
+        QCOMPARE(e.content(Wolf), AdventureBuilder().bytes());
+        QCOMPARE(e.v.FilePrefix, "LL-");
+        QVERIFY(!e.v.AdventureModified && e.v.AdventureOpen);
+        e.type(12, "Rendez-vous au 26");
         QVERIFY(e.commands.Save());
-        e.type(26, QStringLiteral("Fin"));
+        e.type(26, "Fin");
         QVERIFY(e.commands.Save());
-        QVERIFY(e.adventure.workingFiles().isEmpty());
-        QCOMPARE(GetParagraphRtf(e.v, 12), rtfOf(QStringLiteral("Rendez-vous au 26")));
+        QVERIFY(e.workingFiles().isEmpty());
+        QCOMPARE(GetParagraphRtf(e.v, 12), rtfOf("Rendez-vous au 26"));
 
         Editor other;
-        const QString copy = other.adventure.file(Wolf, e.adventure.content(Wolf));
-        QVERIFY(other.commands.OpenAdventure(copy));
+        other.open(e.content(Wolf));
         QCOMPARE(other.v.CurrentParagraph, qint16{26});
-        QCOMPARE(other.shown(), QStringLiteral("Fin"));
-        QCOMPARE(other.v.refIndex.at(12), QStringLiteral("0026/"));
+        QCOMPARE(other.shown(), "Fin");
+        QCOMPARE(other.v.refIndex.at(12), "0026/");
     }
 
     void savingWithNothingChangedWritesNothing()
     {
         Editor e;
-        const QString path = e.file(Wolf, wolf());
-        QVERIFY(e.commands.OpenAdventure(path));
+        const QString path = e.open();
         QFile::remove(path);
         e.view.LoadParg(2);
         QVERIFY(e.commands.Save());
@@ -111,14 +112,13 @@ private Q_SLOTS:
     void olderFileIsIndexedAndSavedInTheCurrentVersion()
     {
         Editor e;
-        const QString path = e.adventure.file(Wolf, wolf().oldBytes(25));
-        QVERIFY(e.commands.OpenAdventure(path));
-        QCOMPARE(e.v.refIndex.at(1), QStringLiteral("0002/"));
-        e.type(2, QStringLiteral("Fin"));
+        e.open(wolf().oldBytes(25));
+        QCOMPARE(e.v.refIndex.at(1), "0002/");
+        e.type(2, "Fin");
         QVERIFY(e.commands.Save());
-        QCOMPARE(e.adventure.content(Wolf), wolf().current(2).bytes());
+        QCOMPARE(e.content(Wolf), wolf().current(2).bytes());
         QVERIFY(e.v.CurrentFormat);
-        QCOMPARE(GetParagraphRtf(e.v, 1), rtfOf(QStringLiteral("Va au 2")));
+        QCOMPARE(GetParagraphRtf(e.v, 1), rtfOf("Va au 2"));
     }
 
     void stoppedOpenLeavesTheOpenAdventureAsItWas()
@@ -128,156 +128,188 @@ private Q_SLOTS:
             bool progress(int /*done*/, int /*total*/) override { return true; }
         };
         Editor e;
-        QVERIFY(e.commands.OpenAdventure(e.file(Wolf, wolf())));
+        e.open();
         Impatient impatient(e.v);
         AdventureCommands commands(e.v, e.prompts, e.view, impatient);
-        QVERIFY(!commands.OpenAdventure(
-            e.adventure.file(QStringLiteral("old.usm"), wolf().oldBytes(25))));
-        QCOMPARE(e.v.AdventureFileName, Wolf);
-        QVERIFY(e.v.CurrentFormat);
+        QVERIFY(!commands.OpenAdventure(e.file("old.usm", wolf().oldBytes(25))));
+        QVERIFY(e.v.AdventureFileName == Wolf && e.v.CurrentFormat);
     }
 
-    void aFailedOpenLeavesTheOpenAdventureAsItWas_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("cut short") << wolf().bytes().chopped(3);
-        QTest::newRow("no adventure") << QByteArray("Nothing yet");
-        QTest::newRow("empty") << QByteArray();
-    }
     void aFailedOpenLeavesTheOpenAdventureAsItWas()
     {
-        QFETCH(QByteArray, bytes);
-        Editor e;
-        QVERIFY(e.commands.OpenAdventure(e.file(Wolf, wolf())));
-        e.type(2, QStringLiteral("autre fin"));
-        const QString bad = e.adventure.file(QStringLiteral("bad.usm"), bytes);
-        e.expectQuestion(Prompts::Answer::Yes);
-        e.prompts.expectFileDialog(QStringLiteral("Ouvrir une Aventure"), bad);
-        e.expectReadFailure();
-        e.commands.Open();
-        QCOMPARE(e.v.AdventureFileName, Wolf);
-        QCOMPARE(e.shown(), QStringLiteral("autre fin"));
-        QCOMPARE(e.v.refIndex.at(1), QStringLiteral("0002/"));
-        e.expectReadFailure();
-        QVERIFY(!e.commands.OpenAdventure(e.adventure.path(QStringLiteral("missing.usm"))));
-        QCOMPARE(e.v.AdventureFileName, Wolf);
+        for (const QByteArray &bytes : {wolf().bytes().chopped(3), QByteArray("Nothing yet")}) {
+            Editor e;
+            e.open();
+            e.type(2, "autre fin");
+            e.expectQuestion(Answer::Yes);
+            e.prompts.expectFileDialog("Ouvrir une Aventure", e.file("bad.usm", bytes));
+            e.expectReadFailure();
+            e.commands.Open();
+            QCOMPARE(e.v.AdventureFileName, Wolf);
+            QCOMPARE(e.shown(), "autre fin");
+            QCOMPARE(e.v.refIndex.at(1), "0002/");
+        }
     }
 
-    void aDamagedCurrentParagraphIsReportedAndNotShown()
+    void damagedTextsAreShownEmptyAndReplacedOnlyWithLeave()
     {
         Editor e;
-        const QString path = e.file(Wolf, wolf().rawText(1, "{\\broken").current(1));
-        e.expectReadFailure();
-        QVERIFY(e.commands.OpenAdventure(path));
-        QCOMPARE(e.v.CurrentParagraph, qint16{2});
-        QCOMPARE(e.shown(), QStringLiteral("Fin"));
+        e.expectBug("Paragraphes illisibles : 1.");
+        e.open(wolf().rawText(1, "{\\broken").bytes());
+        QVERIFY(e.v.CurrentParagraph == 1 && e.shown().isEmpty());
+        e.type(1, {});
+        e.saveParagraph(); // nothing was put in its place
+        QVERIFY(!e.v.AdventureModified);
+
+        e.type(1, "à moi");
+        QVERIFY_THROWS_EXCEPTION(NotAllowed, e.saveParagraph());
+        e.expectReplacing(Answer::No);
+        QVERIFY(!e.commands.Save());
+        QVERIFY(e.v.ParagraphDirty && e.shown() == "à moi");
+        e.expectReplacing(Answer::No);
+        e.expectQuestion(Answer::Cancel);
+        QVERIFY(!e.commands.LeaveAdventure());
+        e.expectReplacing(Answer::Yes);
+        QVERIFY(e.commands.Save());
+        QCOMPARE(e.content("Le Loup (illisible 0001).bin"), "{\\broken");
+        QCOMPARE(GetParagraphRtf(e.v, 1), rtfOf("à moi"));
     }
 
-    void cancelAtTheQuestionKeepsEverything()
+    void aSaveLeavesDamagedTextsOutAndKeepsTheirBytes()
     {
         Editor e;
-        QVERIFY(e.commands.OpenAdventure(e.file(Wolf, wolf())));
-        e.type(2, QStringLiteral("autre fin"));
-        e.expectQuestion(Prompts::Answer::Cancel);
-        e.commands.New();
-        QCOMPARE(e.adventure.workingFiles(), QStringList{QStringLiteral("LL-0002.rtf")});
-        QVERIFY(e.v.AdventureModified);
+        e.expectBug("Paragraphes illisibles : 1.");
+        e.open(wolf().rawText(1, "autre chose").bytes());
+        e.type(2, "deux");
+        e.expectLeftOut(1);
+        QVERIFY(e.commands.Save());
+        QCOMPARE(e.content("Le Loup (illisible 0001).bin"), "autre chose");
+        QCOMPARE(e.v.Written.at(1), quint8{0});
+        QCOMPARE(GetParagraphRtf(e.v, 2), rtfOf("deux"));
+
+        // A working file that somebody took away has no bytes: the whole adventure is kept.
+        const QByteArray saved = e.content(Wolf);
+        e.type(2, "trois");
+        e.saveParagraph();
+        QVERIFY(QDir(e.v.WorkingFolder).removeRecursively());
+        e.expectLeftOut(2);
+        QVERIFY(e.commands.Save());
+        QCOMPARE(e.content("Le Loup (autre version).usm"), saved);
     }
 
     void noAndThenNoFileShowsTheAdventureAsLastSaved()
     {
         Editor e;
-        QVERIFY(e.commands.OpenAdventure(e.file(Wolf, wolf())));
-        e.type(2, QStringLiteral("autre fin au 9"));
+        e.open();
+        e.type(2, "autre fin au 9");
         e.commands.Save();
-        e.type(2, QStringLiteral("jetée"));
-        SaveCurParg(e.v, e.view.editingBox());
-        e.type(7, QStringLiteral("jetée aussi"));
-        e.expectQuestion(Prompts::Answer::No);
-        e.prompts.expectFileDialog(QStringLiteral("Ouvrir une Aventure"), QString());
+        e.type(2, "jetée");
+        e.saveParagraph();
+        e.type(7, "jetée aussi");
+        e.expectQuestion(Answer::No);
+        e.prompts.expectFileDialog("Ouvrir une Aventure", {});
         e.commands.Open();
-        QVERIFY(e.adventure.workingFiles().isEmpty());
-        QCOMPARE(e.v.Written.at(7), quint8{0});
-        QCOMPARE(e.v.HighestWritten, qint16{2});
-        QCOMPARE(e.shown(), QStringLiteral("autre fin au 9"));
-        QCOMPARE(e.v.refIndex.at(2), QStringLiteral("0009/"));
-        QVERIFY(!e.v.AdventureModified);
+        QVERIFY(e.workingFiles().isEmpty());
+        QVERIFY(e.v.Written.at(7) == 0 && e.v.HighestWritten == 2 && !e.v.AdventureModified);
+        QCOMPARE(e.shown(), "autre fin au 9");
+        QCOMPARE(e.v.refIndex.at(2), "0009/");
+    }
+
+    void nonSetsTheWorkAsideWhenTheAdventureIsGone()
+    {
+        Editor e;
+        const QString path = e.open();
+        e.type(2, "autre fin");
+        QVERIFY(QFile::remove(path));
+        e.expectQuestion(Answer::No);
+        const QString folder = WorkingFiles(e.v).newRecoveryFolder(QDateTime::currentDateTime());
+        e.expectBug("L'aventure Le Loup.usm ne peut plus être relue. Les paragraphes non "
+                    "enregistrés sont rangés dans le dossier " +
+                    folder + u'.');
+        QVERIFY(e.commands.LeaveAdventure());
+        QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList{"LL-0002.rtf"});
     }
 
     void aFailedSwapKeepsTheWorkAndCanBeTriedAgain()
     {
         Editor e;
-        const QString path = e.file(Wolf, wolf());
-        QVERIFY(e.commands.OpenAdventure(path));
-        e.type(2, QStringLiteral("autre fin"));
-        QVERIFY(QFile::remove(path));
-        QVERIFY(QDir().mkpath(path + QStringLiteral("/full")));
+        const QString path = e.open();
+        e.type(2, "autre fin");
+        QVERIFY(QFile::remove(path) && QDir().mkpath(path + "/full"));
         e.expectSwapFailure();
         QVERIFY(!e.commands.Save());
-        QCOMPARE(e.adventure.workingFiles(),
-                 (QStringList{QStringLiteral("LL-0002.rtf"),
-                              QStringLiteral("Usmira Temporary Save File.xyz")}));
+        QCOMPARE(e.workingFiles(), (QStringList{"LL-0002.rtf", Temporary}));
         QVERIFY(e.v.AdventureModified);
-        QCOMPARE(GetParagraphRtf(e.v, 1), rtfOf(QStringLiteral("Va au 2")));
+        QCOMPARE(GetParagraphRtf(e.v, 1), rtfOf("Va au 2"));
         QVERIFY(QDir(path).removeRecursively());
         QVERIFY(e.commands.Save());
-        QVERIFY(e.adventure.workingFiles().isEmpty());
-        QVERIFY(e.adventure.content(Wolf).contains("autre fin"));
+        QVERIFY(e.workingFiles().isEmpty());
+        QVERIFY(e.content(Wolf).contains("autre fin"));
     }
 
-    void aFolderThatCannotBeWrittenKeepsTheParagraphDirty()
+    void withoutAWorkingFolderOneCanSaveAndLeave_data()
     {
+        addTable<QString, QString, Answer>({"place", "below", "answer"},
+                                           {{"made again", "", "", Answer::Yes},
+                                            {"a file", "Dossier Usmira", "", Answer::Yes},
+                                            {"below a file", "a", "Dossier/", Answer::Yes},
+                                            {"a file, left", "Dossier Usmira", "", Answer::No}});
+    }
+    void withoutAWorkingFolderOneCanSaveAndLeave()
+    {
+        QFETCH(QString, place);
+        QFETCH(QString, below);
+        QFETCH(Answer, answer);
         Editor e;
-        QVERIFY(e.commands.OpenAdventure(e.file(Wolf, wolf())));
+        e.open();
         QVERIFY(QDir(e.v.WorkingFolder).removeRecursively());
-        e.type(2, QStringLiteral("autre fin"));
-        e.expectWriteFailure();
-        e.commands.New();
-        QVERIFY(e.v.ParagraphDirty);
-        QCOMPARE(e.v.AdventureFileName, Wolf);
+        if (!place.isEmpty()) {
+            e.v.WorkingFolder = e.file(place, "no folder") + u'/' + below;
+            e.expectWriteFailure();
+        }
+        e.type(2, "autre fin au 7");
+        e.expectQuestion(answer);
+        QVERIFY(e.commands.LeaveAdventure());
+        const bool saved = answer == Answer::Yes;
+        QCOMPARE(e.content(Wolf).contains("autre fin au 7"), saved);
+        QCOMPARE(e.v.refIndex.at(2), saved ? QString("0007/") : QString());
+        QVERIFY(!e.v.ParagraphDirty && !e.v.AdventureModified && e.v.Extracted.at(2) == 0);
+        QVERIFY(!QFile::exists(e.path(Temporary)));
     }
 
-    void anotherProgramsVersionIsKeptBeforeItIsReplaced_data()
-    {
-        QTest::addColumn<Prompts::Answer>("answer");
-        QTest::newRow("Oui") << Prompts::Answer::Yes;
-        QTest::newRow("Non") << Prompts::Answer::No;
-    }
     void anotherProgramsVersionIsKeptBeforeItIsReplaced()
     {
-        QFETCH(Prompts::Answer, answer);
-        Editor e;
-        const QString path = e.file(Wolf, wolf());
-        QVERIFY(e.commands.OpenAdventure(path));
-        QVERIFY(QFile::remove(path));
-        e.adventure.file(Wolf, "of another program");
-        e.type(2, QStringLiteral("autre fin"));
-        e.prompts.expect(
-            QStringLiteral("Un autre programme a modifié l'aventure Le Loup.usm depuis son "
-                           "ouverture. Voulez-vous la remplacer par la vôtre ? L'autre version "
-                           "sera gardée sous le nom Le Loup (autre version).usm."),
-            QStringLiteral("Attention !"), Prompts::Buttons::YesNo, answer);
-        const bool replaced = answer == Prompts::Answer::Yes;
-        if (!replaced)
-            e.expectSwapFailure();
-        QCOMPARE(e.commands.Save(), replaced);
-        QCOMPARE(e.v.AdventureModified, !replaced);
-        const QString kept = replaced ? QStringLiteral("Le Loup (autre version).usm") : Wolf;
-        QCOMPARE(e.adventure.content(kept), QByteArray("of another program"));
+        for (const bool replaced : {true, false}) {
+            Editor e;
+            QVERIFY(QFile::remove(e.open()));
+            e.file(Wolf, "of another program");
+            e.type(2, "autre fin");
+            e.prompts.expect("Un autre programme a modifié l'aventure Le Loup.usm depuis son "
+                             "ouverture. Voulez-vous la remplacer par la vôtre ? L'autre version "
+                             "sera gardée sous le nom Le Loup (autre version).usm.",
+                             "Attention !", Prompts::Buttons::YesNo,
+                             replaced ? Answer::Yes : Answer::No);
+            if (!replaced)
+                e.expectSwapFailure();
+            QCOMPARE(e.commands.Save(), replaced);
+            QCOMPARE(e.v.AdventureModified, !replaced);
+            const QString kept = replaced ? "Le Loup (autre version).usm" : Wolf;
+            QCOMPARE(e.content(kept), "of another program");
+        }
     }
 
     void newOverAnExistingFileReplacesItOnlyAtTheSwap()
     {
         Editor e;
-        const QString path = e.file(Wolf, wolf());
-        QVERIFY(QDir(e.v.WorkingFolder).removeRecursively());
+        const QString path = e.file(Wolf, wolf().bytes());
+        QVERIFY(QDir(e.v.WorkingFolder).mkdir(Temporary) && QDir().mkdir(e.path(Temporary)));
         e.expectWriteFailure();
         QVERIFY(e.commands.NewAdventure(path));
-        QCOMPARE(e.adventure.content(Wolf), wolf().bytes());
+        QCOMPARE(e.content(Wolf), wolf().bytes());
         QVERIFY(e.v.AdventureModified);
-        QVERIFY(QDir().mkpath(e.v.WorkingFolder));
+        QVERIFY(QDir().rmdir(e.path(Temporary)));
         QVERIFY(e.commands.Save());
-        QCOMPARE(e.adventure.content(Wolf), AdventureBuilder().bytes());
+        QCOMPARE(e.content(Wolf), AdventureBuilder().bytes());
     }
 };
 

@@ -1,10 +1,10 @@
 #include "platform/Errors.h"
 #include "platform/OpenedFile.h"
 #include "store/AdventureFile.h"
-#include "store/ParagraphStore.h"
+#include "store/DamagedTexts.h"
+#include "store/ParagraphTexts.h"
 #include "support/AdventureBuilder.h"
-
-#include <QTest>
+#include "support/TestTable.h"
 
 class tst_adventureFile : public QObject
 {
@@ -12,22 +12,19 @@ class tst_adventureFile : public QObject
 
     static AdventureContents read(const TestAdventure &adventure, const QByteArray &bytes)
     {
-        return readAdventure(
-            std::make_shared<OpenedFile>(adventure.file(QStringLiteral("a.usm"), bytes)));
+        return readAdventure(std::make_shared<OpenedFile>(adventure.file("a.usm", bytes)));
     }
-    static QList<int> writtenIn(const ParagraphArray<quint8, 2002> &written)
+    static QList<int> setIn(const ParagraphArray<quint8, 2002> &flags)
     {
         QList<int> numbers;
-        for (int n = 0; n < written.count(); ++n) {
-            if (written.at(n) == 1)
-                numbers.append(static_cast<int>(n));
-        }
+        for (int n = 0; n < flags.count(); ++n)
+            if (flags.at(n) == 1)
+                numbers.append(n);
         return numbers;
     }
     static AdventureBuilder small()
     {
-        return AdventureBuilder({QStringLiteral("0: notes"), QStringLiteral("3!: Va au 12"),
-                                 QStringLiteral("12: Été au 3")});
+        return AdventureBuilder({"0: notes", "3!: Va au 12", "12: Été au 3"});
     }
 
 private Q_SLOTS:
@@ -36,27 +33,23 @@ private Q_SLOTS:
         TestAdventure adventure;
         Variables &v = adventure.variables;
         v.Unmixable.at(7) = 1;
-        v.refIndex.at(7) = QStringLiteral("0001/");
+        v.refIndex.at(7) = "0001/";
         takeOver(v, read(adventure, small().current(12).phrase("aller \xE0 ").bytes()));
-        QCOMPARE(v.TargetPhrase, QStringLiteral("aller à "));
-        QCOMPARE(v.LowestWritten, qint16{0});
-        QCOMPARE(v.HighestWritten, qint16{12});
-        QCOMPARE(v.CurrentParagraph, qint16{12});
-        QCOMPARE(writtenIn(v.Written), (QList<int>{0, 3, 12}));
-        QCOMPARE(writtenIn(v.Unmixable), QList<int>{3});
-        QCOMPARE(v.refIndex.at(12), QStringLiteral("0003/"));
+        QCOMPARE(v.TargetPhrase, "aller à ");
+        QVERIFY(v.LowestWritten == 0 && v.HighestWritten == 12 && v.CurrentParagraph == 12);
+        QCOMPARE(setIn(v.Written), (QList<int>{0, 3, 12}));
+        QCOMPARE(setIn(v.Unmixable), QList<int>{3});
+        QCOMPARE(v.refIndex.at(12), "0003/");
         QCOMPARE(v.refIndex.at(7), QString());
-        QCOMPARE(GetParagraphRtf(v, 12), rtfOf(QStringLiteral("Été au 3")));
+        QCOMPARE(GetParagraphRtf(v, 12), rtfOf("Été au 3"));
         QVERIFY(v.CurrentFormat && v.AdventureOpen && !v.AdventureModified);
     }
 
     void readsOlderVersions_data()
     {
-        QTest::addColumn<int>("version");
-        QTest::addColumn<QList<int>>("fixed");
-        QTest::newRow("25 carries flags") << 25 << QList<int>{3};
-        QTest::newRow("24 does not") << 24 << QList<int>();
-        QTest::newRow("any other number") << 36 << QList<int>();
+        addTable<int, QList<int>>(
+            {"version", "fixed"},
+            {{"25 carries flags", 25, {3}}, {"24 does not", 24, {}}, {"any other", 36, {}}});
     }
     void readsOlderVersions()
     {
@@ -65,72 +58,59 @@ private Q_SLOTS:
         Variables &v = adventure.variables;
         takeOver(v, read(adventure, small().oldBytes(version)));
         QVERIFY(!v.CurrentFormat);
-        QCOMPARE(v.TargetPhrase, QStringLiteral(" au "));
-        QCOMPARE(writtenIn(v.Written), (QList<int>{0, 3, 12}));
-        QTEST(writtenIn(v.Unmixable), "fixed");
-        QCOMPARE(GetParagraphRtf(v, 3), rtfOf(QStringLiteral("Va au 12")));
-        QCOMPARE(GetParagraphRtf(v, 4), QByteArray());
+        QCOMPARE(v.TargetPhrase, " au ");
+        QCOMPARE(setIn(v.Written), (QList<int>{0, 3, 12}));
+        QTEST(setIn(v.Unmixable), "fixed");
+        QCOMPARE(GetParagraphRtf(v, 3), rtfOf("Va au 12"));
     }
 
     void writtenFileIsWhatAnotherHandLays()
     {
         TestAdventure adventure;
-        takeOver(adventure.variables, read(adventure, small().oldBytes(25)));
-        adventure.variables.refIndex.at(3) = QStringLiteral("0012/");
-        adventure.variables.refIndex.at(12) = QStringLiteral("0003/");
-        writeAdventure(adventure.variables, adventure.path(QStringLiteral("b.usm")));
-        QCOMPARE(adventure.content(QStringLiteral("b.usm")), small().bytes());
+        Variables &v = adventure.variables;
+        const auto written = [&] {
+            writeAdventure(v, adventure.path("b.usm"));
+            return adventure.content("b.usm");
+        };
+        QCOMPARE(written(), AdventureBuilder().bytes()); // empty
+        v.TargetPhrase.clear();
+        QCOMPARE(written().size(), 8 + 4 + 2 + 4 + 1 + 4);
+        takeOver(v, read(adventure, small().oldBytes(25)));
+        v.refIndex.at(3) = "0012/";
+        v.refIndex.at(12) = "0003/";
+        QCOMPARE(written(), small().bytes());
+        v.refIndex.at(12) = "€odd";
+        QCOMPARE(written(), small().list(12, "\x80odd").bytes());
+        v.refIndex.at(12) = QString("0012/").repeated(7000); // 16 bits do not hold its length
+        QCOMPARE(written(), small().list(12, QByteArray("0012/").repeated(6553)).bytes());
     }
 
-    void anEmptyAdventureHasHeaderPhraseOneFlagAndEnd()
-    {
-        TestAdventure adventure;
-        writeAdventure(adventure.variables, adventure.path(QStringLiteral("b.usm")));
-        QCOMPARE(adventure.content(QStringLiteral("b.usm")), AdventureBuilder().bytes());
-        adventure.variables.TargetPhrase.clear();
-        writeAdventure(adventure.variables, adventure.path(QStringLiteral("b.usm")));
-        QCOMPARE(adventure.content(QStringLiteral("b.usm")).size(), 8 + 4 + 2 + 4 + 1 + 4);
-    }
-
-    void everyShorterFileIsAReadError_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("35") << small().bytes();
-        QTest::newRow("25, up to its last offset")
-            << small().oldBytes(25).left(8 + 96 + 1000 + 1001 * 4);
-    }
     void everyShorterFileIsAReadError()
     {
-        QFETCH(QByteArray, bytes);
-        TestAdventure adventure;
-        int refused = 0;
-        for (qsizetype length = 0; length < bytes.size(); ++length) {
-            try {
-                read(adventure, bytes.left(length));
-            } catch (const UsmiraError &) {
-                ++refused;
-            }
-        }
-        QCOMPARE(refused, bytes.size());
+        const TestAdventure adventure;
+        for (const QByteArray &bytes :
+             {small().bytes(), small().oldBytes(25).left(8 + 96 + 1000 + 1001 * 4)})
+            for (qsizetype length = 0; length < bytes.size(); ++length)
+                QVERIFY_THROWS_EXCEPTION(UsmiraError, read(adventure, bytes.left(length)));
     }
 
     void damageIsRefused_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
         const QByteArray good = small().bytes();
         const qsizetype section = good.indexOf("SECT");
-        const auto row = [](const char *name, QByteArray bytes, qsizetype at,
-                            const QByteArray &damage) {
-            QTest::newRow(name) << bytes.replace(at, damage.size(), damage);
+        const auto with = [](QByteArray bytes, qsizetype at, const QByteArray &damage) {
+            return bytes.replace(at, damage.size(), damage);
         };
-        row("version above 32767", good, 0, "\x80");
-        row("lowest above 32767", good, 2, "\x80");
-        row("section above 2000", good, section + 4, QByteArray("\x07\xD1", 2));
-        row("text beyond the end", good, section + 6, QByteArray("\x7F\xFF\xFF\xFF", 4));
-        row("text of 4 GiB", good, section + 6, QByteArray("\xFF\xFF\xFF\xFF", 4));
-        row("phrase beyond the end", good, 12, QByteArray("\x7F\xFF", 2));
-        row("phrase of 32768", good, 12, QByteArray("\x80\x00", 2));
-        row("old phrase too long", small().oldBytes(25), 8, QByteArray(1, 32));
+        addTable<QByteArray>(
+            {"bytes"},
+            {{"version above 32767", with(good, 0, "\x80")},
+             {"lowest above 32767", with(good, 2, "\x80")},
+             {"section above 2000", with(good, section + 4, QByteArray("\x07\xD1", 2))},
+             {"text beyond the end", with(good, section + 6, QByteArray("\x7F\xFF\xFF\xFF", 4))},
+             {"text of 4 GiB", with(good, section + 6, QByteArray("\xFF\xFF\xFF\xFF", 4))},
+             {"phrase beyond the end", with(good, 12, QByteArray("\x7F\xFF", 2))},
+             {"phrase of 32768", with(good, 12, QByteArray("\x80\x00", 2))},
+             {"old phrase too long", with(small().oldBytes(25), 8, QByteArray(1, 32))}});
     }
     void damageIsRefused()
     {
@@ -141,14 +121,13 @@ private Q_SLOTS:
 
     void oddHeadersAreRepaired_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QList<int>>("range");
-        QTest::newRow("reversed") << small().range(9, 2).bytes() << QList<int>{0, 12};
-        QTest::newRow("too narrow") << small().range(3, 5).bytes() << QList<int>{0, 12};
-        QTest::newRow("too wide stays") << small().range(0, 1500).bytes() << QList<int>{0, 1500};
-        QTest::newRow("beyond 2000") << small().range(0, 2500).bytes() << QList<int>{0, 12};
-        QTest::newRow("reversed and empty")
-            << AdventureBuilder().range(9, 2).bytes() << QList<int>{1, 1};
+        addTable<QByteArray, QList<int>>(
+            {"bytes", "range"},
+            {{"reversed", small().range(9, 2).bytes(), {0, 12}},
+             {"too narrow", small().range(3, 5).bytes(), {0, 12}},
+             {"too wide stays", small().range(0, 1500).bytes(), {0, 1500}},
+             {"beyond 2000", small().range(0, 2500).bytes(), {0, 12}},
+             {"reversed and empty", AdventureBuilder().range(9, 2).bytes(), {1, 1}}});
     }
     void oddHeadersAreRepaired()
     {
@@ -158,53 +137,29 @@ private Q_SLOTS:
         QTEST((QList<int>{contents.lowest, contents.highest}), "range");
     }
 
-    void theLastOfTwoSectionsWins()
+    void unknownTagsArePassedOverAndTheLastOfTwoSectionsWins()
     {
         TestAdventure adventure;
-        QByteArray bytes = AdventureBuilder({QStringLiteral("3: ancien")}).bytes();
-        QByteArray second = AdventureBuilder({QStringLiteral("3: nouveau")}).bytes();
+        QByteArray bytes = AdventureBuilder({"3: ancien"}).bytes();
+        const QByteArray second = AdventureBuilder({"3: nouveau"}).bytes();
         bytes.chop(4);
-        takeOver(adventure.variables, read(adventure, bytes + second.mid(second.indexOf("SECT"))));
-        QCOMPARE(GetParagraphRtf(adventure.variables, 3), rtfOf(QStringLiteral("nouveau")));
-    }
-
-    void unknownTagsArePassedOver()
-    {
-        TestAdventure adventure;
-        QByteArray bytes = small().bytes();
-        bytes.insert(bytes.indexOf("SECT"), QByteArray(40 * 1000 * 1000, 'x'));
-        QCOMPARE(writtenIn(read(adventure, bytes).written), (QList<int>{0, 3, 12}));
+        bytes += QByteArray(40 * 1000 * 1000, 'x') + second.mid(second.indexOf("SECT"));
+        takeOver(adventure.variables, read(adventure, bytes));
+        QCOMPARE(GetParagraphRtf(adventure.variables, 3), rtfOf("nouveau"));
     }
 
     void fallingAndFarOffsetsTouchTheirParagraphOnly()
     {
         TestAdventure adventure;
+        Variables &v = adventure.variables;
         QByteArray bytes = small().oldBytes(24);
         const qsizetype offsets = 8 + 96;
         bytes.replace(offsets + 4 * 500, 4, QByteArray("\x00\x00\x00\x01", 4));  // 499 falls
         bytes.replace(offsets + 4 * 1000, 4, QByteArray("\xFF\xFF\xFF\xFF", 4)); // 999 is far
-        takeOver(adventure.variables, read(adventure, bytes));
-        QCOMPARE(adventure.variables.Written.at(499), quint8{0});
-        QCOMPARE(GetParagraphRtf(adventure.variables, 12), rtfOf(QStringLiteral("Été au 3")));
-        QVERIFY_THROWS_EXCEPTION(FileError, GetParagraphRtf(adventure.variables, 999));
-    }
-
-    void longListsAreCutToWholeEntries()
-    {
-        TestAdventure adventure;
-        takeOver(adventure.variables, read(adventure, small().bytes()));
-        adventure.variables.refIndex.at(3) = QStringLiteral("0012/").repeated(7000);
-        const AdventureContents read =
-            writeAdventure(adventure.variables, adventure.path(QStringLiteral("b.usm")));
-        QCOMPARE(read.refIndex.at(3), QStringLiteral("0012/").repeated(6553));
-    }
-
-    void listsOfOddCharactersAreKept()
-    {
-        TestAdventure adventure;
-        takeOver(adventure.variables, read(adventure, small().list(3, "\x80odd").bytes()));
-        writeAdventure(adventure.variables, adventure.path(QStringLiteral("b.usm")));
-        QCOMPARE(adventure.content(QStringLiteral("b.usm")), small().list(3, "\x80odd").bytes());
+        takeOver(v, read(adventure, bytes));
+        QCOMPARE(v.Written.at(499), quint8{0});
+        QCOMPARE(GetParagraphRtf(v, 12), rtfOf("Été au 3"));
+        QCOMPARE(damagedParagraphs(v), (QList<int>{500, 999})); // 500 begins with the header
     }
 };
 

@@ -1,157 +1,173 @@
 #include "platform/Errors.h"
 #include "platform/OpenedFile.h"
 #include "richtext/HiddenBox.h"
+#include "richtext/TextLimit.h"
 #include "store/AdventureFile.h"
+#include "store/DamagedTexts.h"
 #include "store/ParagraphStore.h"
+#include "store/WorkingFiles.h"
 #include "support/AdventureBuilder.h"
+#include "support/TestTable.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTest>
 
-class tst_paragraphStore : public QObject
+namespace
 {
-    Q_OBJECT
+AdventureBuilder three()
+{
+    return AdventureBuilder({"2: deux", "5: cinq", "9: neuf"});
+}
 
-    static void open(TestAdventure &adventure, const QByteArray &bytes)
+// An open adventure and the box that its paragraphs are typed into.
+struct Store : TestAdventure {
+    explicit Store(const QByteArray &bytes = three().bytes())
     {
-        const QString path = adventure.file(QStringLiteral("a.usm"), bytes);
-        takeOver(adventure.variables, readAdventure(std::make_shared<OpenedFile>(path)));
-        adventure.variables.AdventurePath = path;
-        adventure.variables.FilePrefix = QStringLiteral("a-");
+        v.AdventurePath = file("a.usm", bytes);
+        takeOver(v, readAdventure(std::make_shared<OpenedFile>(v.AdventurePath)));
+        v.FilePrefix = "a-";
     }
-    static void type(Variables &v, HiddenBox &box, int n, const QString &text)
+    void type(int n, const QString &text)
     {
         v.CurrentParagraph = static_cast<qint16>(n);
         box.setText(text);
         v.ParagraphDirty = true;
         SaveCurParg(v, box);
     }
-    static QByteArray threeParagraphs()
+    // True when the paragraph is refused, and all is as before.
+    bool refuses(int n, const QString &text)
     {
-        return AdventureBuilder({QStringLiteral("2: deux"), QStringLiteral("5: cinq"),
-                                 QStringLiteral("9: neuf")})
-            .bytes();
+        try {
+            type(n, text);
+            return false;
+        } catch (const UsmiraError &) {
+            return v.ParagraphDirty && !v.AdventureModified && v.Written.at(n) == 0 &&
+                   v.HighestWritten == 9 && box.text() == text;
+        }
     }
 
+    Variables &v = variables;
+    HiddenBox box;
+};
+} // namespace
+
+class tst_paragraphStore : public QObject
+{
+    Q_OBJECT
+
 private Q_SLOTS:
-    void prefixTakesTheInitials_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("prefix");
-        QTest::newRow("words") << QStringLiteral("La Tour d'Ivoire.usm") << QStringLiteral("LTdI-");
-        QTest::newRow("one word") << QStringLiteral("Dragon.usm") << QStringLiteral("D-");
-        QTest::newRow("hyphen first") << QStringLiteral("-x.usm") << QStringLiteral("-x-");
-        QTest::newRow("accent") << QStringLiteral("Été à l'île.usm") << QStringLiteral("Éàlî-");
-    }
     void prefixTakesTheInitials()
     {
-        QFETCH(QString, name);
-        QTEST(filePrefixOf(name), "prefix");
+        QCOMPARE(filePrefixOf("La Tour d'Ivoire.usm"), "LTdI-");
+        QCOMPARE(filePrefixOf("-x.usm"), "-x-");
+        QCOMPARE(filePrefixOf("Été à l'île.usm"), "Éàlî-");
     }
 
     void savingMakesAWorkingFileAndWidensTheRange()
     {
-        TestAdventure adventure;
-        open(adventure, threeParagraphs());
-        Variables &v = adventure.variables;
-        HiddenBox box;
-        type(v, box, 12, QStringLiteral("Rendez-vous au 26"));
-        QCOMPARE(adventure.workingFiles(), QStringList{QStringLiteral("a-0012.rtf")});
-        QCOMPARE(GetParagraphRtf(v, 12), rtfOf(QStringLiteral("Rendez-vous au 26")));
-        QCOMPARE(v.refIndex.at(12), QStringLiteral("0026/"));
-        QCOMPARE(v.LowestWritten, qint16{2});
-        QCOMPARE(v.HighestWritten, qint16{12});
-        QVERIFY(v.Written.at(12) == 1 && v.Extracted.at(12) == 1);
-        QVERIFY(v.AdventureModified && !v.ParagraphDirty);
-        type(v, box, 0, QStringLiteral("note"));
-        type(v, box, 2000, QStringLiteral("fin"));
-        QCOMPARE(v.LowestWritten, qint16{0});
-        QCOMPARE(v.HighestWritten, qint16{2000});
-    }
-
-    void aCleanBoxIsNotSaved()
-    {
-        TestAdventure adventure;
-        open(adventure, threeParagraphs());
-        HiddenBox box;
-        box.setText(QStringLiteral("ignored"));
-        SaveCurParg(adventure.variables, box);
-        QVERIFY(adventure.workingFiles().isEmpty());
-        QVERIFY(!adventure.variables.AdventureModified);
+        Store s;
+        s.box.setText("ignored");
+        SaveCurParg(s.v, s.box);
+        QVERIFY(s.workingFiles().isEmpty() && !s.v.AdventureModified);
+        s.type(12, "Rendez-vous au 26");
+        QCOMPARE(s.workingFiles(), QStringList{"a-0012.rtf"});
+        QCOMPARE(GetParagraphRtf(s.v, 12), rtfOf("Rendez-vous au 26"));
+        QCOMPARE(s.v.refIndex.at(12), "0026/");
+        QVERIFY(s.v.LowestWritten == 2 && s.v.HighestWritten == 12);
+        QVERIFY(s.v.Written.at(12) == 1 && s.v.Extracted.at(12) == 1);
+        QVERIFY(s.v.AdventureModified && !s.v.ParagraphDirty);
+        s.type(0, "note");
+        s.type(2000, "fin");
+        QVERIFY(s.v.LowestWritten == 0 && s.v.HighestWritten == 2000);
     }
 
     void emptyingDropsTheFileAndKeepsTheRange()
     {
-        TestAdventure adventure;
-        open(adventure, threeParagraphs());
-        Variables &v = adventure.variables;
-        HiddenBox box;
-        type(v, box, 9, QStringLiteral("au 5"));
-        type(v, box, 9, QString());
-        type(v, box, 2, QString());
-        QVERIFY(adventure.workingFiles().isEmpty());
-        QVERIFY(v.Written.at(9) == 0 && v.Extracted.at(9) == 0 && v.Written.at(2) == 0);
-        QCOMPARE(v.refIndex.at(9), QString());
-        QCOMPARE(v.LowestWritten, qint16{2});
-        QCOMPARE(v.HighestWritten, qint16{9});
-        QCOMPARE(GetParagraphRtf(v, 2), QByteArray());
+        Store s;
+        s.type(9, "au 5");
+        s.type(9, {});
+        s.type(2, {});
+        QVERIFY(s.workingFiles().isEmpty());
+        QVERIFY(s.v.Written.at(9) == 0 && s.v.Extracted.at(9) == 0 && s.v.Written.at(2) == 0);
+        QCOMPARE(s.v.refIndex.at(9), QString());
+        QVERIFY(s.v.LowestWritten == 2 && s.v.HighestWritten == 9);
+        QCOMPARE(GetParagraphRtf(s.v, 2), QByteArray());
     }
 
     void aSaveThatFailsChangesNothing()
     {
-        TestAdventure adventure;
-        open(adventure, threeParagraphs());
-        Variables &v = adventure.variables;
-        QVERIFY(QDir(v.WorkingFolder).removeRecursively());
-        HiddenBox box;
-        box.setText(QStringLiteral("précieux"));
-        v.CurrentParagraph = 20;
-        v.ParagraphDirty = true;
-        QVERIFY_THROWS_EXCEPTION(FileError, SaveCurParg(v, box));
-        QVERIFY(v.ParagraphDirty && !v.AdventureModified);
-        QVERIFY(v.Written.at(20) == 0 && v.HighestWritten == 9);
-        QCOMPARE(box.text(), QStringLiteral("précieux"));
+        Store s;
+        QVERIFY(QDir(s.v.WorkingFolder).removeRecursively());
+        const QString place = s.file("Dossier Usmira", "in the folder's place");
+        QVERIFY(s.refuses(20, "précieux"));
+        QVERIFY(QFile::remove(place));
+        s.type(20, "la place est libre");
+        QCOMPARE(s.workingFiles(), QStringList{"a-0020.rtf"});
     }
 
     void textsComeFromTheFileThatWasOpened()
     {
-        TestAdventure adventure;
-        open(adventure, threeParagraphs());
-        const Variables &v = adventure.variables;
-        const QByteArray five = GetParagraphRtf(v, 5);
-        QCOMPARE(five, rtfOf(QStringLiteral("cinq")));
-        QVERIFY(QFile::rename(v.AdventurePath, adventure.path(QStringLiteral("b.usm"))));
-        adventure.file(QStringLiteral("a.usm"), QByteArray(5000, 'x'));
-        QCOMPARE(GetParagraphRtf(v, 5), five);
-        QFile intruder(adventure.path(QStringLiteral("b.usm")));
+        Store s;
+        QVERIFY(QFile::rename(s.v.AdventurePath, s.path("b.usm")));
+        s.file("a.usm", QByteArray(5000, 'x'));
+        QCOMPARE(GetParagraphRtf(s.v, 5), rtfOf("cinq"));
+        QFile intruder(s.path("b.usm"));
         QVERIFY(intruder.open(QIODevice::ReadWrite));
         intruder.write(QByteArray(5000, 'y'));
         intruder.close();
-        QVERIFY_THROWS_EXCEPTION(FileError, GetParagraphRtf(v, 5));
+        QVERIFY_THROWS_EXCEPTION(FileError, GetParagraphRtf(s.v, 5));
+    }
+
+    void damagedTextsAreFoundAtOpening_data()
+    {
+        const QByteArray old = three().oldBytes(25);
+        addTable<QByteArray, QList<int>>(
+            {"bytes", "damaged"},
+            {{"no RTF", three().rawText(5, "cinq").bytes(), {5}},
+             {"byte order mark", three().rawText(5, "\xEF\xBB\xBF" + rtfOf("5")).bytes(), {}},
+             {"nothing at all", three().rawText(5, {}).bytes(), {}},
+             {"old file cut short", old.chopped(rtfOf("neuf").size() + 3), {5, 9}}});
+    }
+    void damagedTextsAreFoundAtOpening()
+    {
+        QFETCH(QByteArray, bytes);
+        const Store s(bytes);
+        QTEST(damagedParagraphs(s.v), "damaged");
+    }
+
+    void aTextBeyondTheLimitIsDamaged()
+    {
+        Store s;
+        QByteArray bytes = AdventureBuilder({"5: cinq"}).bytes();
+        const qsizetype text = bytes.indexOf("{");
+        bytes.replace(text - 4, 4, QByteArray("\x02\x00\x00\x01", 4));
+        QFile file(s.file("b.usm", bytes.first(text + 8)));
+        QVERIFY(file.open(QIODevice::ReadWrite) && file.seek(text + LargestText + 1));
+        file.write(QByteArray("\0\0DONE", 6));
+        file.close();
+        takeOver(s.v, readAdventure(std::make_shared<OpenedFile>(file.fileName())));
+        QCOMPARE(damagedParagraphs(s.v), QList<int>{5});
+        QVERIFY_THROWS_EXCEPTION(FormatError, GetParagraphRtf(s.v, 5));
     }
 
     void aMissingWorkingFileIsAnErrorAndNotTheOldText()
     {
-        TestAdventure adventure;
-        open(adventure, threeParagraphs());
-        HiddenBox box;
-        type(adventure.variables, box, 5, QStringLiteral("neuf"));
-        QVERIFY(QFile::remove(workingFilePath(adventure.variables, 5)));
-        QVERIFY_THROWS_EXCEPTION(FileError, GetParagraphRtf(adventure.variables, 5));
+        Store s;
+        s.type(5, "neuf");
+        QVERIFY(QFile::remove(WorkingFiles(s.v).text(5)));
+        QVERIFY_THROWS_EXCEPTION(FileError, GetParagraphRtf(s.v, 5));
+        QVERIFY(textToShow(s.v, 5).isEmpty() && s.v.Damaged.at(5) == 1);
     }
 
     void discardingRemovesTheWorkingFilesOfThisAdventureOnly()
     {
-        TestAdventure adventure;
-        open(adventure, threeParagraphs());
-        HiddenBox box;
-        type(adventure.variables, box, 2, QStringLiteral("x"));
-        type(adventure.variables, box, 9, QStringLiteral("y"));
-        adventure.file(QStringLiteral("Dossier Usmira/b-0002.rtf"), "another's");
-        DiscardWorkingFiles(adventure.variables);
-        QCOMPARE(adventure.workingFiles(), QStringList{QStringLiteral("b-0002.rtf")});
-        QCOMPARE(adventure.variables.Extracted.at(9), quint8{0});
+        Store s;
+        s.type(2, "x");
+        s.type(9, "y");
+        s.file("Dossier Usmira/b-0002.rtf", "another's");
+        DiscardWorkingFiles(s.v);
+        QCOMPARE(s.workingFiles(), QStringList{"b-0002.rtf"});
+        QCOMPARE(s.v.Extracted.at(9), quint8{0});
     }
 };
 

@@ -68,7 +68,8 @@ private Q_SLOTS:
             QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList{name});
             QVERIFY(adventure.content(name).contains("neuf"));
         }
-        QVERIFY2(failed > 3 && done > 2, "the calls were not reached");
+        // One call that fails leaves another folder for the new file.
+        QVERIFY2(failed > (forGood ? 3 : 0) && done > 2, "the calls were not reached");
     }
 };
 

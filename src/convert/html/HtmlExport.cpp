@@ -7,7 +7,7 @@
 #include "platform/FileBatch.h"
 #include "platform/SafeFile.h"
 #include "richtext/HiddenBox.h"
-#include "store/ParagraphStore.h"
+#include "store/ParagraphTexts.h"
 
 namespace
 {

@@ -4,6 +4,7 @@
 #include "convert/html/HtmlCommands.h"
 #include "platform/Guarded.h"
 #include "store/LenientNumbers.h"
+#include "store/WorkingFiles.h"
 #include "ui_manyHTML.h"
 
 #include <QDir>
@@ -40,9 +41,9 @@ void manyHTML::Form_Load()
     setFolder(m_lastFolder.isEmpty() ? QFileInfo(m_variables.AdventurePath).absolutePath()
                                      : m_lastFolder);
     m_ui->txtPrefix->setText(m_variables.FilePrefix);
-    const QString &folder = m_variables.WorkingFolder;
-    m_ui->txtHeader->readFile(folder + QStringLiteral("Début de Chaque Paragraphe.txt"));
-    m_ui->txtFooter->readFile(folder + QStringLiteral("Fin de Chaque Paragraphe.txt"));
+    const WorkingFiles files(m_variables);
+    m_ui->txtHeader->readFile(files.document(WorkingFiles::Document::PageHeader));
+    m_ui->txtFooter->readFile(files.document(WorkingFiles::Document::Footer));
 }
 
 void manyHTML::btnBrowse_Click()

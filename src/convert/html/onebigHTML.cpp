@@ -5,6 +5,7 @@
 #include "convert/html/HtmlCommands.h"
 #include "platform/Guarded.h"
 #include "store/LenientNumbers.h"
+#include "store/WorkingFiles.h"
 #include "ui_onebigHTML.h"
 
 onebigHTML::onebigHTML(const Variables &variables, Prompts &prompts, WorkReport &report,
@@ -37,10 +38,10 @@ void onebigHTML::Form_Load()
     for (NumberBox *box : {m_ui->txtLow, m_ui->txtHigh})
         setCodeFont(*box);
     fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
-    const QString &folder = m_variables.WorkingFolder;
-    m_ui->txtHeader->readFile(folder + QStringLiteral("Début du Fichier Unique.txt"));
-    m_ui->txtFooter->readFile(folder + QStringLiteral("Fin de Chaque Paragraphe.txt"));
-    m_ui->txtNumbers->readFile(folder + QStringLiteral("Numéros de Paragraphes.txt"));
+    const WorkingFiles files(m_variables);
+    m_ui->txtHeader->readFile(files.document(WorkingFiles::Document::OneFileHeader));
+    m_ui->txtFooter->readFile(files.document(WorkingFiles::Document::Footer));
+    m_ui->txtNumbers->readFile(files.document(WorkingFiles::Document::Numbers));
 }
 
 void onebigHTML::HTML_Click()

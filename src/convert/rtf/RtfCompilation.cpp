@@ -5,7 +5,7 @@
 #include "platform/ScratchFile.h"
 #include "richtext/HiddenBox.h"
 #include "richtext/RtfWriter.h"
-#include "store/ParagraphStore.h"
+#include "store/ParagraphTexts.h"
 
 #include <limits>
 

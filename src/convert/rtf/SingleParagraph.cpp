@@ -44,7 +44,7 @@ bool SingleParagraph::Load()
 void SingleParagraph::Save()
 {
     RichTextBox &box = m_view.editingBox();
-    SaveCurParg(m_variables, box);
+    SaveCurParg(m_variables, box, m_prompts);
     if (box.textLength() == 0) {
         m_prompts.message(QStringLiteral("Rien à enregistrer. Tapez quelque chose d'abord."),
                           QStringLiteral("Tséveudire"), Prompts::Buttons::Ok);

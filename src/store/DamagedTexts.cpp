@@ -1,0 +1,174 @@
+#include "store/DamagedTexts.h"
+
+#include "platform/Failures.h"
+#include "platform/OpenedFile.h"
+#include "platform/SafeFile.h"
+#include "platform/SameFile.h"
+#include "richtext/TextLimit.h"
+#include "store/ParagraphTexts.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <filesystem>
+
+namespace
+{
+constexpr qint64 Piece = 1024 * 1024;
+
+// "Le Loup (note).bin", or "Le Loup (note 2).bin" when that is taken.
+QString freePathBeside(const QString &adventurePath, const QString &note, const QString &suffix)
+{
+    const QFileInfo info(adventurePath);
+    const QString stem = info.path() + u'/' + info.completeBaseName();
+    QString path = QStringLiteral("%1 (%2)%3").arg(stem, note, suffix);
+    for (int k = 2; QFileInfo::exists(path); ++k)
+        path = QStringLiteral("%1 (%2 %3)%4").arg(stem, note, QString::number(k), suffix);
+    return path;
+}
+
+QString keptBytesPath(const Variables &variables, int n)
+{
+    return freePathBeside(variables.AdventurePath, QStringLiteral("illisible ") + fourDigits(n),
+                          QStringLiteral(".bin"));
+}
+
+// Both give true when these are all bytes that there can be.
+bool copyWorkingFile(const Variables &variables, int n, SafeFile &to)
+{
+    QFile from(extractedTextPath(variables, n));
+    if (!QFileInfo(from.fileName()).isFile() || !from.open(QIODevice::ReadOnly))
+        return false;
+    while (!from.atEnd() && from.error() == QFileDevice::NoError)
+        to.write(from.read(Piece));
+    return from.error() == QFileDevice::NoError;
+}
+
+// Copies no more than a text may have: a few bytes of damage can claim any length.
+bool copyFromAdventure(const Variables &variables, int n, SafeFile &to)
+{
+    OpenedFile &from = *variables.AdventureFile;
+    try {
+        const TextExtent text = textExtent(variables, n);
+        const qint64 last = std::min(text.offset + text.length, from.size());
+        const qint64 end = std::min(last, text.offset + LargestText);
+        for (qint64 at = text.offset; at < end; at += Piece)
+            to.write(from.read(at, std::min(Piece, end - at)));
+        return end == last;
+    } catch (const FileError &error) {
+        if (error.operation() == FileError::Operation::Write)
+            throw;
+        return false;
+    }
+}
+
+bool copyBytes(const Variables &variables, int n, const QString &path)
+{
+    SafeFile to(path, Durability::Full, Links::Replace);
+    const bool all = variables.Extracted.at(n) == 1 ? copyWorkingFile(variables, n, to)
+                                                    : copyFromAdventure(variables, n, to);
+    to.commit();
+    return all;
+}
+
+// A second name costs nothing and needs no byte to be read, where the disk knows such names.
+void keepWhole(const QString &adventurePath, const QString &keptPath)
+{
+    std::error_code unable;
+    std::filesystem::create_hard_link(QFileInfo(finalPath(adventurePath)).filesystemFilePath(),
+                                      QFileInfo(keptPath).filesystemFilePath(), unable);
+    if (unable)
+        copyFile(adventurePath, keptPath);
+}
+} // namespace
+
+QList<int> damagedParagraphs(const Variables &variables)
+{
+    QList<int> numbers;
+    for (int n = 0; n < variables.Damaged.count(); ++n)
+        if (variables.Damaged.at(n) == 1)
+            numbers.append(n);
+    return numbers;
+}
+
+QByteArray textToShow(Variables &variables, int n, Prompts &prompts)
+{
+    const bool known = variables.Damaged.at(n) == 1;
+    const QByteArray text = textToShow(variables, n);
+    if (variables.Damaged.at(n) == 1 && !known)
+        tellUnreadable({n}, prompts);
+    return text;
+}
+
+std::optional<QByteArray> readableText(const Variables &variables, int n, QList<int> &unreadable)
+{
+    try {
+        return GetParagraphRtf(variables, n);
+    } catch (const UsmiraError &) {
+        unreadable.append(n);
+        return std::nullopt;
+    }
+}
+
+void tellUnreadable(const QList<int> &paragraphs, Prompts &prompts)
+{
+    const QString text = QCoreApplication::translate("DamagedTexts", "Paragraphes illisibles : %1");
+    if (!paragraphs.isEmpty())
+        prompts.notice(text.arg(paragraphNames(paragraphs)), QStringLiteral("BUG"));
+}
+
+KeptBytes::KeptBytes(const Variables &variables, const QList<int> &paragraphs)
+{
+    try {
+        keep(variables, paragraphs);
+    } catch (const FileError &) {
+        undo();
+        throw;
+    }
+}
+
+KeptBytes::~KeptBytes()
+{
+    undo();
+}
+
+void KeptBytes::keep(const Variables &variables, const QList<int> &paragraphs)
+{
+    bool all = true;
+    for (const int n : paragraphs) {
+        m_paths.append(keptBytesPath(variables, n));
+        all = copyBytes(variables, n, m_paths.last()) && all;
+    }
+    const QString &adventure = variables.AdventurePath;
+    if (all || !QFileInfo(adventure).isFile())
+        return;
+    m_paths.append(otherVersionPath(adventure));
+    keepWhole(adventure, m_paths.last());
+}
+
+void KeptBytes::undo()
+{
+    for (const QString &path : std::as_const(m_paths))
+        tryRemoveFile(path);
+}
+
+void askToReplaceDamaged(const Variables &variables, int n, Prompts &prompts)
+{
+    const QString text = QCoreApplication::translate(
+        "DamagedTexts", "Le texte du paragraphe %1 est illisible. Le remplacer par le vôtre ? Les "
+                        "octets illisibles seront gardés dans le fichier %2.");
+    const QString file = QFileInfo(keptBytesPath(variables, n)).fileName();
+    if (prompts.message(text.arg(QString::number(n), file),
+                        QCoreApplication::translate("DamagedTexts", "Attention"),
+                        Prompts::Buttons::YesNo) != Prompts::Answer::Yes)
+        throw NotAllowed();
+    KeptBytes(variables, {n}).textsAreReplaced();
+}
+
+QString otherVersionPath(const QString &adventurePath)
+{
+    const QString suffix = QFileInfo(adventurePath).suffix();
+    return freePathBeside(adventurePath, QStringLiteral("autre version"),
+                          suffix.isEmpty() ? QString() : u'.' + suffix);
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "store/Variables.h"
+
+#include <QList>
+#include <optional>
+
+class Prompts;
+
+// Texts that cannot be read. Before anything takes their place, their bytes are kept beside the
+// adventure as "Le Loup (illisible 0009).bin": what can be read of them, as far as the file goes.
+// Where that is not all, the adventure file as a whole is kept under another name as well, so that
+// no byte is lost that may be read one day.
+
+// The numbers of all texts known to be damaged, ascending.
+QList<int> damagedParagraphs(const Variables &variables);
+
+// As textToShow(), and tells the author of damage that was not known yet.
+QByteArray textToShow(Variables &variables, int n, Prompts &prompts);
+
+// The text of a written paragraph; nothing, and its number noted, when it cannot be read.
+std::optional<QByteArray> readableText(const Variables &variables, int n, QList<int> &unreadable);
+
+// Tells the author that these paragraphs are unreadable, if there are any.
+void tellUnreadable(const QList<int> &paragraphs, Prompts &prompts);
+
+// Keeps the bytes of these texts. Throws FileError when they cannot be written; then none is kept.
+class KeptBytes
+{
+public:
+    KeptBytes(const Variables &variables, const QList<int> &paragraphs);
+    // They go again unless the damaged texts have been replaced.
+    ~KeptBytes();
+    KeptBytes(const KeptBytes &) = delete;
+    KeptBytes &operator=(const KeptBytes &) = delete;
+
+    void textsAreReplaced() { m_paths.clear(); }
+
+private:
+    void keep(const Variables &variables, const QList<int> &paragraphs);
+    void undo();
+
+    QStringList m_paths;
+};
+
+// Asks whether the damaged text of paragraph n may be replaced, and keeps its bytes. Throws
+// NotAllowed when the author says no, FileError when the bytes cannot be kept.
+void askToReplaceDamaged(const Variables &variables, int n, Prompts &prompts);
+
+// "Le Loup (autre version).usm" beside "Le Loup.usm", numbered when that is taken. Looks.
+QString otherVersionPath(const QString &adventurePath);

@@ -1,0 +1,152 @@
+#include "store/WorkingFiles.h"
+
+#include "store/Variables.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace
+{
+QString numberedText(const QString &before, int n)
+{
+    return before + fourDigits(n) + QStringLiteral(".rtf");
+}
+
+QStringList pathsOf(const QString &folder, const QString &names)
+{
+    const QDir dir(folder);
+    QStringList paths;
+    const QStringList found = dir.entryList({names}, QDir::Files | QDir::Hidden | QDir::System);
+    for (const QString &name : found)
+        paths.append(dir.filePath(name));
+    return paths;
+}
+} // namespace
+
+WorkingFiles::WorkingFiles(const QString &folder, const QString &filePrefix)
+    : m_folder(folder), m_filePrefix(filePrefix)
+{
+}
+
+WorkingFiles::WorkingFiles(const Variables &variables)
+    : WorkingFiles(variables.WorkingFolder, variables.FilePrefix)
+{
+}
+
+QString WorkingFiles::text(int n) const
+{
+    return numberedText(m_folder + m_filePrefix, n);
+}
+
+QString WorkingFiles::parked(int n) const
+{
+    return m_folder + fourDigits(n) + QStringLiteral(".xyz");
+}
+
+QString WorkingFiles::temporarySave() const
+{
+    return m_folder + QStringLiteral("Usmira Temporary Save File.xyz");
+}
+
+QString WorkingFiles::settings() const
+{
+    return m_folder + QStringLiteral("Usmira Settings.xyz");
+}
+
+QString WorkingFiles::maximized() const
+{
+    return m_folder + QStringLiteral("Usmira Fenêtre.xyz");
+}
+
+QString WorkingFiles::documentName(Document document)
+{
+    return documentNames().at(static_cast<int>(document));
+}
+
+QStringList WorkingFiles::documentNames()
+{
+    return {QStringLiteral("Copyright.rtf"),
+            QStringLiteral("Aide Française.rtf"),
+            QStringLiteral("English Help.rtf"),
+            QStringLiteral("Début du Fichier Unique.txt"),
+            QStringLiteral("Numéros de Paragraphes.txt"),
+            QStringLiteral("Début de Chaque Paragraphe.txt"),
+            QStringLiteral("Fin de Chaque Paragraphe.txt")};
+}
+
+QString WorkingFiles::session() const
+{
+    return m_folder + QStringLiteral("Session");
+}
+
+QString WorkingFiles::journal() const
+{
+    return session() + QStringLiteral("/Journal.xyz");
+}
+
+QString WorkingFiles::state() const
+{
+    return session() + QStringLiteral("/Etat.xyz");
+}
+
+QString WorkingFiles::typed(int n) const
+{
+    return numberedText(session() + QStringLiteral("/Saisie-"), n);
+}
+
+QString WorkingFiles::before(int n) const
+{
+    return numberedText(session() + QStringLiteral("/Avant-"), n);
+}
+
+QString WorkingFiles::lock() const
+{
+    return session() + QStringLiteral("/Usmira.lock");
+}
+
+QString WorkingFiles::newRecoveryFolder(const QDateTime &now) const
+{
+    const QString name = m_folder + QStringLiteral("Récupération ") +
+                         now.toString(QStringLiteral("yyyy-MM-dd HHmm"));
+    QString folder = name;
+    for (int k = 2; QFileInfo::exists(folder); ++k)
+        folder = name + QStringLiteral(" (%1)").arg(k);
+    return folder;
+}
+
+QStringList WorkingFiles::allParked() const
+{
+    return pathsOf(m_folder, QStringLiteral("[0-9][0-9][0-9][0-9].xyz"));
+}
+
+QStringList WorkingFiles::allBefore() const
+{
+    return pathsOf(session(), QStringLiteral("Avant-[0-9][0-9][0-9][0-9].rtf"));
+}
+
+QStringList WorkingFiles::halfWritten(const QString &path) const
+{
+    const QFileInfo info(path);
+    return pathsOf(info.path(), info.fileName() + QStringLiteral(".*"));
+}
+
+bool WorkingFiles::isOwnName(const QString &path)
+{
+    static const QRegularExpression names(
+        QStringLiteral("-(?:[01][0-9]{3}|2000)\\.rtf$|\\.xyz$|\\.lock$"),
+        QRegularExpression::CaseInsensitiveOption);
+    return names.match(path).hasMatch();
+}
+
+QString filePrefixOf(const QString &adventureFileName)
+{
+    QString prefix = adventureFileName.left(1);
+    for (qsizetype i = 1; i < adventureFileName.size(); ++i) {
+        const QChar before = adventureFileName.at(i - 1);
+        if (before == u'\'' || before == u' ' || before == u'-')
+            prefix += adventureFileName.at(i);
+    }
+    return prefix + u'-';
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QDateTime;
+struct Variables;
+
+// Every name that the program gives to a file in its working folder:
+//
+//   LTdI-0026.rtf                      text of paragraph 26, edited and not yet in the adventure
+//   0026.xyz                           new text of paragraph 26, parked until its change counts
+//   Usmira Temporary Save File.xyz     the adventure as it is being saved
+//   Usmira Settings.xyz                settings
+//   Usmira Fenêtre.xyz                 there while the window is to come back maximised
+//   Copyright.rtf and the like         documents, which the author may replace
+//   Session/Journal.xyz                a change of many paragraphs that counts
+//   Session/Etat.xyz                   what is unsaved
+//   Session/Saisie-0026.rtf            the box as last typed
+//   Session/Avant-0026.rtf             the working file that paragraph 26 had before a change
+//   Session/Usmira.lock                the program that works here
+//   Récupération 2026-11-21 0137/      what was set aside; never removed by the program
+//
+// Unless a function says that it looks, names are made up without touching the disk.
+class WorkingFiles
+{
+public:
+    // folder ends with a separator.
+    explicit WorkingFiles(const QString &folder, const QString &filePrefix = {});
+    // Those of the open adventure.
+    explicit WorkingFiles(const Variables &variables);
+
+    const QString &folder() const { return m_folder; }
+
+    QString text(int n) const;
+    QString parked(int n) const;
+    QString temporarySave() const;
+    QString settings() const;
+    QString maximized() const;
+
+    enum class Document {
+        Welcome,
+        FrenchHelp,
+        EnglishHelp,
+        OneFileHeader,
+        Numbers,
+        PageHeader,
+        Footer,
+    };
+    QString document(Document document) const { return m_folder + documentName(document); }
+    static QString documentName(Document document);
+    static QStringList documentNames();
+
+    QString session() const; // without a separator at its end
+    QString journal() const;
+    QString state() const;
+    QString typed(int n) const;
+    QString before(int n) const;
+    QString lock() const;
+
+    // Looks: a name that is still free.
+    QString newRecoveryFolder(const QDateTime &now) const;
+
+    // Looks: full paths of all parked texts, of all texts kept from before a change, and of what
+    // writing a file was interrupted and left beside it.
+    QStringList allParked() const;
+    QStringList allBefore() const;
+    QStringList halfWritten(const QString &path) const;
+
+    // Whether a file of this name, anywhere in the working folder, is the program's own, of this
+    // adventure or another. All others are the author's to replace.
+    static bool isOwnName(const QString &path);
+
+private:
+    QString m_folder;
+    QString m_filePrefix;
+};
+
+// "LTdI-" for "La Tour d'Ivoire.usm": the first character, each character that follows an
+// apostrophe, a space or a hyphen, and a hyphen. Adventures with the same initials share names.
+QString filePrefixOf(const QString &adventureFileName);
