@@ -31,7 +31,6 @@ template <typename Dialog> void FunctionsMenu::show()
 
 void FunctionsMenu::menuComCount_Click()
 {
-    m_prompts.message(QStringLiteral("Paragraphes rédigés : ") +
-                          QString::number(countWritten(m_variables)),
-                      QStringLiteral("Compte"), Prompts::Buttons::Ok);
+    m_prompts.message(tr("Paragraphes rédigés : %1").arg(countWritten(m_variables)), tr("Compte"),
+                      Prompts::Buttons::Ok);
 }

@@ -2,6 +2,8 @@
 
 #include "renumber/RenumberCommands.h"
 
+#include <QCoreApplication>
+
 class CommandRunner;
 class QAction;
 class QWidget;
@@ -10,6 +12,8 @@ class WorkReport;
 // The commands of the menu "Fonctions".
 class FunctionsMenu
 {
+    Q_DECLARE_TR_FUNCTIONS(FunctionsMenu)
+
 public:
     // window is the one that the dialogs stand on.
     FunctionsMenu(Variables &variables, Prompts &prompts, WorkReport &report, QWidget &window);

@@ -4,7 +4,6 @@
 #include "platform/Guarded.h"
 
 #include <QAction>
-#include <QCoreApplication>
 
 InfoMenu::InfoMenu(const Variables &variables, Prompts &prompts, EditorView &view)
     : m_prompts(prompts), m_view(view), m_help(variables)
@@ -23,8 +22,8 @@ void InfoMenu::connectItems(const Items &items)
 
 void InfoMenu::menuInfoAbout_Click()
 {
-    m_prompts.message(QStringLiteral("Usmira %1\nUn atelier pour écrire des livres-jeux.")
+    m_prompts.message(tr("Usmira %1\nUn atelier pour écrire des livres-jeux.")
                           .arg(QCoreApplication::applicationVersion()),
-                      QStringLiteral("À Propos"), Prompts::Buttons::Ok);
+                      tr("À Propos"), Prompts::Buttons::Ok);
     m_view.focusEditor();
 }

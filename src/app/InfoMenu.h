@@ -2,6 +2,8 @@
 
 #include "editor/helpWindow.h"
 
+#include <QCoreApplication>
+
 class EditorView;
 class Prompts;
 class QAction;
@@ -9,6 +11,8 @@ class QAction;
 // The commands of the menu "Aide", with the window of the help.
 class InfoMenu
 {
+    Q_DECLARE_TR_FUNCTIONS(InfoMenu)
+
 public:
     InfoMenu(const Variables &variables, Prompts &prompts, EditorView &view);
 

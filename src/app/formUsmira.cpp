@@ -228,7 +228,7 @@ void formUsmira::keepMaximized() const
 
 void formUsmira::showTitle()
 {
-    setWindowTitle(QStringLiteral("Usmira - ") + m_variables.AdventureFileName);
+    setWindowTitle(tr("Usmira - %1").arg(m_variables.AdventureFileName));
 }
 
 // A number that is none keeps the author in its box.

@@ -2,6 +2,7 @@
 #include "app/formUsmira.h"
 #include "platform/DialogPrompts.h"
 #include "platform/Failures.h"
+#include "platform/Translations.h"
 #include "store/Journal.h"
 #include "store/WorkingFolder.h"
 
@@ -15,6 +16,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(USMIRA_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("usmira"));
     const Desktop desktop(application);
+    loadTranslations();
 
     const QString programFolder = QCoreApplication::applicationDirPath();
     QGuiApplication::setWindowIcon(

@@ -27,7 +27,8 @@ bool saveCopy(const Variables &variables, Prompts &prompts, WorkReport &report)
 {
     const QString path = prompts.saveName(
         QCoreApplication::translate("AdventureCopy", "Enregistrer une Copie Sous"),
-        QStringLiteral("Fichiers Usmira (*.usm)|*.usm"), QStringLiteral("usm"), QString());
+        QCoreApplication::translate("AdventureCopy", "Fichiers Usmira (*.usm)|*.usm"),
+        QStringLiteral("usm"), QString());
     return !path.isEmpty() && reportingFailures(prompts, [&] {
         refuseOwnFiles(variables, path);
         const QList<int> missing = writeCopy(variables, path, report);

@@ -4,8 +4,6 @@
 #include "platform/Failures.h"
 #include "store/LongWork.h"
 
-#include <QCoreApplication>
-
 ExportCommand::ExportCommand(const Variables &variables, Prompts &prompts, WorkReport &report)
     : m_variables(variables), m_prompts(prompts), m_report(report)
 {
@@ -31,13 +29,11 @@ bool ExportCommand::run(const ExportRequest &request, const Kind &kind) const
             announce(written, request.place);
             return true;
         } catch (const WorkStopped &) {
-            m_report.announce(QCoreApplication::translate(
-                "ExportCommand", "Conversion arrêtée : aucun fichier n'a été écrit."));
+            m_report.announce(tr("Conversion arrêtée : aucun fichier n'a été écrit."));
         } catch (const FileError &error) {
             if (kind.failure.isEmpty())
                 throw;
-            m_prompts.message(failureText(kind.failure, error), QStringLiteral("BUG"),
-                              Prompts::Buttons::Ok);
+            m_prompts.message(failureText(kind.failure, error), tr("BUG"), Prompts::Buttons::Ok);
         }
         return false;
     });
@@ -45,7 +41,5 @@ bool ExportCommand::run(const ExportRequest &request, const Kind &kind) const
 
 void ExportCommand::announce(int written, const QString &place) const
 {
-    m_report.announce(written == 1
-                          ? QStringLiteral("1 paragraphe écrit : %1").arg(place)
-                          : QStringLiteral("%1 paragraphes écrits : %2").arg(written).arg(place));
+    m_report.announce(tr("%n paragraphe(s) écrit(s) : %1", nullptr, written).arg(place));
 }

@@ -3,6 +3,7 @@
 #include "convert/ExportRange.h"
 #include "platform/Progress.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <functional>
 
@@ -22,6 +23,8 @@ struct ExportRequest {
 // saved.
 class ExportCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(ExportCommand)
+
 public:
     ExportCommand(const Variables &variables, Prompts &prompts, WorkReport &report);
 

@@ -98,9 +98,9 @@ void Navigation::tellFirstFree()
 {
     const std::optional<int> free = firstFree(m_variables, m_variables.CurrentParagraph);
     if (free)
-        m_prompts.message(QStringLiteral("Paragraphe libre : ") + QString::number(*free),
-                          QStringLiteral("Voilà"), Prompts::Buttons::Ok);
+        m_prompts.message(tr("Paragraphe libre : %1").arg(*free), tr("Voilà"),
+                          Prompts::Buttons::Ok);
     else
-        m_prompts.message(QStringLiteral("Tous les paragraphes sont écrits ou réservés !"),
-                          QStringLiteral("Aïe !"), Prompts::Buttons::Ok);
+        m_prompts.message(tr("Tous les paragraphes sont écrits ou réservés !"), tr("Aïe !"),
+                          Prompts::Buttons::Ok);
 }

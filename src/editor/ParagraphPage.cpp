@@ -194,9 +194,8 @@ void ParagraphPage::showTabPanel()
 
 void ParagraphPage::showNumber()
 {
-    m_controls.number.setText(m_variables.AdventureOpen
-                                  ? QString::number(m_variables.CurrentParagraph)
-                                  : QStringLiteral("Vide"));
+    m_controls.number.setText(
+        m_variables.AdventureOpen ? QString::number(m_variables.CurrentParagraph) : tr("Vide"));
 }
 
 void ParagraphPage::refreshFormatting()

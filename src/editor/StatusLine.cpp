@@ -24,19 +24,16 @@ int countWords(QStringView text)
     return words;
 }
 
-QString counted(qsizetype count, const QString &one, const QString &several)
-{
-    return QString::number(count) + u' ' + (count < 2 ? one : several);
-}
 } // namespace
 
 QString describeParagraph(int n, QStringView text, const QString &targetPhrase)
 {
-    const QString separator = QStringLiteral(" · ");
-    return QStringLiteral("paragraphe ") + QString::number(n) + separator +
-           counted(countWords(text), QStringLiteral("mot"), QStringLiteral("mots")) + separator +
-           counted(referenceEntry(text, targetPhrase).size() / IndexEntryLength,
-                   QStringLiteral("renvoi"), QStringLiteral("renvois"));
+    const int words = countWords(text);
+    const auto references =
+        static_cast<int>(referenceEntry(text, targetPhrase).size() / IndexEntryLength);
+    return StatusLine::tr("paragraphe %1 · %2 · %3")
+        .arg(QString::number(n), StatusLine::tr("%n mot(s)", nullptr, words),
+             StatusLine::tr("%n renvoi(s)", nullptr, references));
 }
 
 StatusLine::StatusLine(const Variables &variables, const RichTextBox &box, QStatusBar &bar)
@@ -57,12 +54,12 @@ StatusLine::StatusLine(const Variables &variables, const RichTextBox &box, QStat
 void StatusLine::refresh()
 {
     if (!m_variables.AdventureOpen) {
-        m_counts->setText(QStringLiteral("aucune aventure ouverte"));
+        m_counts->setText(tr("aucune aventure ouverte"));
         m_saved->clear();
         return;
     }
     m_counts->setText(
         describeParagraph(m_variables.CurrentParagraph, m_box.text(), m_variables.TargetPhrase));
     const bool modified = m_variables.ParagraphDirty || hasUnsavedChanges(m_variables);
-    m_saved->setText(modified ? QStringLiteral("modifié") : QStringLiteral("enregistré"));
+    m_saved->setText(modified ? tr("modifié") : tr("enregistré"));
 }

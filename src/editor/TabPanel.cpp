@@ -5,6 +5,7 @@
 #include "store/LenientNumbers.h"
 #include "ui_TabPanel.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QScopedValueRollback>
 #include <cmath>
@@ -13,12 +14,12 @@ namespace
 {
 QString severalIndents()
 {
-    return QStringLiteral("(mix)");
+    return QCoreApplication::translate("TabPanel", "(mix)");
 }
 
 QString severalTabs()
 {
-    return QStringLiteral("(mixed)");
+    return QCoreApplication::translate("TabPanel", "(mixed)");
 }
 
 // At least one decimal and at most three, with a point in every language.

@@ -38,8 +38,8 @@ void helpWindow::load(Tag tag)
     try {
         m_ui->rtfHelp->loadFile(WorkingFiles(m_variables).document(help));
     } catch (const std::exception &) {
-        m_ui->rtfHelp->setText(french ? QStringLiteral("Aide Française Non Trouvée")
-                                      : QStringLiteral("English Help File Not Found"));
+        m_ui->rtfHelp->setText(french ? tr("Aide Française Non Trouvée")
+                                      : tr("English Help File Not Found"));
     }
 }
 

@@ -21,7 +21,7 @@
 struct Commands::Entry {
     QString name;
     QString form;
-    QString purpose;
+    const char *purpose;
     bool needsAdventure;
     QByteArray (Commands::*run)(const QStringList &);
 };
@@ -33,7 +33,7 @@ int paragraphNumber(const QString &word)
     bool ok = false;
     const int n = word.toInt(&ok);
     if (!ok || n < 0 || n > Variables::LastParagraph)
-        throw UsageError(QStringLiteral("numéro de paragraphe de 0 à 2000 attendu : ") + word);
+        throw UsageError(Commands::tr("numéro de paragraphe de 0 à 2000 attendu : %1").arg(word));
     return n;
 }
 
@@ -53,44 +53,45 @@ const std::vector<Commands::Entry> &Commands::entries()
 {
     const auto text = [](const char *utf8) { return QString::fromUtf8(utf8); };
     static const std::vector<Entry> table{
-        {text("nouvelle"), text("FICHIER"), text("crée une aventure vide"), false,
+        {text("nouvelle"), text("FICHIER"), QT_TR_NOOP("crée une aventure vide"), false,
          &Commands::nouvelle},
-        {text("ouvrir"), text("FICHIER"), text("ouvre une aventure"), false, &Commands::ouvrir},
+        {text("ouvrir"), text("FICHIER"), QT_TR_NOOP("ouvre une aventure"), false,
+         &Commands::ouvrir},
         {text("enregistrer"),
          {},
-         text("enregistre l'aventure ouverte"),
+         QT_TR_NOOP("enregistre l'aventure ouverte"),
          true,
          &Commands::enregistrer},
-        {text("texte"), text("N FICHIER.rtf"), text("met un fichier RTF dans le paragraphe N"),
-         true, &Commands::texte},
-        {text("effacer"), text("N"), text("vide le paragraphe N"), true, &Commands::effacer},
-        {text("fixe"), text("N 0|1"), text("rend le paragraphe N libre (0) ou fixe (1)"), true,
-         &Commands::fixe},
-        {text("rtf"), text("N"), text("écrit le RTF du paragraphe N"), true, &Commands::rtf},
-        {text("texte-brut"), text("N"), text("écrit le texte du paragraphe N"), true,
+        {text("texte"), text("N FICHIER.rtf"),
+         QT_TR_NOOP("met un fichier RTF dans le paragraphe N"), true, &Commands::texte},
+        {text("effacer"), text("N"), QT_TR_NOOP("vide le paragraphe N"), true, &Commands::effacer},
+        {text("fixe"), text("N 0|1"), QT_TR_NOOP("rend le paragraphe N libre (0) ou fixe (1)"),
+         true, &Commands::fixe},
+        {text("rtf"), text("N"), QT_TR_NOOP("écrit le RTF du paragraphe N"), true, &Commands::rtf},
+        {text("texte-brut"), text("N"), QT_TR_NOOP("écrit le texte du paragraphe N"), true,
          &Commands::texteBrut},
-        {text("mene"), text("N"), text("écrit les numéros des paragraphes qui mènent au N"), true,
-         &Commands::mene},
-        {text("libre"), text("N"), text("écrit le premier numéro libre après N"), true,
+        {text("mene"), text("N"), QT_TR_NOOP("écrit les numéros des paragraphes qui mènent au N"),
+         true, &Commands::mene},
+        {text("libre"), text("N"), QT_TR_NOOP("écrit le premier numéro libre après N"), true,
          &Commands::libre},
-        {text("echanger"), text("A B"), text("échange les numéros A et B"), true,
+        {text("echanger"), text("A B"), QT_TR_NOOP("échange les numéros A et B"), true,
          &Commands::echanger},
         {text("melanger"), text("BAS HAUT [GRAINE]"),
-         text("mélange les paragraphes entre BAS et HAUT"), true, &Commands::melanger},
+         QT_TR_NOOP("mélange les paragraphes entre BAS et HAUT"), true, &Commands::melanger},
         {text("deplacer"), text("BAS HAUT DELTA bas|haut"),
-         text("déplace le bloc BAS à HAUT de DELTA numéros"), true, &Commands::deplacer},
-        {text("combler"), text("BAS HAUT"), text("comble les trous entre BAS et HAUT"), true,
+         QT_TR_NOOP("déplace le bloc BAS à HAUT de DELTA numéros"), true, &Commands::deplacer},
+        {text("combler"), text("BAS HAUT"), QT_TR_NOOP("comble les trous entre BAS et HAUT"), true,
          &Commands::combler},
-        {text("html"), text("BAS HAUT FICHIER.htm"), text("publie en un seul fichier HTML"), true,
-         &Commands::html},
+        {text("html"), text("BAS HAUT FICHIER.htm"), QT_TR_NOOP("publie en un seul fichier HTML"),
+         true, &Commands::html},
         {text("pages"), text("BAS HAUT DOSSIER [PREFIXE]"),
-         text("publie une page HTML par paragraphe"), true, &Commands::pages},
+         QT_TR_NOOP("publie une page HTML par paragraphe"), true, &Commands::pages},
         {text("compiler-rtf"), text("BAS HAUT FICHIER"),
-         text("réunit les paragraphes de BAS à HAUT en un document RTF"), true,
+         QT_TR_NOOP("réunit les paragraphes de BAS à HAUT en un document RTF"), true,
          &Commands::compilerRtf},
         {text("etat"),
          {},
-         text("écrit l'état de l'aventure en JSON, sur une ligne"),
+         QT_TR_NOOP("écrit l'état de l'aventure en JSON, sur une ligne"),
          true,
          &Commands::etat},
     };
@@ -111,13 +112,13 @@ QByteArray Commands::run(const QStringList &words)
     const auto entry = std::find_if(entries().begin(), entries().end(),
                                     [&](const Entry &e) { return e.name == words.first(); });
     if (entry == entries().end())
-        throw UsageError(QStringLiteral("commande inconnue : ") + words.first());
+        throw UsageError(tr("commande inconnue : %1").arg(words.first()));
     const QStringList form = entry->form.split(u' ', Qt::SkipEmptyParts);
     const qsizetype optional = entry->form.count(u'[');
     if (words.size() - 1 > form.size() || words.size() - 1 < form.size() - optional)
-        throw UsageError(QStringLiteral("attendu : %1 %2").arg(entry->name, entry->form).trimmed());
+        throw UsageError(tr("attendu : %1 %2").arg(entry->name, entry->form).trimmed());
     if (entry->needsAdventure && !m_variables.AdventureOpen) {
-        m_prompts.message(QStringLiteral("Aucun Fichier Ouvert"), QStringLiteral("Usmira"),
+        m_prompts.message(tr("Aucun Fichier Ouvert"), QStringLiteral("Usmira"),
                           Prompts::Buttons::Ok);
         return {};
     }
@@ -129,7 +130,7 @@ QString Commands::help()
     QString help;
     for (const Entry &entry : entries())
         help += QStringLiteral("  %1 %2\n")
-                    .arg((entry.name + u' ' + entry.form).leftJustified(26), entry.purpose);
+                    .arg((entry.name + u' ' + entry.form).leftJustified(26), tr(entry.purpose));
     return help;
 }
 
@@ -149,9 +150,9 @@ QByteArray Commands::nouvelle(const QStringList &arguments)
     if (!m_adventure.LeaveAdventure())
         return {};
     const QString question =
-        QFileInfo(path).fileName() + QStringLiteral(" existe déjà. Voulez-vous le remplacer ?");
+        tr("%1 existe déjà. Voulez-vous le remplacer ?").arg(QFileInfo(path).fileName());
     if (!QFileInfo::exists(path) ||
-        m_prompts.message(question, QStringLiteral("Nouvelle Aventure"), Prompts::Buttons::YesNo) ==
+        m_prompts.message(question, tr("Nouvelle Aventure"), Prompts::Buttons::YesNo) ==
             Prompts::Answer::Yes)
         m_adventure.NewAdventure(path);
     return {};
@@ -196,7 +197,7 @@ QByteArray Commands::fixe(const QStringList &arguments)
 {
     const QString &value = arguments.last();
     if (value != QStringLiteral("0") && value != QStringLiteral("1"))
-        throw UsageError(QStringLiteral("0 ou 1 attendu : ") + value);
+        throw UsageError(tr("0 ou 1 attendu : %1").arg(value));
     const int n = paragraphNumber(arguments.first());
     setFixed(m_variables, n, value == QStringLiteral("1"));
     return {};
@@ -226,8 +227,8 @@ QByteArray Commands::libre(const QStringList &arguments)
 {
     if (const auto free = firstFree(m_variables, paragraphNumber(arguments.first())))
         return line(*free);
-    m_prompts.message(QStringLiteral("Tous les paragraphes sont écrits ou réservés !"),
-                      QStringLiteral("Aïe !"), Prompts::Buttons::Ok);
+    m_prompts.message(tr("Tous les paragraphes sont écrits ou réservés !"), tr("Aïe !"),
+                      Prompts::Buttons::Ok);
     return {};
 }
 
@@ -252,7 +253,7 @@ QByteArray Commands::melanger(const QStringList &arguments)
     bool ok = false;
     QRandomGenerator generator(seed.toUInt(&ok));
     if (!ok)
-        throw UsageError(QStringLiteral("graine de 0 à 4294967295 attendue : ") + seed);
+        throw UsageError(tr("graine de 0 à 4294967295 attendue : %1").arg(seed));
     return renumbered(m_renumber.MasterMix(lenientNumber(arguments.at(0)),
                                            lenientNumber(arguments.at(1)),
                                            [&generator] { return generator.generateDouble(); }));
@@ -268,7 +269,7 @@ QByteArray Commands::deplacer(const QStringList &arguments)
         return renumbered(m_renumber.MoveDown(low, high, delta));
     if (towards == QStringLiteral("haut"))
         return renumbered(m_renumber.MoveUp(low, high, delta));
-    throw UsageError(QStringLiteral("bas ou haut attendu : ") + towards);
+    throw UsageError(tr("bas ou haut attendu : %1").arg(towards));
 }
 
 QByteArray Commands::combler(const QStringList &arguments)

@@ -8,6 +8,7 @@
 #include "store/WorkingFiles.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QStringList>
 #include <functional>
 
@@ -15,6 +16,8 @@
 // standard output.
 class Commands
 {
+    Q_DECLARE_TR_FUNCTIONS(Commands)
+
 public:
     Commands(Variables &variables, Prompts &prompts);
 

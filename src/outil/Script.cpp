@@ -1,5 +1,7 @@
 #include "outil/Script.h"
 
+#include <QCoreApplication>
+
 namespace
 {
 class Splitter
@@ -43,7 +45,8 @@ private:
             m_word += m_line.at(m_at++);
         }
         if (m_at == m_line.size())
-            throw UsageError(QStringLiteral("guillemet non fermé : ") + m_line);
+            throw UsageError(QCoreApplication::translate("usmira-outil", "guillemet non fermé : %1")
+                                 .arg(m_line));
         ++m_at;
     }
 

@@ -1,6 +1,7 @@
 #include "outil/Commands.h"
 #include "outil/ScriptPrompts.h"
 #include "platform/Failures.h"
+#include "platform/Translations.h"
 #include "store/Journal.h"
 #include "store/WorkingFolder.h"
 
@@ -22,7 +23,8 @@ QCommandLineOption option(const QString &name, const QString &purpose, const QSt
 
 QString usage()
 {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+               "usmira-outil",
                "usmira-outil [OPTIONS] [FICHIER]\n"
                "\n"
                "Exécute des commandes sur une aventure, une par ligne, lues dans FICHIER ou sur "
@@ -50,7 +52,8 @@ QStringList scriptLines(const QCommandLineParser &parser)
     QStringList lines = parser.values(QStringLiteral("e"));
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1)
-        throw UsageError(QStringLiteral("un seul fichier de commandes attendu"));
+        throw UsageError(
+            QCoreApplication::translate("usmira-outil", "un seul fichier de commandes attendu"));
     if (files.isEmpty() && !lines.isEmpty())
         return lines;
     QFile file;
@@ -122,6 +125,7 @@ int main(int argc, char *argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QGuiApplication application(argc, argv);
+    loadTranslations();
     QCoreApplication::setApplicationName(QStringLiteral("Usmira"));
     QTextStream errors(stderr);
     QCommandLineParser parser;
@@ -139,7 +143,8 @@ int main(int argc, char *argv[])
         return runScript(parser, errors);
     } catch (const UsageError &error) {
         errors << error.what() << Qt::endl
-               << QStringLiteral("Voir : usmira-outil --aide") << Qt::endl;
+               << QCoreApplication::translate("usmira-outil", "Voir : usmira-outil --aide")
+               << Qt::endl;
         return BadUsage;
     } catch (const UsmiraError &error) {
         ScriptPrompts prompts(errors, std::nullopt);

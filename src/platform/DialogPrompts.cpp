@@ -28,13 +28,17 @@ QPushButton *addButton(QMessageBox &box, Prompts::Answer answer)
 {
     switch (answer) {
     case Prompts::Answer::Yes:
-        return box.addButton(QStringLiteral("&Oui"), QMessageBox::YesRole);
+        return box.addButton(QCoreApplication::translate("DialogPrompts", "&Oui"),
+                             QMessageBox::YesRole);
     case Prompts::Answer::No:
-        return box.addButton(QStringLiteral("&Non"), QMessageBox::NoRole);
+        return box.addButton(QCoreApplication::translate("DialogPrompts", "&Non"),
+                             QMessageBox::NoRole);
     case Prompts::Answer::Cancel:
-        return box.addButton(QStringLiteral("&Annuler"), QMessageBox::RejectRole);
+        return box.addButton(QCoreApplication::translate("DialogPrompts", "&Annuler"),
+                             QMessageBox::RejectRole);
     default:
-        return box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+        return box.addButton(QCoreApplication::translate("DialogPrompts", "OK"),
+                             QMessageBox::AcceptRole);
     }
 }
 

@@ -72,10 +72,12 @@ bool isWriting(const UsmiraError &error)
 QString words(const UsmiraError &error)
 {
     if (const auto *texts = dynamic_cast<const UnreadableTexts *>(&error))
-        return QStringLiteral("Erreur de lecture de fichier. Paragraphes illisibles : ") +
-               paragraphNames(texts->paragraphs());
-    return isWriting(error) ? QStringLiteral("Erreur pendant l'écriture du fichier.")
-                            : QStringLiteral("Erreur de lecture de fichier.");
+        return QCoreApplication::translate(
+                   "Failures", "Erreur de lecture de fichier. Paragraphes illisibles : %1")
+            .arg(paragraphNames(texts->paragraphs()));
+    return isWriting(error)
+               ? QCoreApplication::translate("Failures", "Erreur pendant l'écriture du fichier.")
+               : QCoreApplication::translate("Failures", "Erreur de lecture de fichier.");
 }
 } // namespace
 
@@ -99,11 +101,12 @@ void reportFailure(Prompts &prompts, const UsmiraError &error)
 {
     if (dynamic_cast<const NotAllowed *>(&error) != nullptr)
         return;
-    prompts.message(failureText(words(error), error), QStringLiteral("BUG"), Prompts::Buttons::Ok);
+    prompts.message(failureText(words(error), error),
+                    QCoreApplication::translate("Failures", "BUG"), Prompts::Buttons::Ok);
 }
 
 void reportUnforeseen(Prompts &prompts)
 {
     prompts.message(QCoreApplication::translate("Failures", "Une action a échoué."),
-                    QStringLiteral("BUG"), Prompts::Buttons::Ok);
+                    QCoreApplication::translate("Failures", "BUG"), Prompts::Buttons::Ok);
 }

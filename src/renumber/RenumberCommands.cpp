@@ -24,10 +24,6 @@ bool isWithin(const Range &range)
     return range.low >= 1 && range.high <= Variables::LastParagraph;
 }
 
-QString withLastNumber(const QString &text)
-{
-    return text + QStringLiteral(" %1.").arg(Variables::LastParagraph);
-}
 } // namespace
 
 RenumberCommands::RenumberCommands(Variables &variables, Prompts &prompts, WorkReport &report)
@@ -39,9 +35,10 @@ bool RenumberCommands::Swap(double a, double b)
 {
     const auto isNumber = [](double n) { return n >= 1 && n <= Variables::LastParagraph; };
     if (!isNumber(a) || !isNumber(b))
-        return refuse(withLastNumber(QStringLiteral("Vous devez spécifier deux chiffres différents "
-                                                    "entre 1 et")),
-                      QStringLiteral("C'est la loi"));
+        return refuse(tr("Vous devez spécifier deux chiffres différents "
+                         "entre 1 et %1.")
+                          .arg(Variables::LastParagraph),
+                      tr("C'est la loi"));
     const int first = roundHalfEven(a);
     const int second = roundHalfEven(b);
     return mayMoveFixed(first, second) && renumber(SwapMap(first, second));
@@ -51,10 +48,9 @@ bool RenumberCommands::mayMoveFixed(int a, int b)
 {
     const bool fixed = m_variables.Unmixable.at(a) == 1 || m_variables.Unmixable.at(b) == 1;
     return !fixed ||
-           m_prompts.message(
-               QStringLiteral("Vous allez échanger un ou deux paragraphes que vous avez déclarés "
-                              "Fixes. Échanger quand même ?"),
-               QStringLiteral("Attention"), Prompts::Buttons::YesNo) == Prompts::Answer::Yes;
+           m_prompts.message(tr("Vous allez échanger un ou deux paragraphes que vous avez déclarés "
+                                "Fixes. Échanger quand même ?"),
+                             tr("Attention"), Prompts::Buttons::YesNo) == Prompts::Answer::Yes;
 }
 
 bool RenumberCommands::MasterMix(double low, double high, const std::function<double()> &random)
@@ -63,9 +59,9 @@ bool RenumberCommands::MasterMix(double low, double high, const std::function<do
     if (!isWithin(range))
         return refuseRange();
     if (range.high - range.low + 1 <= 3)
-        return refuse(QStringLiteral("MasterMix n'aura aucun effet si vous Mélangez 3 paragraphes "
-                                     "ou moins."),
-                      QStringLiteral("Songez-y"));
+        return refuse(tr("MasterMix n'aura aucun effet si vous Mélangez 3 paragraphes "
+                         "ou moins."),
+                      tr("Songez-y"));
     const int first = static_cast<int>(range.low);
     const int last = static_cast<int>(range.high);
     return renumber(MixMap(first, last, m_variables.Unmixable, random));
@@ -79,12 +75,12 @@ bool RenumberCommands::MoveBlock(double low, double high, double delta, Towards 
     const Range span{lower ? block.low - distance : block.low,
                      lower ? block.high : block.high + distance};
     if (!isWithin(span))
-        return refuse(withLastNumber(QStringLiteral("Tous les paragraphes doivent être (et rester) "
-                                                    "entre 1 et")),
-                      QStringLiteral("Zut"));
+        return refuse(tr("Tous les paragraphes doivent être (et rester) "
+                         "entre 1 et %1.")
+                          .arg(Variables::LastParagraph),
+                      tr("Zut"));
     if (distance == 0)
-        return refuse(QStringLiteral("Il ne sert à rien de déplacer de 0 unités."),
-                      QStringLiteral("Zut"));
+        return refuse(tr("Il ne sert à rien de déplacer de 0 unités."), tr("Zut"));
     return renumber(BlockMoveMap(static_cast<int>(block.low), static_cast<int>(block.high),
                                  static_cast<int>(distance), towards, m_variables.Unmixable));
 }
@@ -96,8 +92,7 @@ bool RenumberCommands::PackHoles(double low, double high)
         return refuseRange();
     // Two numbers are refused too, although the text lets one expect otherwise: required.
     if (range.high - range.low <= 1)
-        return refuse(QStringLiteral("L'intervalle doit couvrir au moins 2 paragraphes."),
-                      QStringLiteral("Zut"));
+        return refuse(tr("L'intervalle doit couvrir au moins 2 paragraphes."), tr("Zut"));
     const int first = static_cast<int>(range.low);
     const int last = static_cast<int>(range.high);
     const std::optional<RenumberMap> map =
@@ -108,7 +103,7 @@ bool RenumberCommands::PackHoles(double low, double high)
 bool RenumberCommands::renumber(const RenumberMap &map)
 {
     return reportingFailures(m_prompts, [&] {
-        LongWork work(m_report, QStringLiteral("Renumérotation..."));
+        LongWork work(m_report, tr("Renumérotation..."));
         RenumberParagraphs(m_variables, map, work.progress());
         setModified(m_variables);
         return true;
@@ -123,6 +118,7 @@ bool RenumberCommands::refuse(const QString &text, const QString &title)
 
 bool RenumberCommands::refuseRange()
 {
-    return refuse(withLastNumber(QStringLiteral("Vous devez spécifier des paragraphes entre 1 et")),
-                  QStringLiteral("Zut"));
+    return refuse(
+        tr("Vous devez spécifier des paragraphes entre 1 et %1.").arg(Variables::LastParagraph),
+        tr("Zut"));
 }

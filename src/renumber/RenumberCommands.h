@@ -4,6 +4,7 @@
 #include "renumber/MapBuilders.h"
 #include "store/Variables.h"
 
+#include <QCoreApplication>
 #include <functional>
 
 class WorkReport;
@@ -17,6 +18,8 @@ class WorkReport;
 // A fraction goes to the nearest whole number, a half to the even one.
 class RenumberCommands
 {
+    Q_DECLARE_TR_FUNCTIONS(RenumberCommands)
+
 public:
     RenumberCommands(Variables &variables, Prompts &prompts, WorkReport &report);
 

@@ -13,14 +13,13 @@
 #include "store/ReferenceIndex.h"
 #include "store/WorkingFiles.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace
 {
 QString adventureFilter()
 {
-    return QStringLiteral("Fichiers Usmira (*.usm)|*.usm");
+    return AdventureCommands::tr("Fichiers Usmira (*.usm)|*.usm");
 }
 
 // The paragraphs that are not as the adventure file has them.
@@ -57,11 +56,10 @@ AdventureCommands::AdventureCommands(Variables &variables, Prompts &prompts, Adv
 
 Prompts::Answer AdventureCommands::AskToSave()
 {
-    return m_prompts.message(
-        QStringLiteral("ATTENTION : Vous n'avez pas enregistré l'aventure ") +
-            m_variables.AdventureFileName +
-            QStringLiteral(". Voulez-vous le faire? Sinon, vous perdrez tous les changements!"),
-        QStringLiteral("Rappel amical"), Prompts::Buttons::YesNoCancel);
+    return m_prompts.message(tr("ATTENTION : Vous n'avez pas enregistré l'aventure %1. Voulez-vous "
+                                "le faire? Sinon, vous perdrez tous les changements!")
+                                 .arg(m_variables.AdventureFileName),
+                             tr("Rappel amical"), Prompts::Buttons::YesNoCancel);
 }
 
 // Whatever cannot be saved, the question comes, and "Non" is a way out.
@@ -142,7 +140,7 @@ void AdventureCommands::New()
 {
     if (!LeaveAdventure())
         return;
-    const QString path = m_prompts.saveName(QStringLiteral("Nouvelle Aventure"), adventureFilter(),
+    const QString path = m_prompts.saveName(tr("Nouvelle Aventure"), adventureFilter(),
                                             QStringLiteral("usm"), QString());
     if (path.isEmpty() || !NewAdventure(path))
         showAgain();
@@ -150,9 +148,7 @@ void AdventureCommands::New()
 
 void AdventureCommands::Open()
 {
-    openFrom([this] {
-        return m_prompts.openName(QStringLiteral("Ouvrir une Aventure"), adventureFilter());
-    });
+    openFrom([this] { return m_prompts.openName(tr("Ouvrir une Aventure"), adventureFilter()); });
 }
 
 void AdventureCommands::OpenInstead(const QString &path)
@@ -194,8 +190,7 @@ bool AdventureCommands::OpenAdventure(const QString &path)
             if (!opened.CurrentFormat)
                 rebuildIndex(opened);
         } catch (const WorkStopped &) {
-            m_report.announce(
-                QCoreApplication::translate("AdventureCommands", "Ouverture arrêtée."));
+            m_report.announce(tr("Ouverture arrêtée."));
             return false;
         }
         m_variables = std::move(opened);
@@ -217,7 +212,7 @@ void AdventureCommands::nameAdventure(const QString &path)
 
 void AdventureCommands::rebuildIndex(Variables &opened)
 {
-    LongWork work(m_report, QStringLiteral("Graphing..."), WorkReport::Stopping::OnEscape);
+    LongWork work(m_report, tr("Graphing..."), WorkReport::Stopping::OnEscape);
     RebuildReferenceIndex(opened, work.progress());
 }
 
@@ -261,6 +256,6 @@ bool AdventureCommands::saveParagraph()
 
 bool AdventureCommands::writeAndSwap(AdventureSave &save, bool paragraphSaved)
 {
-    LongWork work(m_report, QStringLiteral("Saving..."));
+    LongWork work(m_report, tr("Saving..."));
     return save.run(paragraphSaved ? nullptr : &m_view.editingBox(), work.progress());
 }

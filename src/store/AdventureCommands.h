@@ -3,6 +3,7 @@
 #include "platform/Prompts.h"
 #include "store/Variables.h"
 
+#include <QCoreApplication>
 #include <functional>
 
 class AdventureSave;
@@ -29,6 +30,8 @@ public:
 // the prescribed words; the return values say whether to go on.
 class AdventureCommands
 {
+    Q_DECLARE_TR_FUNCTIONS(AdventureCommands)
+
 public:
     AdventureCommands(Variables &variables, Prompts &prompts, AdventureView &view,
                       WorkReport &report);

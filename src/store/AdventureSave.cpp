@@ -73,8 +73,8 @@ void AdventureSave::writeTo(const QString &folder, const Progress &progress)
 
 bool AdventureSave::swap()
 {
-    const QString words =
-        QStringLiteral("Fichier enregistré, incapable d'échanger avec l'original.");
+    const QString words = QCoreApplication::translate(
+        "AdventureSave", "Fichier enregistré, incapable d'échanger avec l'original.");
     try {
         if (!mayReplace()) {
             swapFailed(words);
@@ -102,11 +102,12 @@ bool AdventureSave::mayReplace()
         return true;
     const QString backup = otherVersionPath(path);
     const Prompts::Answer answer = m_prompts.message(
-        QStringLiteral("Un autre programme a modifié l'aventure ") + m_variables.AdventureFileName +
-            QStringLiteral(" depuis son ouverture. Voulez-vous la remplacer par la vôtre ? L'autre "
-                           "version sera gardée sous le nom ") +
-            QFileInfo(backup).fileName() + QStringLiteral("."),
-        QStringLiteral("Attention !"), Prompts::Buttons::YesNo);
+        QCoreApplication::translate(
+            "AdventureSave", "Un autre programme a modifié l'aventure %1 depuis son ouverture. "
+                             "Voulez-vous la remplacer par la vôtre ? L'autre version sera "
+                             "gardée sous le nom %2.")
+            .arg(m_variables.AdventureFileName, QFileInfo(backup).fileName()),
+        QCoreApplication::translate("AdventureSave", "Attention !"), Prompts::Buttons::YesNo);
     if (answer != Prompts::Answer::Yes)
         return false;
     copyFile(path, backup);
@@ -115,7 +116,8 @@ bool AdventureSave::mayReplace()
 
 void AdventureSave::swapFailed(const QString &text)
 {
-    m_prompts.message(text, QStringLiteral("BUG"), Prompts::Buttons::Ok);
+    m_prompts.message(text, QCoreApplication::translate("AdventureSave", "BUG"),
+                      Prompts::Buttons::Ok);
 }
 
 void AdventureSave::takeOverSaved()

@@ -1,13 +1,18 @@
 #include "support/AdventureBuilder.h"
 
+#include "platform/Translations.h"
 #include "richtext/HiddenBox.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTest>
 #include <QtEndian>
 #include <algorithm>
+
+// What tests see is what authors see, plurals included.
+Q_COREAPP_STARTUP_FUNCTION(loadTranslations)
 
 namespace
 {

@@ -43,14 +43,14 @@ QString CodeBox::code() const
 
 void CodeBox::load(Prompts &prompts, const FileKind &kind)
 {
-    const QString path = prompts.openName(QStringLiteral("Ouvrir Fichier Texte"), kind.filter);
+    const QString path = prompts.openName(tr("Ouvrir Fichier Texte"), kind.filter);
     if (QFileInfo::exists(path))
         readFile(path);
 }
 
 void CodeBox::save(const Variables &variables, Prompts &prompts, const FileKind &kind) const
 {
-    const QString path = prompts.saveName(QStringLiteral("Enregistrer Fichier Texte"), kind.filter,
+    const QString path = prompts.saveName(tr("Enregistrer Fichier Texte"), kind.filter,
                                           kind.defaultExtension, QString());
     if (path.isEmpty())
         return;

@@ -3,13 +3,14 @@
 #include "platform/Errors.h"
 #include "platform/SafeFile.h"
 
+#include <QCoreApplication>
 #include <optional>
 
 namespace
 {
 QString caption()
 {
-    return QStringLiteral("Conversion...");
+    return QCoreApplication::translate("HtmlCommands", "Conversion...");
 }
 } // namespace
 

@@ -48,8 +48,7 @@ void manyHTML::Form_Load()
 
 void manyHTML::btnBrowse_Click()
 {
-    const QString folder =
-        m_prompts.folderName(QStringLiteral("Choisissez un Dossier"), typedFolder());
+    const QString folder = m_prompts.folderName(tr("Choisissez un Dossier"), typedFolder());
     if (!folder.isEmpty())
         setFolder(folder);
 }
@@ -89,9 +88,9 @@ void manyHTML::setFolder(const QString &folder)
 
 bool manyHTML::makesFolder(const QString &folder)
 {
-    const auto answer = m_prompts.message(QStringLiteral("Ce dossier n'existe pas :\n%1\nLe créer?")
-                                              .arg(QDir::toNativeSeparators(folder)),
-                                          QStringLiteral("Attention"), Prompts::Buttons::YesNo);
+    const auto answer = m_prompts.message(
+        tr("Ce dossier n'existe pas :\n%1\nLe créer?").arg(QDir::toNativeSeparators(folder)),
+        tr("Attention"), Prompts::Buttons::YesNo);
     if (answer != Prompts::Answer::Yes)
         return false;
     if (!QDir().mkpath(folder))

@@ -24,8 +24,7 @@ onebigHTML::~onebigHTML() = default;
 
 void onebigHTML::connectCodeBoxes()
 {
-    const CodeBox::FileKind kind{QStringLiteral("Fichiers TXT (*.txt)|*.txt"),
-                                 QStringLiteral("txt")};
+    const CodeBox::FileKind kind{tr("Fichiers TXT (*.txt)|*.txt"), QStringLiteral("txt")};
     m_ui->txtHeader->connectButtons(m_variables, m_prompts, *m_ui->btnLoad1, *m_ui->btnSave1, kind);
     m_ui->txtFooter->connectButtons(m_variables, m_prompts, *m_ui->btnLoad2, *m_ui->btnSave2, kind);
     m_ui->txtNumbers->connectButtons(m_variables, m_prompts, *m_ui->btnLoad3, *m_ui->btnSave3,
@@ -48,9 +47,9 @@ void onebigHTML::HTML_Click()
 {
     const double low = lenientNumber(m_ui->txtLow->text());
     const double high = lenientNumber(m_ui->txtHigh->text());
-    const QString path = m_prompts.saveName(QStringLiteral("Enregistrer Fichier HTML"),
-                                            QStringLiteral("Fichiers HTML (*.htm)|*.htm"),
-                                            QStringLiteral("htm"), proposedName(m_variables));
+    const QString path =
+        m_prompts.saveName(tr("Enregistrer Fichier HTML"), tr("Fichiers HTML (*.htm)|*.htm"),
+                           QStringLiteral("htm"), proposedName(m_variables));
     if (path.isEmpty())
         return;
     const HtmlCodes codes{m_ui->txtHeader->code(), m_ui->txtNumbers->code(),

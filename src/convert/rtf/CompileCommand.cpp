@@ -7,6 +7,10 @@ bool compileToRtf(const ExportCommand &command, const ExportRequest &request,
         return compileRtf(command.variables(), range, style, request.place, progress);
     };
     return command.mayReplace(request.place) &&
-           command.run(request, {QStringLiteral("Conversion en Cours Veuillez Attendre"), write,
-                                 QStringLiteral("Erreur d'enregistrement du fichier")});
+           command.run(request, {QCoreApplication::translate(
+                                     "CompileCommand", "Conversion en Cours Veuillez Attendre"),
+                                 write,
+                                 QCoreApplication::translate(
+                                     "CompileCommand", "Erreur d'enregistrement du fichier")});
 }
+#include <QCoreApplication>

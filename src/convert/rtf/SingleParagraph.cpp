@@ -11,7 +11,7 @@ namespace
 {
 QString rtfFilter()
 {
-    return QStringLiteral("Fichiers RTF (*.rtf)|*.rtf");
+    return SingleParagraph::tr("Fichiers RTF (*.rtf)|*.rtf");
 }
 } // namespace
 
@@ -25,11 +25,10 @@ bool SingleParagraph::Load()
 {
     RichTextBox &box = m_view.editingBox();
     if (box.textLength() >= 1 &&
-        m_prompts.message(
-            QStringLiteral("Ceci va effacer le texte actuel du paragraphe. Continuer?"),
-            QStringLiteral("Attention"), Prompts::Buttons::YesNo) != Prompts::Answer::Yes)
+        m_prompts.message(tr("Ceci va effacer le texte actuel du paragraphe. Continuer?"),
+                          tr("Attention"), Prompts::Buttons::YesNo) != Prompts::Answer::Yes)
         return false;
-    const QString path = m_prompts.openName(QStringLiteral("Ouvrir Fichier RTF"), rtfFilter());
+    const QString path = m_prompts.openName(tr("Ouvrir Fichier RTF"), rtfFilter());
     if (path.isEmpty())
         return false;
     try {
@@ -46,13 +45,13 @@ void SingleParagraph::Save()
     RichTextBox &box = m_view.editingBox();
     SaveCurParg(m_variables, box, m_prompts);
     if (box.textLength() == 0) {
-        m_prompts.message(QStringLiteral("Rien à enregistrer. Tapez quelque chose d'abord."),
-                          QStringLiteral("Tséveudire"), Prompts::Buttons::Ok);
+        m_prompts.message(tr("Rien à enregistrer. Tapez quelque chose d'abord."), tr("Tséveudire"),
+                          Prompts::Buttons::Ok);
         return;
     }
-    const QString path = m_prompts.saveName(
-        QStringLiteral("Enregistrer Fichier RTF"), rtfFilter(), QStringLiteral("rtf"),
-        m_variables.FilePrefix + fourDigits(m_variables.CurrentParagraph));
+    const QString path =
+        m_prompts.saveName(tr("Enregistrer Fichier RTF"), rtfFilter(), QStringLiteral("rtf"),
+                           m_variables.FilePrefix + fourDigits(m_variables.CurrentParagraph));
     if (path.isEmpty())
         return;
     refuseOwnFiles(m_variables, path);
@@ -61,6 +60,5 @@ void SingleParagraph::Save()
     } catch (const FileError &) {
         return;
     }
-    m_report.announce(
-        QStringLiteral("Paragraphe %1 écrit : %2").arg(m_variables.CurrentParagraph).arg(path));
+    m_report.announce(tr("Paragraphe %1 écrit : %2").arg(m_variables.CurrentParagraph).arg(path));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 class AdventureView;
 class Prompts;
 class WorkReport;
@@ -9,6 +11,8 @@ struct Variables;
 // is open.
 class SingleParagraph
 {
+    Q_DECLARE_TR_FUNCTIONS(SingleParagraph)
+
 public:
     SingleParagraph(Variables &variables, Prompts &prompts, AdventureView &view,
                     WorkReport &report);

@@ -66,9 +66,9 @@ void convertRTF::OKButton_Click()
 {
     const double low = lenientNumber(m_ui->txtLow->text());
     const double high = lenientNumber(m_ui->txtHigh->text());
-    const QString path = m_prompts.saveName(QStringLiteral("Enregistrer Fichier RTF"),
-                                            QStringLiteral("Fichiers RTF (*.rtf)|*.rtf"),
-                                            QStringLiteral("rtf"), proposedName(m_variables));
+    const QString path =
+        m_prompts.saveName(tr("Enregistrer Fichier RTF"), tr("Fichiers RTF (*.rtf)|*.rtf"),
+                           QStringLiteral("rtf"), proposedName(m_variables));
     if (path.isEmpty())
         return;
     m_ui->waitLabel->show();

@@ -1,0 +1,31 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="fr_FR">
+<context>
+    <name>ExportCommand</name>
+    <message numerus="yes">
+        <source>%n paragraphe(s) écrit(s) : %1</source>
+        <translation>
+            <numerusform>%n paragraphe écrit : %1</numerusform>
+            <numerusform>%n paragraphes écrits : %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message numerus="yes">
+        <source>%n mot(s)</source>
+        <translation>
+            <numerusform>%n mot</numerusform>
+            <numerusform>%n mots</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renvoi(s)</source>
+        <translation>
+            <numerusform>%n renvoi</numerusform>
+            <numerusform>%n renvois</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
