@@ -31,6 +31,14 @@ inline void click(const QWidget &window, const QString &button)
     QTest::mouseClick(&child<QAbstractButton>(window, button), Qt::LeftButton);
 }
 
+inline void typeOver(QLineEdit &edit, const QString &text)
+{
+    edit.setFocus();
+    edit.selectAll();
+    QTest::keyClick(&edit, Qt::Key_Backspace);
+    QTest::keyClicks(&edit, text);
+}
+
 // The main window on a temporary working folder, driven through its controls by their names.
 class WindowFixture
 {
@@ -115,13 +123,9 @@ public:
     }
 
     QLineEdit &field(const char *name) const { return control<QLineEdit>(name); }
-    // Types over all of a field and confirms it.
     void enter(QLineEdit &edit, const char *text) const
     {
-        edit.setFocus();
-        edit.selectAll();
-        QTest::keyClick(&edit, Qt::Key_Backspace);
-        QTest::keyClicks(&edit, QString::fromUtf8(text));
+        typeOver(edit, QString::fromUtf8(text));
         QTest::keyClick(&edit, Qt::Key_Return);
     }
 

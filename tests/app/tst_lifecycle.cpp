@@ -101,8 +101,7 @@ private Q_SLOTS:
         expectQuestion(fixture, Prompts::Answer::Yes);
         fixture.prompts.expect("Erreur pendant l'écriture du fichier.", "BUG");
         QVERIFY(!fixture.window->close());
-        QVERIFY(fixture.variables.AdventureModified);
-        QVERIFY(fixture.box().isVisible());
+        QVERIFY(fixture.variables.AdventureModified && fixture.box().isVisible());
     }
 
     void authorStaysWhereHeWas_data()
@@ -221,7 +220,6 @@ private Q_SLOTS:
         file.setUrls({QUrl::fromLocalFile(
             fixture.adventure.file("autre.usm", AdventureBuilder({"1: Un."}).bytes()))});
         drop(file);
-        QCOMPARE(fixture.variables.AdventureFileName, "autre.usm");
         QCOMPARE(fixture.box().text(), "Un.");
     }
 
@@ -232,8 +230,7 @@ private Q_SLOTS:
         for (const char *name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
             qputenv(name, home.toLocal8Bit());
         fixture.trigger("menuInfoSample");
-        const QString copy = home + "/Usmira/La Dernière Tournée.usm";
-        QCOMPARE(fixture.variables.AdventurePath, copy);
+        QCOMPARE(fixture.variables.AdventurePath, home + "/Usmira/La Dernière Tournée.usm");
         fixture.type("Du neuf.");
         fixture.click("btnSave");
         fixture.trigger("menuInfoSample");
@@ -257,16 +254,14 @@ private Q_SLOTS:
         other.paints = 0;
         WorkReport &work = fixture.window->work();
         work.begin("Saving...", WorkReport::Stopping::Never);
-        QVERIFY(!fixture.box().isVisible());
-        QVERIFY(fixture.control<QLabel>("labBehind").isVisible());
+        QVERIFY(!fixture.box().isVisible() && fixture.control<QLabel>("labBehind").isVisible());
         QCOMPARE(fixture.label("labBehind"), "Saving...");
         while (!bar.isVisible() && !time.hasExpired(20000))
             work.progress(30, 40);
         QVERIFY(bar.isVisible() && time.hasExpired(500));
         QVERIFY2(other.paints >= 2 && other.paints <= 2 + time.elapsed() / 100,
                  qPrintable(QString::number(other.paints)));
-        QVERIFY(bar.value() == 30 && bar.maximum() == 40);
-        QVERIFY(!letIn);
+        QVERIFY(bar.value() == 30 && bar.maximum() == 40 && !letIn);
         deactivate(fixture);
         QVERIFY(fixture.variables.ParagraphDirty); // saved is only when the work is done
         work.end();
@@ -297,7 +292,6 @@ private Q_SLOTS:
         const auto shown = [&fixture] {
             return fixture.label("lblCounts") + " / " + fixture.label("lblSaved");
         };
-        QCOMPARE(shown(), "paragraphe 12 · 5 mots · 1 renvoi / enregistré");
         fixture.click("btnNext");
         fixture.click("btnPrev");
         QCOMPARE(shown(), "paragraphe 12 · 5 mots · 1 renvoi / enregistré");
@@ -305,7 +299,6 @@ private Q_SLOTS:
         fixture.type(" - Ou au 4 !");
         QCOMPARE(shown(), "paragraphe 12 · 8 mots · 2 renvois / modifié");
         fixture.click("btnNext");
-        QCOMPARE(shown(), "paragraphe 13 · 0 mot · 0 renvoi / modifié");
         fixture.click("btnSave");
         QCOMPARE(shown(), "paragraphe 13 · 0 mot · 0 renvoi / enregistré");
         QVERIFY(fixture.window->close()); // without a question

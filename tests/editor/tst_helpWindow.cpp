@@ -3,9 +3,9 @@
 #include "editor/StatusLine.h"
 #include "editor/helpWindow.h"
 #include "support/AdventureBuilder.h"
+#include "support/TestTable.h"
 
 #include <QPushButton>
-#include <QTest>
 
 class tst_helpWindow : public QObject
 {
@@ -15,16 +15,12 @@ private Q_SLOTS:
     void showsTheFileOfTheLanguage_data()
     {
         using Tag = helpWindow::Tag;
-        QTest::addColumn<Tag>("tag");
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char *name, Tag tag, const char *file, const char *text) {
-            QTest::newRow(name) << tag << file << text;
-        };
-        row("French", Tag::French, "Aide Française.rtf", "De l'aide");
-        row("English", Tag::English, "English Help.rtf", "De l'aide");
-        row("no French", Tag::French, "English Help.rtf", "Aide Française Non Trouvée");
-        row("no English", Tag::English, "Aide Française.rtf", "English Help File Not Found");
+        addTable<Tag, QString, QString>(
+            {"tag", "file", "text"},
+            {{"French", Tag::French, "Aide Française.rtf", "De l'aide"},
+             {"English", Tag::English, "English Help.rtf", "De l'aide"},
+             {"no French", Tag::French, "English Help.rtf", "Aide Française Non Trouvée"},
+             {"no English", Tag::English, "Aide Française.rtf", "English Help File Not Found"}});
     }
     void showsTheFileOfTheLanguage()
     {
@@ -32,24 +28,21 @@ private Q_SLOTS:
         QFETCH(const QString, file);
         QFETCH(const QString, text);
         const TestAdventure adventure;
-        adventure.file(QStringLiteral("Dossier Usmira/") + file,
-                       rtfOf(QStringLiteral("De l'aide")));
+        adventure.file("Dossier Usmira/" + file, rtfOf("De l'aide"));
         helpWindow help(adventure.variables);
         help.showHelp(tag);
-        QVERIFY(help.isVisible());
-        QVERIFY(!help.isModal());
+        QVERIFY(help.isVisible() && !help.isModal());
         const auto *box = help.findChild<RtfBox *>();
         QVERIFY(box->isReadOnly());
         QCOMPARE(box->text(), text);
-        QTest::mouseClick(help.findChild<QPushButton *>(QStringLiteral("btnClose")),
-                          Qt::LeftButton);
+        QTest::mouseClick(help.findChild<QPushButton *>("btnClose"), Qt::LeftButton);
         QVERIFY(!help.isVisible());
         QCOMPARE(box->text(), QString());
     }
 
     void describesParagraphs()
     {
-        const std::pair<const char *, const char *> cases[] = {
+        const std::pair<QString, QString> cases[] = {
             {"", "0 mot · 0 renvoi"},
             {"- au 12 !", "2 mots · 1 renvoi"},
             {"Oui — non : « peut-être » ?", "3 mots · 0 renvoi"},
@@ -57,20 +50,18 @@ private Q_SLOTS:
             {"Va au 2001 ou au 2000.", "6 mots · 1 renvoi"},
         };
         for (const auto &[text, counts] : cases)
-            QCOMPARE(describeParagraph(7, QString::fromUtf8(text), QStringLiteral(" au ")),
-                     QStringLiteral("paragraphe 7 · ") + QString::fromUtf8(counts));
+            QCOMPARE(describeParagraph(7, text, " au "), "paragraphe 7 · " + counts);
     }
 
     void firstWordsEndAtAWord()
     {
         TestAdventure adventure;
-        const QString sentence = QStringLiteral("La porte est close. ");
-        adventure.file(QStringLiteral("Dossier Usmira/0005.rtf"), rtfOf(sentence.repeated(20)));
-        adventure.file(QStringLiteral("Dossier Usmira/0007.rtf"), "no rich text");
+        const QString sentence = "La porte est close. ";
+        adventure.file("Dossier Usmira/0005.rtf", rtfOf(sentence.repeated(20)));
+        adventure.file("Dossier Usmira/0007.rtf", "no rich text");
         for (const int n : {5, 7})
             adventure.variables.Written.at(n) = adventure.variables.Extracted.at(n) = 1;
-        QCOMPARE(firstWords(adventure.variables, 5),
-                 sentence.repeated(4) + QStringLiteral("La porte …"));
+        QCOMPARE(firstWords(adventure.variables, 5), sentence.repeated(4) + "La porte …");
         QCOMPARE(firstWords(adventure.variables, 6), QString()); // not written
         QCOMPARE(firstWords(adventure.variables, 7), QString()); // damaged
     }

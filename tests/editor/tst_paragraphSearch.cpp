@@ -41,8 +41,8 @@ private Q_SLOTS:
     void firstFreeSkipsWrittenAndReferredNumbers()
     {
         Variables v = written({1, 2, 4, 2000});
-        v.refIndex.at(1) = QStringLiteral("0005/0002/");
-        v.refIndex.at(3) = QStringLiteral("0006/"); // of a paragraph that is not written: no matter
+        v.refIndex.at(1) = "0005/0002/";
+        v.refIndex.at(3) = "0006/"; // of a paragraph that is not written: no matter
         // Behind the referred 5, never to itself, and around to 1 but not to 0.
         const std::pair<int, int> cases[] = {{0, 3}, {4, 6}, {3, 6}, {1999, 3}};
         for (const auto &[from, free] : cases)
