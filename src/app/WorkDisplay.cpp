@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr qint64 BetweenPaints = 100; // milliseconds
+constexpr qint64 BetweenPaints = 100;    // milliseconds
 constexpr int AnnouncementShown = 15000; // milliseconds
 } // namespace
 

@@ -213,6 +213,13 @@ void RtfBox::keyPressEvent(QKeyEvent *event)
 void RtfBox::type(QKeyEvent *event)
 {
     const QString text = event->text();
+    // A letter that is no mnemonic of any menu is not meant for the text. Where Alt makes other
+    // characters of the letters, those are.
+    if (event->modifiers() == Qt::AltModifier &&
+        text.toUpper() == QKeySequence(event->key()).toString()) {
+        event->ignore();
+        return;
+    }
     const bool typed = !isReadOnly() && !text.isEmpty() && text.front().isPrint();
     if (typed && m_run.begins(text, textCursor().selectionStart(), event->timestamp()))
         document()->setModified(false);

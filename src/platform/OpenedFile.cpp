@@ -17,9 +17,9 @@ constexpr QIODevice::OpenMode Mode = QIODevice::ReadOnly | QIODevice::Unbuffered
 using Operation = FileError::Operation;
 
 // The bytes are not those that were there.
-[[noreturn]] void failChanged(const QFile &file, const QString &how)
+[[noreturn]] void failChanged(const QString &path, const QString &how)
 {
-    throw FileError(Operation::Read, file.fileName(), how, std::errc::bad_message);
+    throw FileError(Operation::Read, path, how, std::errc::bad_message);
 }
 
 // The sums never leave the process, so that the fastest ones will do.
@@ -44,7 +44,7 @@ QList<size_t> checksums(QFile &file)
 }
 } // namespace
 
-OpenedFile::OpenedFile(const QString &path) : m_file(path)
+OpenedFile::OpenedFile(const QString &path) : m_path(path), m_file(path)
 {
     openRegular(m_file, Mode);
     // Before the bytes, so that a change while they are read shows later.
@@ -65,7 +65,7 @@ bool OpenedFile::isUntouched() const
 QByteArray OpenedFile::read(qint64 offset, qint64 length)
 {
     if (offset < 0 || length < 0 || offset > size() || length > size() - offset)
-        throw FileError(Operation::Read, m_file.fileName(), QStringLiteral("outside the file"));
+        throw FileError(Operation::Read, m_path, QStringLiteral("outside the file"));
     return isUntouched() ? readAt(offset, length) : readVerified(offset, length);
 }
 
@@ -81,7 +81,7 @@ QByteArray OpenedFile::readVerified(qint64 offset, qint64 length)
         const QByteArrayView block =
             QByteArrayView(blocks).sliced(at, std::min(BlockSize, blocks.size() - at));
         if (checksum(block) != m_blocks.value(first + at / BlockSize))
-            failChanged(m_file, QStringLiteral("changed since it was opened"));
+            failChanged(m_path, QStringLiteral("changed since it was opened"));
     }
     return blocks.mid(offset - start, length);
 }
@@ -89,10 +89,10 @@ QByteArray OpenedFile::readVerified(qint64 offset, qint64 length)
 QByteArray OpenedFile::readAt(qint64 offset, qint64 length)
 {
     if (!m_file.seek(offset))
-        throw FileError(Operation::Read, m_file.fileName(), failureOf(m_file));
+        throw FileError(Operation::Read, m_path, failureOf(m_file));
     QByteArray bytes = m_file.read(length);
     if (bytes.size() != length)
-        failChanged(m_file, QStringLiteral("shorter than it was"));
+        failChanged(m_path, QStringLiteral("shorter than it was"));
     return bytes;
 }
 

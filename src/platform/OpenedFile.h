@@ -32,11 +32,15 @@ public:
     // cannot tell, one with the same bytes is taken for it.
     bool isNamed(const QString &path);
 
+    // The file has another name by now, by which failures speak of it.
+    void setPath(const QString &path) { m_path = path; }
+
 private:
     bool isUntouched() const;
     QByteArray readVerified(qint64 offset, qint64 length);
     QByteArray readAt(qint64 offset, qint64 length);
 
+    QString m_path;
     QFile m_file;
     qint64 m_size = 0;
     FileStamp m_stamp;      // when the bytes last were known to be right

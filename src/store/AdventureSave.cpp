@@ -90,6 +90,7 @@ bool AdventureSave::swap()
     // The adventure is saved: nothing below may fail. The file that was read back stays the one
     // that is read; what it is asked here is answered once, instead of at each later read.
     m_saved.file->isStillAt(m_variables.AdventurePath);
+    m_saved.file->setPath(m_variables.AdventurePath);
     return true;
 }
 

@@ -27,8 +27,7 @@ QFileInfo findSample(const QString &bundledDocuments)
 // Without a documents folder Qt may name the home folder, which is no place for a copy.
 QDir folderOfAuthor()
 {
-    const QFileInfo documents(
-        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QFileInfo documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     if (documents.isDir() && documents.isWritable() && documents != QFileInfo(QDir::homePath()))
         return QDir(documents.filePath());
     const QDir data(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
