@@ -17,3 +17,18 @@ function(usmira_share_precompiled target library)
         target_precompile_headers(${target} REUSE_FROM ${library})
     endif()
 endfunction()
+
+# usmira_precompiled_library(NAME KIND): a library of nothing but precompiled headers, for targets
+# that share other compile options than the libraries'.
+function(usmira_precompiled_library name kind)
+    if(USMIRA_PCH)
+        file(CONFIGURE OUTPUT ${name}.cpp CONTENT "")
+        add_library(${name} STATIC ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+        set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+        target_link_libraries(${name} PRIVATE Qt6::Core Qt6::Gui usmira_warnings)
+        if(kind STREQUAL windows)
+            target_link_libraries(${name} PRIVATE Qt6::Widgets)
+        endif()
+        usmira_precompile(${name} ${kind})
+    endif()
+endfunction()
