@@ -8,7 +8,9 @@
 
 namespace
 {
-constexpr qint64 BlockSize = 64 * 1024;
+// Small, so that a change of a few bytes spoils the texts that have them and no others.
+constexpr qint64 BlockSize = 512;
+constexpr qint64 ReadAtOnce = 128 * BlockSize;
 constexpr qint64 LargestFile = qint64{4} * 1024 * 1024 * 1024;
 
 // Unbuffered: every read is one whole piece, and a buffer would hide a change.
@@ -31,15 +33,17 @@ size_t checksum(QByteArrayView bytes)
 // Of the file from where it stands to its end.
 QList<size_t> checksums(QFile &file)
 {
-    QByteArray block(BlockSize, Qt::Uninitialized);
+    QByteArray bytes(ReadAtOnce, Qt::Uninitialized);
     QList<size_t> sums;
     for (;;) {
-        const qint64 length = file.read(block.data(), block.size());
+        const qint64 length = file.read(bytes.data(), bytes.size());
         if (length < 0)
             throw FileError(Operation::Read, file.fileName(), failureOf(file));
         if (length == 0)
             return sums;
-        sums.append(checksum(QByteArrayView(block).first(length)));
+        for (qint64 at = 0; at < length; at += BlockSize)
+            sums.append(
+                checksum(QByteArrayView(bytes).sliced(at, std::min(BlockSize, length - at))));
     }
 }
 } // namespace
