@@ -1,6 +1,12 @@
 #pragma once
 
+#include "platform/Progress.h"
 #include "store/AdventureFile.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <optional>
 
 class Prompts;
 class RichTextBox;

@@ -51,7 +51,7 @@ public:
 private:
     bool readLine(const QList<QByteArray> &words)
     {
-        const QByteArray kind = words.first();
+        const QByteArray &kind = words.first();
         if (kind == "place")
             return place({words.value(1).toInt(), words.value(2).toInt(), words.value(3) == "1",
                           words.value(4), decoded(words.value(5))});
