@@ -4,6 +4,7 @@
 #include "convert/html/HtmlCommands.h"
 #include "convert/rtf/CompileCommand.h"
 #include "editor/ParagraphSearch.h"
+#include "outil/DoubtfulList.h"
 #include "outil/StateReport.h"
 #include "platform/SafeFile.h"
 #include "richtext/RtfPlainText.h"
@@ -72,6 +73,11 @@ const std::vector<Commands::Entry> &Commands::entries()
          &Commands::texteBrut},
         {text("mene"), text("N"), QT_TR_NOOP("écrit les numéros des paragraphes qui mènent au N"),
          true, &Commands::mene},
+        {text("douteux"),
+         {},
+         QT_TR_NOOP("écrit les renvois douteux : numéro, position, mots, raison"),
+         true,
+         &Commands::douteux},
         {text("libre"), text("N"), QT_TR_NOOP("écrit le premier numéro libre après N"), true,
          &Commands::libre},
         {text("echanger"), text("A B"), QT_TR_NOOP("échange les numéros A et B"), true,
@@ -221,6 +227,11 @@ QByteArray Commands::mene(const QStringList &arguments)
     for (const int n : incoming)
         lines += line(n);
     return lines;
+}
+
+QByteArray Commands::douteux(const QStringList & /*arguments*/)
+{
+    return doubtfulList(m_variables);
 }
 
 QByteArray Commands::libre(const QStringList &arguments)

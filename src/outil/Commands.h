@@ -44,6 +44,7 @@ private:
     QByteArray rtf(const QStringList &arguments);
     QByteArray texteBrut(const QStringList &arguments);
     QByteArray mene(const QStringList &arguments);
+    QByteArray douteux(const QStringList &arguments);
     QByteArray libre(const QStringList &arguments);
     QByteArray echanger(const QStringList &arguments);
     QByteArray melanger(const QStringList &arguments);

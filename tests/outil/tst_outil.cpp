@@ -110,6 +110,20 @@ melanger 4 9
         QCOMPARE(outcome.output.split('\r').join(), "Va au 9\nVa au 2\nVa au 2\n7\n");
     }
 
+    void doubtfulReferencesAreListed()
+    {
+        TestAdventure adventure;
+        const QString path = adventure.file(
+            QStringLiteral("a.usm"),
+            AdventureBuilder({QStringLiteral("1: Va au 4"), QStringLiteral("4: Va au 09")})
+                .bytes());
+        const Outcome outcome = run(adventure, {}, "ouvrir '" + path.toUtf8() + "'\ndouteux\n");
+        QCOMPARE(outcome.errors, QString());
+        const QByteArray expected = "4\t3\tau 09\tIl y a un zéro";
+        QCOMPARE(outcome.output.left(expected.size()), expected);
+        QCOMPARE(outcome.output.count('\n'), 1);
+    }
+
     void paragraphsArePublished()
     {
         TestAdventure adventure;
