@@ -5,7 +5,6 @@
 #include "platform/SafeFile.h"
 #include "richtext/RichTextBox.h"
 #include "store/AdventureChanges.h"
-#include "store/DamagedTexts.h"
 #include "store/ParagraphStore.h"
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
@@ -80,7 +79,7 @@ bool AdventureSave::swap()
             swapFailed(words);
             return false;
         }
-        KeptBytes kept(m_variables, m_leftOut);
+        KeptBytes kept(m_variables, m_leftOut, m_otherVersion);
         moveIntoPlace(m_temporary, m_variables.AdventurePath);
         kept.textsAreReplaced();
     } catch (const FileError &error) {
@@ -112,6 +111,7 @@ bool AdventureSave::mayReplace()
     if (answer != Prompts::Answer::Yes)
         return false;
     copyFile(path, backup);
+    m_otherVersion = KeptBytes::WholeFile::IsKept;
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Progress.h"
 #include "store/AdventureFile.h"
+#include "store/DamagedTexts.h"
 
 #include <QByteArray>
 #include <QList>
@@ -48,5 +49,6 @@ private:
     std::optional<QByteArray> m_onScreen;
     QString m_temporary;
     AdventureContents m_saved;
+    KeptBytes::WholeFile m_otherVersion = KeptBytes::WholeFile::NotKept;
     QList<int> m_leftOut;
 };

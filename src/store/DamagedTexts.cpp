@@ -63,12 +63,14 @@ bool copyFromAdventure(const Variables &variables, int n, SafeFile &to)
     }
 }
 
+// Of a text without a single byte that can be read no file is made.
 bool copyBytes(const Variables &variables, int n, const QString &path)
 {
     SafeFile to(path, Durability::Full, Links::Replace);
     const bool all = variables.Extracted.at(n) == 1 ? copyWorkingFile(variables, n, to)
                                                     : copyFromAdventure(variables, n, to);
-    to.commit();
+    if (to.position() > 0)
+        to.commit();
     return all;
 }
 
@@ -118,10 +120,10 @@ void tellUnreadable(const QList<int> &paragraphs, Prompts &prompts)
         prompts.notice(text.arg(paragraphNames(paragraphs)), QStringLiteral("BUG"));
 }
 
-KeptBytes::KeptBytes(const Variables &variables, const QList<int> &paragraphs)
+KeptBytes::KeptBytes(const Variables &variables, const QList<int> &paragraphs, WholeFile whole)
 {
     try {
-        keep(variables, paragraphs);
+        keep(variables, paragraphs, whole);
     } catch (const FileError &) {
         undo();
         throw;
@@ -133,12 +135,13 @@ KeptBytes::~KeptBytes()
     undo();
 }
 
-void KeptBytes::keep(const Variables &variables, const QList<int> &paragraphs)
+void KeptBytes::keep(const Variables &variables, const QList<int> &paragraphs, WholeFile whole)
 {
     bool all = true;
     for (const int n : paragraphs) {
         m_paths.append(keptBytesPath(variables, n));
-        all = copyBytes(variables, n, m_paths.last()) && all;
+        const bool copied = copyBytes(variables, n, m_paths.last());
+        all = whole == WholeFile::IsKept || (copied && all);
     }
     const QString &adventure = variables.AdventurePath;
     if (all || !QFileInfo(adventure).isFile())

@@ -28,7 +28,11 @@ void tellUnreadable(const QList<int> &paragraphs, Prompts &prompts);
 class KeptBytes
 {
 public:
-    KeptBytes(const Variables &variables, const QList<int> &paragraphs);
+    // Whether the adventure file on the disk has been kept under another name already.
+    enum class WholeFile { NotKept, IsKept };
+
+    KeptBytes(const Variables &variables, const QList<int> &paragraphs,
+              WholeFile whole = WholeFile::NotKept);
     // They go again unless the damaged texts have been replaced.
     ~KeptBytes();
     KeptBytes(const KeptBytes &) = delete;
@@ -37,7 +41,7 @@ public:
     void textsAreReplaced() { m_paths.clear(); }
 
 private:
-    void keep(const Variables &variables, const QList<int> &paragraphs);
+    void keep(const Variables &variables, const QList<int> &paragraphs, WholeFile whole);
     void undo();
 
     QStringList m_paths;

@@ -10,6 +10,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 using Answer = Prompts::Answer;
 
@@ -195,6 +196,7 @@ private Q_SLOTS:
         e.expectLeftOut(2);
         QVERIFY(e.commands.Save());
         QCOMPARE(e.content("Le Loup (autre version).usm"), saved);
+        QVERIFY(!QFile::exists(e.path("Le Loup (illisible 0002).bin")));
     }
 
     void noAndThenNoFileShowsTheAdventureAsLastSaved()
@@ -277,25 +279,36 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(e.path(Temporary)));
     }
 
+    void anotherProgramsVersionIsKeptBeforeItIsReplaced_data()
+    {
+        QTest::addColumn<bool>("replaced");
+        QTest::addColumn<bool>("inPlace"); // what was opened is gone then
+        QTest::newRow("no") << false << false;
+        QTest::newRow("yes") << true << false;
+        QTest::newRow("bytes written over") << true << true;
+    }
     void anotherProgramsVersionIsKeptBeforeItIsReplaced()
     {
-        for (const bool replaced : {true, false}) {
-            Editor e;
-            QVERIFY(QFile::remove(e.open()));
-            e.file(Wolf, "of another program");
-            e.type(2, "autre fin");
-            e.prompts.expect("Un autre programme a modifié l'aventure Le Loup.usm depuis son "
-                             "ouverture. Voulez-vous la remplacer par la vôtre ? L'autre version "
-                             "sera gardée sous le nom Le Loup (autre version).usm.",
-                             "Attention !", Prompts::Buttons::YesNo,
-                             replaced ? Answer::Yes : Answer::No);
-            if (!replaced)
-                e.expectSwapFailure();
-            QCOMPARE(e.commands.Save(), replaced);
-            QCOMPARE(e.v.AdventureModified, !replaced);
-            const QString kept = replaced ? "Le Loup (autre version).usm" : Wolf;
-            QCOMPARE(e.content(kept), "of another program");
-        }
+        QFETCH(bool, replaced);
+        QFETCH(bool, inPlace);
+        Editor e;
+        const QString path = e.open();
+        e.type(2, "autre fin");
+        QVERIFY(inPlace || QFile::remove(path));
+        e.file(Wolf, "of another program");
+        e.prompts.expect("Un autre programme a modifié l'aventure Le Loup.usm depuis son "
+                         "ouverture. Voulez-vous la remplacer par la vôtre ? L'autre version "
+                         "sera gardée sous le nom Le Loup (autre version).usm.",
+                         "Attention !", Prompts::Buttons::YesNo,
+                         replaced ? Answer::Yes : Answer::No);
+        if (!replaced)
+            e.expectSwapFailure();
+        if (inPlace)
+            e.expectLeftOut(1);
+        QCOMPARE(e.commands.Save(), replaced);
+        QCOMPARE(e.v.AdventureModified, !replaced);
+        QCOMPARE(e.content(replaced ? "Le Loup (autre version).usm" : Wolf), "of another program");
+        QCOMPARE(QDir(QFileInfo(path).path()).entryList({"Le Loup*"}).size(), replaced ? 2 : 1);
     }
 
     void newOverAnExistingFileReplacesItOnlyAtTheSwap()
