@@ -145,7 +145,7 @@ void formUsmira::connectBox()
     connect(keys, &BoxKeys::ctrlClicked, this, [this] {
         m_runner.run(Kind::Adventure, [this] { m_navigation.followNumberAtCaret(); });
     });
-    connect(keys, &BoxKeys::failed, this, [this] { m_runner.rescue(tr("Une action a échoué.")); });
+    connect(keys, &BoxKeys::failed, this, &formUsmira::rescue);
     connect(m_ui->rtfBox, &RtfBox::failed, this,
             [this](const QString &failure) { m_runner.rescue(failure); });
     connect(m_ui->frameTabPanel, &TabPanel::tabRefused, this, [this] { m_prompts.beep(); });
@@ -154,7 +154,10 @@ void formUsmira::connectBox()
 
 void formUsmira::connectMenus()
 {
-    connectEditMenu(*m_ui, *m_ui->rtfBox);
+    connectEditMenu({*m_ui->menuEdit, *m_ui->menuEditUndo, *m_ui->menuEditRedo, *m_ui->menuEditCut,
+                     *m_ui->menuEditCopy, *m_ui->menuEditPaste, *m_ui->menuEditPastePlain,
+                     *m_ui->menuEditSelectAll},
+                    *m_ui->rtfBox);
     m_functions.connectItems({*m_ui->menuComMasterMix, *m_ui->menuComSwap, *m_ui->menuComBlockMove,
                               *m_ui->menuComPackHoles, *m_ui->menuComCount},
                              m_runner);
@@ -184,6 +187,11 @@ void formUsmira::Form_Load()
     m_page.showTabPanel();
     m_page.showWelcome(WorkingFiles(m_variables).document(WorkingFiles::Document::Welcome));
     m_page.focusEditor();
+}
+
+void formUsmira::rescue()
+{
+    m_runner.rescue(tr("Une action a échoué."));
 }
 
 void formUsmira::openCommandLine(const QString &path)

@@ -40,6 +40,9 @@ public:
     void LoadParg(int n) { m_page.LoadParg(n); }
     void SaveCurParg() { m_page.SaveCurParg(); }
 
+    // Something failed that nobody foresaw: what was typed is saved, and the author told.
+    void rescue();
+
     // Shows in this window how work goes.
     WorkReport &work() { return m_work; }
 

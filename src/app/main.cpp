@@ -1,3 +1,4 @@
+#include "app/Application.h"
 #include "app/Desktop.h"
 #include "app/formUsmira.h"
 #include "platform/DialogPrompts.h"
@@ -6,12 +7,11 @@
 #include "store/Journal.h"
 #include "store/WorkingFolder.h"
 
-#include <QApplication>
 #include <QIcon>
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
+    Application application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Usmira"));
     QCoreApplication::setApplicationVersion(QStringLiteral(USMIRA_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("usmira"));
@@ -31,9 +31,10 @@ int main(int argc, char *argv[])
         return true;
     });
     formUsmira window(variables, prompts);
+    QObject::connect(&application, &Application::failed, &window, &formUsmira::rescue);
     window.Form_Load();
     window.show();
     // A path with spaces need not be quoted: the command line is one path as it stands.
     window.openCommandLine(QCoreApplication::arguments().mid(1).join(u' '));
-    return QApplication::exec();
+    return Application::exec();
 }

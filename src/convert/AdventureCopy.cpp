@@ -28,7 +28,8 @@ bool saveCopy(const Variables &variables, Prompts &prompts, WorkReport &report)
     const QString path = prompts.saveName(
         QCoreApplication::translate("AdventureCopy", "Enregistrer une Copie Sous"),
         QCoreApplication::translate("AdventureCopy", "Fichiers Usmira (*.usm)|*.usm"),
-        QStringLiteral("usm"), QString());
+        QStringLiteral("usm"),
+        QCoreApplication::translate("AdventureCopy", "%1 (copie)").arg(proposedName(variables)));
     return !path.isEmpty() && reportingFailures(prompts, [&] {
         refuseOwnFiles(variables, path);
         const QList<int> missing = writeCopy(variables, path, report);

@@ -2,6 +2,7 @@
 
 #include "editor/RtfBox.h"
 #include "platform/Twips.h"
+#include "richtext/TextStates.h"
 #include "store/LenientNumbers.h"
 #include "ui_TabPanel.h"
 
@@ -137,7 +138,8 @@ bool TabPanel::eventFilter(QObject *watched, QEvent *event)
 void TabPanel::addTab()
 {
     const QString tab = asCentimetres(numberOf(m_ui->txtNewTab->text()));
-    if (tab.toDouble() <= 0) {
+    const double twips = tab.toDouble() * Twips::PerCentimetre;
+    if (twips <= 0 || twips > ParagraphState::MaxTwips) {
         m_ui->txtNewTab->selectAll();
         Q_EMIT tabRefused();
         return;

@@ -197,13 +197,14 @@ private Q_SLOTS:
         const WindowFixture fixture(oneText());
         fixture.click("btnMore");
         QLineEdit &tab = fixture.field("txtNewTab");
-        for (const char *typed : {"3", "1", "1.0", "12,3456", "0", "-2", "abc", "0.0004"}) {
+        for (const char *typed :
+             {"3", "1", "1.0", "12,3456", "0", "-2", "abc", "0.0004", "99999"}) {
             QTest::mouseClick(&tab, Qt::LeftButton);
             QTest::keyClicks(&tab, typed);
             fixture.click("btnAddTab");
         }
         QCOMPARE(fixture.entries("tabList"), "1.0|3.0|12.346");
-        QCOMPARE(fixture.prompts.beeps(), 4); // for those that are no places
+        QCOMPARE(fixture.prompts.beeps(), 5); // for those that are no places
         QCOMPARE(fixture.box().selTabs()->size(), 3);
         QVERIFY(near(fixture.box().selTabs()->last(), 12.346));
         fixture.box().setSelTabs({1, 2, 3});
