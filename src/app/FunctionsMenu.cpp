@@ -2,6 +2,8 @@
 
 #include "editor/CommandRunner.h"
 #include "editor/ParagraphSearch.h"
+#include "editor/TargetPhrase.h"
+#include "editor/targetDlog.h"
 #include "renumber/blockMove.h"
 #include "renumber/exchangeDlog.h"
 #include "renumber/masterMix.h"
@@ -9,7 +11,7 @@
 
 FunctionsMenu::FunctionsMenu(Variables &variables, Prompts &prompts, WorkReport &report,
                              QWidget &window)
-    : m_variables(variables), m_prompts(prompts), m_window(window),
+    : m_variables(variables), m_prompts(prompts), m_report(report), m_window(window),
       m_commands(variables, prompts, report)
 {
 }
@@ -21,12 +23,20 @@ void FunctionsMenu::connectItems(const Items &items, CommandRunner &runner)
     runner.add(items.swap, Kind::Rewriting, [this] { show<exchangeDlog>(); });
     runner.add(items.blockMove, Kind::Rewriting, [this] { show<blockMove>(); });
     runner.add(items.packHoles, Kind::Rewriting, [this] { show<packHoles>(); });
+    runner.add(items.target, Kind::Rewriting, [this] { menuComTarget_Click(); });
     runner.add(items.count, Kind::Saved, [this] { menuComCount_Click(); });
 }
 
 template <typename Dialog> void FunctionsMenu::show()
 {
     Dialog(m_variables, m_prompts, m_commands, &m_window).exec();
+}
+
+void FunctionsMenu::menuComTarget_Click()
+{
+    targetDlog dialog(m_variables.TargetPhrase, m_prompts, &m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        changeTargetPhrase(m_variables, dialog.phrase(), m_report);
 }
 
 void FunctionsMenu::menuComCount_Click()

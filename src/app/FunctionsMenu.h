@@ -23,16 +23,19 @@ public:
         QAction &swap;
         QAction &blockMove;
         QAction &packHoles;
+        QAction &target;
         QAction &count;
     };
     void connectItems(const Items &items, CommandRunner &runner);
 
 private:
     template <typename Dialog> void show();
+    void menuComTarget_Click();
     void menuComCount_Click();
 
-    const Variables &m_variables;
+    Variables &m_variables;
     Prompts &m_prompts;
+    WorkReport &m_report;
     QWidget &m_window;
     RenumberCommands m_commands;
 };

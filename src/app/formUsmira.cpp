@@ -159,7 +159,7 @@ void formUsmira::connectMenus()
                      *m_ui->menuEditSelectAll},
                     *m_ui->rtfBox);
     m_functions.connectItems({*m_ui->menuComMasterMix, *m_ui->menuComSwap, *m_ui->menuComBlockMove,
-                              *m_ui->menuComPackHoles, *m_ui->menuComCount},
+                              *m_ui->menuComPackHoles, *m_ui->menuComTarget, *m_ui->menuComCount},
                              m_runner);
     m_menuStates.watch(*m_ui->menuCommands);
     m_conversions.connectItems({*m_ui->menuConvRTF, *m_ui->menuConvSave1, *m_ui->menuConvLoad1,

@@ -4,6 +4,7 @@
 #include "convert/html/HtmlCommands.h"
 #include "convert/rtf/CompileCommand.h"
 #include "editor/ParagraphSearch.h"
+#include "editor/TargetPhrase.h"
 #include "outil/DoubtfulList.h"
 #include "outil/StateReport.h"
 #include "platform/SafeFile.h"
@@ -95,6 +96,13 @@ const std::vector<Commands::Entry> &Commands::entries()
         {text("compiler-rtf"), text("BAS HAUT FICHIER"),
          QT_TR_NOOP("réunit les paragraphes de BAS à HAUT en un document RTF"), true,
          &Commands::compilerRtf},
+        {text("phrase"), text("TEXTE"), QT_TR_NOOP("change la phrase cible ; _ y est un espace"),
+         true, &Commands::phrase},
+        {text("compter"),
+         {},
+         QT_TR_NOOP("écrit le nombre de paragraphes rédigés"),
+         true,
+         &Commands::compter},
         {text("etat"),
          {},
          QT_TR_NOOP("écrit l'état de l'aventure en JSON, sur une ligne"),
@@ -318,6 +326,19 @@ QByteArray Commands::compilerRtf(const QStringList &arguments)
 {
     compileToRtf(m_export, exportRequest(arguments), defaultNumberStyle(m_variables));
     return {};
+}
+
+QByteArray Commands::phrase(const QStringList &arguments)
+{
+    const QString phrase = phraseOf(arguments.first());
+    if (phrase != m_variables.TargetPhrase && canKeepPhrase(phrase, m_prompts))
+        changeTargetPhrase(m_variables, phrase, m_view);
+    return {};
+}
+
+QByteArray Commands::compter(const QStringList & /*arguments*/)
+{
+    return line(countWritten(m_variables));
 }
 
 QByteArray Commands::etat(const QStringList & /*arguments*/)

@@ -53,6 +53,8 @@ private:
     QByteArray html(const QStringList &arguments);
     QByteArray pages(const QStringList &arguments);
     QByteArray compilerRtf(const QStringList &arguments);
+    QByteArray phrase(const QStringList &arguments);
+    QByteArray compter(const QStringList &arguments);
     QByteArray etat(const QStringList &arguments);
 
     QByteArray renumbered(bool done);

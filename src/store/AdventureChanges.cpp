@@ -36,3 +36,12 @@ void setFixed(Variables &variables, int n, bool fixed)
     setFlags(variables, variables.AdventureModified, true);
     Q_EMIT variables.Events->marksChanged();
 }
+
+void setTargetPhrase(Variables &variables, const QString &phrase,
+                     const ParagraphArray<QString, 2001> &index)
+{
+    variables.TargetPhrase = phrase;
+    variables.refIndex = index;
+    setModified(variables);
+    Q_EMIT variables.Events->targetPhraseChanged();
+}

@@ -17,3 +17,7 @@ void setSaved(Variables &variables);
 // Fixes paragraph n, 0..2000, or frees it. The mark alone leaves AdventureModified as it is:
 // required; saving writes it all the same.
 void setFixed(Variables &variables, int n, bool fixed);
+
+// Makes phrase, with the index of references that goes with it, the target phrase.
+void setTargetPhrase(Variables &variables, const QString &phrase,
+                     const ParagraphArray<QString, 2001> &index);

@@ -25,6 +25,9 @@ Q_SIGNALS:
     // Paragraphs were fixed or freed.
     void marksChanged();
 
+    // References are recognised by another phrase, and the index is another one.
+    void targetPhraseChanged();
+
     // Another adventure has become the open one, and everything is new.
     void adventureReplaced();
 

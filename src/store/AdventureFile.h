@@ -38,6 +38,9 @@ struct AdventureContents {
 
 inline constexpr int CurrentVersion = 35;
 
+// Characters of a target phrase.
+inline constexpr qsizetype LongestPhrase = 32767;
+
 // Reads a file of any version. Of a hostile file: unknown tags are passed over, a range that does
 // not fit the sections is widened to them, a text that cannot be one is damaged. Throws FileError,
 // or FormatError on an end before "DONE", a length beyond the end, a 2-byte number of 32768 or more

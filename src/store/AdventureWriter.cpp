@@ -52,7 +52,7 @@ private:
 QByteArray phraseBytes(const Variables &variables)
 {
     const std::optional<QByteArray> phrase = toWindows1252(variables.TargetPhrase);
-    if (!phrase || phrase->size() > std::numeric_limits<qint16>::max())
+    if (!phrase || phrase->size() > LongestPhrase)
         throw FormatError(0, QStringLiteral("a target phrase in Windows-1252"));
     return *phrase;
 }

@@ -188,13 +188,14 @@ private Q_SLOTS:
         WindowFixture fixture(oneText());
         fixture.type(" Du neuf.");
         const QString title = "Enregistrer une Copie Sous";
-        fixture.prompts.expectFileDialog(title, fixture.adventure.path("copie.usm"));
+        fixture.prompts.expectFileDialog(title, fixture.adventure.path("copie.usm"),
+                                         "Le Loup (copie)");
         fixture.trigger("menuAvSaveCopy");
         QVERIFY(fixture.adventure.content("copie.usm").contains("Du neuf."));
         QVERIFY(!fixture.adventure.content("Le Loup.usm").contains("Du neuf."));
         QVERIFY(fixture.variables.AdventureModified);
         QCOMPARE(fixture.variables.AdventureFileName, "Le Loup.usm");
-        fixture.prompts.expectFileDialog(title, fixture.variables.AdventurePath);
+        fixture.prompts.expectFileDialog(title, fixture.variables.AdventurePath, "Le Loup (copie)");
         fixture.prompts.expect("Erreur pendant l'écriture du fichier.", "BUG");
         fixture.trigger("menuAvSaveCopy"); // refused
         QVERIFY(!fixture.adventure.content("Le Loup.usm").contains("Du neuf."));
