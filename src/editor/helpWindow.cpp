@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <exception>
 
 helpWindow::helpWindow(const Variables &variables)
@@ -19,20 +20,30 @@ helpWindow::~helpWindow() = default;
 
 void helpWindow::showHelp(Tag tag)
 {
-    load(tag);
+    keepPlace();
+    m_tag = tag;
+    load();
     // Where the author left it, once it is open.
     const QWidget *asker = QApplication::activeWindow();
     if (!isVisible() && asker != nullptr)
         move(asker->geometry().center() - rect().center());
     show();
+    m_ui->rtfHelp->verticalScrollBar()->setValue(m_places.value(tag));
     raise();
     activateWindow();
     m_ui->rtfHelp->setFocus();
 }
 
-void helpWindow::load(Tag tag)
+// The text goes with the window, and its place with the text.
+void helpWindow::keepPlace()
 {
-    const bool french = tag == Tag::French;
+    if (isVisible())
+        m_places[m_tag] = m_ui->rtfHelp->verticalScrollBar()->value();
+}
+
+void helpWindow::load()
+{
+    const bool french = m_tag == Tag::French;
     const auto help =
         french ? WorkingFiles::Document::FrenchHelp : WorkingFiles::Document::EnglishHelp;
     try {
@@ -45,6 +56,7 @@ void helpWindow::load(Tag tag)
 
 void helpWindow::closeEvent(QCloseEvent *event)
 {
+    keepPlace();
     m_ui->rtfHelp->setText({});
     QWidget::closeEvent(event);
 }

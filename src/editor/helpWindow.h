@@ -2,6 +2,7 @@
 
 #include "store/Variables.h"
 
+#include <QMap>
 #include <QWidget>
 #include <memory>
 
@@ -10,7 +11,7 @@ namespace Ui
 class helpWindow;
 }
 
-// Shows one of the two help files of the working folder.
+// Shows one of the two help files of the working folder, at the place where the reader left it.
 class helpWindow : public QWidget
 {
     Q_OBJECT
@@ -30,8 +31,11 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void load(Tag tag);
+    void load();
+    void keepPlace();
 
     const Variables &m_variables;
+    Tag m_tag = Tag::French;
+    QMap<Tag, int> m_places; // how far each was scrolled
     std::unique_ptr<Ui::helpWindow> m_ui;
 };

@@ -6,6 +6,7 @@
 #include "support/TestTable.h"
 
 #include <QPushButton>
+#include <QScrollBar>
 
 class tst_helpWindow : public QObject
 {
@@ -38,6 +39,24 @@ private Q_SLOTS:
         QTest::mouseClick(help.findChild<QPushButton *>("btnClose"), Qt::LeftButton);
         QVERIFY(!help.isVisible());
         QCOMPARE(box->text(), QString());
+    }
+
+    void comesBackToItsPlace()
+    {
+        using Tag = helpWindow::Tag;
+        const TestAdventure adventure;
+        for (const char *name : {"Aide Française.rtf", "English Help.rtf"})
+            adventure.file(QString("Dossier Usmira/") + name,
+                           rtfOf(QString("Ligne\r\n").repeated(200)));
+        helpWindow help(adventure.variables);
+        help.showHelp(Tag::French);
+        QScrollBar &bar = *help.findChild<RtfBox *>()->verticalScrollBar();
+        bar.setValue(700);
+        help.showHelp(Tag::English);
+        QCOMPARE(bar.value(), 0);
+        help.close();
+        help.showHelp(Tag::French);
+        QCOMPARE(bar.value(), 700);
     }
 
     void describesParagraphs()
