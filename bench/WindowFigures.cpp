@@ -1,13 +1,11 @@
 #include "WindowFigures.h"
 
+#include "BenchWindow.h"
 #include "BigAdventure.h"
 #include "Figures.h"
 #include "app/Desktop.h"
-#include "app/formUsmira.h"
-#include "outil/ScriptPrompts.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTextEdit>
@@ -17,27 +15,6 @@ namespace
 {
 constexpr int Runs = 5;
 constexpr int ShownParagraphs = 200;
-
-// The editor as main builds it, with its own working folder.
-struct Editor {
-    explicit Editor(const QString &folder)
-    {
-        variables.WorkingFolder = folder + QStringLiteral("/window/");
-        QDir().mkpath(variables.WorkingFolder);
-        window.Form_Load();
-        window.show();
-    }
-    // Nothing is painted before the window system has shown the window.
-    void waitUntilExposed()
-    {
-        while (!window.windowHandle()->isExposed())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    Variables variables;
-    QTextStream errors{stderr};
-    ScriptPrompts prompts{errors, std::nullopt};
-    formUsmira window{variables, prompts};
-};
 
 // Leaves the event loop once the widget has been painted.
 class PaintWaiter : public QObject
@@ -58,7 +35,7 @@ QWidget &page(const QWidget &window)
     return *window.findChild<QTextEdit *>(QStringLiteral("rtfBox"))->viewport();
 }
 
-void printShowing(Editor &editor)
+void printShowing(BenchWindow &editor)
 {
     int n = 0;
     const double time = medianMilliseconds(
@@ -96,7 +73,7 @@ double residentMegabytes()
 
 void paintEditor(const QString &path, const QString &folder)
 {
-    Editor editor(folder);
+    BenchWindow editor(folder);
     const PaintWaiter waiter(page(editor.window));
     editor.window.openCommandLine(path);
     QApplication::exec();
@@ -117,7 +94,7 @@ void paintEmptyEdit()
 void printWindowFigures(const QString &path, const QString &folder)
 {
     {
-        Editor editor(folder);
+        BenchWindow editor(folder);
         editor.waitUntilExposed();
         editor.window.openCommandLine(path);
         printShowing(editor);

@@ -5,6 +5,7 @@
 #include "ConvertFigures.h"
 #include "RenumberFigures.h"
 #include "StoreFigures.h"
+#include "TypingFigures.h"
 #include "WindowFigures.h"
 #include "app/Desktop.h"
 
@@ -30,6 +31,7 @@ int main(int argc, char *argv[])
     printRenumberFigures(path, folder.path());
     printStoreFigures(path, folder.path());
     printConvertFigures(path, folder.path());
+    printTypingFigures(path, folder.path());
     printWindowFigures(path, folder.path());
     return 0;
 }

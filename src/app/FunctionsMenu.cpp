@@ -9,6 +9,9 @@
 #include "renumber/masterMix.h"
 #include "renumber/packHoles.h"
 
+#include <QAction>
+#include <QKeySequence>
+
 FunctionsMenu::FunctionsMenu(Variables &variables, Prompts &prompts, WorkReport &report,
                              QWidget &window)
     : m_variables(variables), m_prompts(prompts), m_report(report), m_window(window),
@@ -24,7 +27,17 @@ void FunctionsMenu::connectItems(const Items &items, CommandRunner &runner)
     runner.add(items.blockMove, Kind::Rewriting, [this] { show<blockMove>(); });
     runner.add(items.packHoles, Kind::Rewriting, [this] { show<packHoles>(); });
     runner.add(items.target, Kind::Rewriting, [this] { menuComTarget_Click(); });
+    m_swap = &items.swap;
     runner.add(items.count, Kind::Saved, [this] { menuComCount_Click(); });
+}
+
+// French keyboards have the digit with Shift, and a quotation mark without.
+void FunctionsMenu::showSwapKey()
+{
+    if (m_variables.optCtrlECentres)
+        m_swap->setShortcuts({Qt::CTRL | Qt::Key_3, Qt::CTRL | Qt::Key_QuoteDbl});
+    else
+        m_swap->setShortcut(Qt::CTRL | Qt::Key_E);
 }
 
 template <typename Dialog> void FunctionsMenu::show()

@@ -28,6 +28,9 @@ public:
     };
     void connectItems(const Items &items, CommandRunner &runner);
 
+    // The key of the swap depends on what Ctrl+E does.
+    void showSwapKey();
+
 private:
     template <typename Dialog> void show();
     void menuComTarget_Click();
@@ -38,4 +41,5 @@ private:
     WorkReport &m_report;
     QWidget &m_window;
     RenumberCommands m_commands;
+    QAction *m_swap = nullptr;
 };

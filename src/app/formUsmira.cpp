@@ -146,6 +146,8 @@ void formUsmira::connectBox()
         m_runner.run(Kind::Adventure, [this] { m_navigation.followNumberAtCaret(); });
     });
     connect(keys, &BoxKeys::failed, this, &formUsmira::rescue);
+    connect(keys, &BoxKeys::masterMixWanted, m_ui->menuComMasterMix, &QAction::trigger);
+    connect(keys, &BoxKeys::swapWanted, m_ui->menuComSwap, &QAction::trigger);
     connect(m_ui->rtfBox, &RtfBox::failed, this,
             [this](const QString &failure) { m_runner.rescue(failure); });
     connect(m_ui->frameTabPanel, &TabPanel::tabRefused, this, [this] { m_prompts.beep(); });
@@ -162,6 +164,7 @@ void formUsmira::connectMenus()
                               *m_ui->menuComPackHoles, *m_ui->menuComTarget, *m_ui->menuComCount},
                              m_runner);
     m_menuStates.watch(*m_ui->menuCommands);
+    connect(m_ui->menuCommands, &QMenu::aboutToShow, this, [this] { m_functions.showSwapKey(); });
     m_conversions.connectItems({*m_ui->menuConvRTF, *m_ui->menuConvSave1, *m_ui->menuConvLoad1,
                                 *m_ui->menuConv1toHTML, *m_ui->menuConvNtoHTML},
                                *m_ui->rtfBox, m_runner);
@@ -184,6 +187,7 @@ void formUsmira::Form_Load()
         shrinkToScreen(*this);
     if (QFileInfo::exists(WorkingFiles(m_variables).maximized()))
         setWindowState(windowState() | Qt::WindowMaximized);
+    m_functions.showSwapKey();
     m_page.showTabPanel();
     m_page.showWelcome(WorkingFiles(m_variables).document(WorkingFiles::Document::Welcome));
     m_page.focusEditor();

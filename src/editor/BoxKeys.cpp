@@ -15,6 +15,7 @@ BoxKeys::BoxKeys(const Variables &variables, RtfBox &box, FormattingBar &bar)
 {
     box.installEventFilter(this);
     box.viewport()->installEventFilter(this);
+    box.setKeyPress([this](QChar previous, QChar key) { return rtfBox_KeyPress(previous, key); });
 }
 
 bool BoxKeys::eventFilter(QObject *watched, QEvent *event)
@@ -67,34 +68,49 @@ void BoxKeys::followClick(const QPoint &position)
 // Accepting the question whether a key is a shortcut keeps it from the menus.
 bool BoxKeys::handleKey(QKeyEvent &event, bool press)
 {
-    const Command command = commandOf(event);
-    if (command == nullptr)
+    const Command command = rtfBox_KeyDown(event);
+    if (!command)
         return false;
     event.accept();
     if (!press)
         return true;
     try {
-        (m_bar.*command)();
+        command();
     } catch (const std::exception &) {
         QMetaObject::invokeMethod(this, &BoxKeys::failed, Qt::QueuedConnection);
     }
     return true;
 }
 
-BoxKeys::Command BoxKeys::commandOf(const QKeyEvent &event) const
+// Empty for a key that is not consumed. Ctrl with Alt is how some keyboards type their third
+// characters; and the key of the digit 3 is that of the straight quotation mark on French ones.
+BoxKeys::Command BoxKeys::rtfBox_KeyDown(const QKeyEvent &event)
 {
-    if (event.modifiers() != Qt::ControlModifier)
-        return nullptr;
+    const Qt::KeyboardModifiers held = event.modifiers() & ~Qt::KeypadModifier;
+    if ((held & ~Qt::ShiftModifier) != Qt::ControlModifier)
+        return {};
+    const bool centres = m_variables.optCtrlECentres;
     switch (event.key()) {
+    case Qt::Key_M:
+        return [this] { Q_EMIT masterMixWanted(); };
     case Qt::Key_B:
-        return &FormattingBar::toggleBold;
+        return [this] { m_bar.toggleBold(); };
     case Qt::Key_I:
-        return &FormattingBar::toggleItalic;
+        return [this] { m_bar.toggleItalic(); };
     case Qt::Key_U:
-        return &FormattingBar::toggleUnderline;
+        return [this] { m_bar.toggleUnderline(); };
     case Qt::Key_E:
-        return m_variables.optCtrlECentres ? &FormattingBar::centre : nullptr;
+        return centres ? Command([this] { m_bar.centre(); }) : Command();
+    case Qt::Key_3:
+    case Qt::Key_QuoteDbl:
+        return centres && m_variables.AdventureOpen ? Command([this] { Q_EMIT swapWanted(); })
+                                                    : Command();
     default:
-        return nullptr;
+        return {};
     }
+}
+
+TypedKey BoxKeys::rtfBox_KeyPress(QChar previous, QChar key) const
+{
+    return withTypingAids(m_variables, previous, key);
 }

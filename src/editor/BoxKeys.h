@@ -1,9 +1,11 @@
 #pragma once
 
+#include "editor/TypingAids.h"
 #include "store/Variables.h"
 
 #include <QObject>
 #include <QPoint>
+#include <functional>
 #include <optional>
 
 class FormattingBar;
@@ -11,7 +13,8 @@ class QKeyEvent;
 class QMouseEvent;
 class RtfBox;
 
-// The keys and clicks with Ctrl that the editing box answers itself, before any menu.
+// What the editing box does with keys besides typing them: the keys and clicks with Ctrl that it
+// answers itself, before any menu, and the typing aids.
 class BoxKeys : public QObject
 {
     Q_OBJECT
@@ -24,6 +27,10 @@ Q_SIGNALS:
     // that was clicked.
     void ctrlClicked();
 
+    // Commands of the menu that have a key here as well. They may not be available.
+    void masterMixWanted();
+    void swapWanted();
+
     // A key could not do its work; the text is as before or half changed.
     void failed();
 
@@ -31,8 +38,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    using Command = void (FormattingBar::*)();
-    Command commandOf(const QKeyEvent &event) const;
+    using Command = std::function<void()>;
+    Command rtfBox_KeyDown(const QKeyEvent &event);
+    TypedKey rtfBox_KeyPress(QChar previous, QChar key) const;
     bool handleKey(QKeyEvent &event, bool press);
     void handleRelease(const QMouseEvent &event);
     void followClick(const QPoint &position);

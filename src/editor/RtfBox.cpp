@@ -4,11 +4,13 @@
 #include "platform/Errors.h"
 #include "platform/Twips.h"
 #include "richtext/RichTextClipboard.h"
+#include "richtext/SelectionFormats.h"
 #include "richtext/TextStates.h"
 
 #include <QClipboard>
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
@@ -208,8 +210,6 @@ void RtfBox::keyPressEvent(QKeyEvent *event)
     }
 }
 
-// Insertions that follow one another become one step of the undo list, except into a document that
-// counts as unmodified.
 void RtfBox::type(QKeyEvent *event)
 {
     const QString text = event->text();
@@ -220,12 +220,61 @@ void RtfBox::type(QKeyEvent *event)
         event->ignore();
         return;
     }
-    const bool typed = !isReadOnly() && !text.isEmpty() && text.front().isPrint();
-    if (typed && m_run.begins(text, textCursor().selectionStart(), event->timestamp()))
+    if (isReadOnly() || text.isEmpty() || !text.front().isPrint())
+        QTextEdit::keyPressEvent(event);
+    else
+        insertTyped(event);
+}
+
+// Insertions that follow one another become one step of the undo list, except into a document that
+// counts as unmodified.
+void RtfBox::insertTyped(QKeyEvent *event)
+{
+    const QString text = event->text();
+    const int start = textCursor().selectionStart();
+    const QChar previous = start > 0 ? document()->characterAt(start - 1) : QChar();
+    if (m_run.begins(text, start, event->timestamp()))
         document()->setModified(false);
-    m_typing = typed;
+    m_typing = true;
     QTextEdit::keyPressEvent(event);
     m_typing = false;
+    // Not every key with a text types it.
+    const bool typed = text.size() == 1 && textCursor().position() == start + 1 &&
+                       document()->characterAt(start) == text.front();
+    if (!typed || !m_keyPress)
+        return;
+    const bool lineStart = previous == QChar::ParagraphSeparator;
+    const TypedKey result = m_keyPress(lineStart ? QChar(QChar::LineFeed) : previous, text.front());
+    if (result != TypedKey{text.front()})
+        replaceTyped(result);
+}
+
+void RtfBox::replaceTyped(const TypedKey &typed)
+{
+    const int behind = textCursor().position();
+    QTextCursor replaced(document());
+    replaced.setPosition(behind - (typed.replacesPrevious ? 2 : 1));
+    replaced.setPosition(behind, QTextCursor::KeepAnchor);
+    replaced.insertText(QString(typed.character), SelectionFormats::firstCharFormat(replaced));
+    m_run.end();
+}
+
+// A single character, from a dead key or the like, is typed as by any other key.
+void RtfBox::inputMethodEvent(QInputMethodEvent *event)
+{
+    const QString text = event->commitString();
+    if (text.size() != 1 || !text.front().isPrint() || event->replacementLength() != 0 ||
+        isReadOnly()) {
+        QTextEdit::inputMethodEvent(event);
+        return;
+    }
+    QInputMethodEvent composed; // what was shown until now goes
+    QTextEdit::inputMethodEvent(&composed);
+    QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, text);
+    key.setTimestamp(m_run.when());
+    type(&key);
+    QInputMethodEvent next(event->preeditString(), event->attributes());
+    QTextEdit::inputMethodEvent(&next);
 }
 
 // Left to itself, the edit would turn the bullet into an indent that no file keeps, or with the key

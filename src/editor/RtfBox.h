@@ -1,9 +1,11 @@
 #pragma once
 
+#include "editor/TypingAids.h"
 #include "editor/TypingRun.h"
 #include "richtext/RichTextBox.h"
 
 #include <QTextEdit>
+#include <functional>
 
 class PageColours;
 
@@ -30,6 +32,12 @@ public:
     // Never anything: texts refer to nothing outside.
     QVariant loadResource(int type, const QUrl &name) override;
 
+    // What becomes of each typed character, given the one before it (null at the start of the text,
+    // a line feed at the start of a line). Its answer is a step of the undo list of its own, which
+    // leaves what was typed.
+    using KeyPress = std::function<TypedKey(QChar previous, QChar key)>;
+    void setKeyPress(KeyPress keyPress) { m_keyPress = std::move(keyPress); }
+
     void cut();
     // Puts the text of the clipboard in place of the selection, in the format that is there.
     void pastePlain();
@@ -54,18 +62,22 @@ protected:
     bool viewportEvent(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
 
 private:
     template <typename Action> void guarded(Action action);
     void takeBack(int undoSteps);
     void report(const QString &frenchText);
     void type(QKeyEvent *event);
+    void insertTyped(QKeyEvent *event);
+    void replaceTyped(const TypedKey &typed);
     bool takesBulletAway(const QKeyEvent &event) const;
     bool breaksEmptyLine(const QKeyEvent &event) const;
     void centrePage();
     void paintPage();
 
     PageColours *m_colours = nullptr;
+    KeyPress m_keyPress;
     TypingRun m_run;
     bool m_typing = false;
     bool m_changed = false; // the document, in the step that is going on

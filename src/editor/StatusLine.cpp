@@ -44,6 +44,10 @@ StatusLine::StatusLine(const Variables &variables, const RichTextBox &box, QStat
     bar.setContentsMargins(8, 0, 8, 0);
     bar.addWidget(m_counts, 1);
     bar.addPermanentWidget(m_saved);
+    constexpr int countingDelay = 200; // milliseconds
+    m_counting.setSingleShot(true);
+    m_counting.setInterval(countingDelay);
+    connect(&m_counting, &QTimer::timeout, this, &StatusLine::count);
     const AdventureEvents *events = variables.Events.get();
     connect(events, &AdventureEvents::paragraphSaved, this, &StatusLine::refresh);
     connect(events, &AdventureEvents::modifiedChanged, this, &StatusLine::refresh);
@@ -51,6 +55,7 @@ StatusLine::StatusLine(const Variables &variables, const RichTextBox &box, QStat
     refresh();
 }
 
+// Counting takes as long as the text is, which no key shall have to wait for.
 void StatusLine::refresh()
 {
     if (!m_variables.AdventureOpen) {
@@ -58,8 +63,17 @@ void StatusLine::refresh()
         m_saved->clear();
         return;
     }
-    m_counts->setText(
-        describeParagraph(m_variables.CurrentParagraph, m_box.text(), m_variables.TargetPhrase));
+    if (!m_variables.ParagraphDirty || m_counted != m_variables.CurrentParagraph)
+        count();
+    else if (!m_counting.isActive())
+        m_counting.start();
     const bool modified = m_variables.ParagraphDirty || hasUnsavedChanges(m_variables);
     m_saved->setText(modified ? tr("modifié") : tr("enregistré"));
+}
+
+void StatusLine::count()
+{
+    m_counting.stop();
+    m_counted = m_variables.CurrentParagraph;
+    m_counts->setText(describeParagraph(m_counted, m_box.text(), m_variables.TargetPhrase));
 }

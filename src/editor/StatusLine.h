@@ -3,6 +3,7 @@
 #include "store/Variables.h"
 
 #include <QObject>
+#include <QTimer>
 
 class QLabel;
 class QStatusBar;
@@ -19,10 +20,14 @@ public:
     void refresh();
 
 private:
+    void count();
+
     const Variables &m_variables;
     const RichTextBox &m_box;
     QLabel *m_counts;
     QLabel *m_saved;
+    QTimer m_counting;
+    int m_counted = -1; // the paragraph whose counts are shown
 };
 
 // "paragraphe 26 · 134 mots · 3 renvois". A word holds at least one letter or digit, so that a dash

@@ -13,6 +13,9 @@ public:
     // Something else was done to the text or to the caret: what is typed next begins a step.
     void end() { m_length = 0; }
 
+    // The time of what was typed last.
+    quint64 when() const { return m_when; }
+
 private:
     qsizetype m_length = 0; // characters in this step
     qsizetype m_behind = 0; // where the next one would continue it

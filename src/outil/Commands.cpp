@@ -5,6 +5,7 @@
 #include "convert/rtf/CompileCommand.h"
 #include "editor/ParagraphSearch.h"
 #include "editor/TargetPhrase.h"
+#include "editor/TypingAids.h"
 #include "outil/DoubtfulList.h"
 #include "outil/StateReport.h"
 #include "platform/SafeFile.h"
@@ -19,7 +20,8 @@
 #include <QTime>
 #include <algorithm>
 
-// How many arguments a command takes is read off its form; those in brackets may be left out.
+// How many arguments a command takes is read off its form; those in brackets may be left out, and
+// those with dots be given again.
 struct Commands::Entry {
     QString name;
     QString form;
@@ -43,6 +45,16 @@ int paragraphNumber(const QString &word)
 ExportRequest exportRequest(const QStringList &arguments)
 {
     return {lenientNumber(arguments.at(0)), lenientNumber(arguments.at(1)), arguments.at(2)};
+}
+
+// The options of typing, those named on and the others off. Throws UsageError.
+void nameOptions(Variables &variables, const QStringList &names)
+{
+    QStringList unknown = names;
+    for (const TypingOption &option : typingOptions())
+        option.set(variables, unknown.removeAll(QLatin1String(option.name())) > 0);
+    if (!unknown.isEmpty())
+        throw UsageError(Commands::tr("option inconnue : %1").arg(unknown.first()));
 }
 
 QByteArray line(int n)
@@ -103,6 +115,9 @@ const std::vector<Commands::Entry> &Commands::entries()
          QT_TR_NOOP("écrit le nombre de paragraphes rédigés"),
          true,
          &Commands::compter},
+        {text("taper"), text("TEXTE [OPTION...]"),
+         QT_TR_NOOP("tape TEXTE avec les aides à la frappe nommées et écrit ce qui en vient"),
+         false, &Commands::taper},
         {text("etat"),
          {},
          QT_TR_NOOP("écrit l'état de l'aventure en JSON, sur une ligne"),
@@ -129,7 +144,8 @@ QByteArray Commands::run(const QStringList &words)
         throw UsageError(tr("commande inconnue : %1").arg(words.first()));
     const QStringList form = entry->form.split(u' ', Qt::SkipEmptyParts);
     const qsizetype optional = entry->form.count(u'[');
-    if (words.size() - 1 > form.size() || words.size() - 1 < form.size() - optional)
+    const bool anyNumber = entry->form.endsWith(QStringLiteral("...]"));
+    if ((words.size() - 1 > form.size() && !anyNumber) || words.size() - 1 < form.size() - optional)
         throw UsageError(tr("attendu : %1 %2").arg(entry->name, entry->form).trimmed());
     if (entry->needsAdventure && !m_variables.AdventureOpen) {
         m_prompts.message(tr("Aucun Fichier Ouvert"), QStringLiteral("Usmira"),
@@ -339,6 +355,22 @@ QByteArray Commands::phrase(const QStringList &arguments)
 QByteArray Commands::compter(const QStringList & /*arguments*/)
 {
     return line(countWritten(m_variables));
+}
+
+// The author's own options stay as they are.
+QByteArray Commands::taper(const QStringList &arguments)
+{
+    Variables options;
+    nameOptions(options, arguments.mid(1));
+    QString text;
+    for (const QChar key : arguments.first()) {
+        const QChar previous = text.isEmpty() ? QChar() : text.back();
+        const TypedKey typed = withTypingAids(options, previous, key);
+        if (typed.replacesPrevious)
+            text.chop(1);
+        text += typed.character;
+    }
+    return text.toUtf8() + '\n';
 }
 
 QByteArray Commands::etat(const QStringList & /*arguments*/)

@@ -55,6 +55,7 @@ private:
     QByteArray compilerRtf(const QStringList &arguments);
     QByteArray phrase(const QStringList &arguments);
     QByteArray compter(const QStringList &arguments);
+    QByteArray taper(const QStringList &arguments);
     QByteArray etat(const QStringList &arguments);
 
     QByteArray renumbered(bool done);

@@ -58,6 +58,16 @@ private Q_SLOTS:
         QTEST(splitCommand(line), "words");
     }
 
+    void typesWithTheAidsThatAreNamed()
+    {
+        const TestAdventure adventure;
+        const QByteArray script = "taper 'x--- \"oe' optNDash optFrenchQuotes\ntaper 'x--'\n";
+        const Outcome outcome = run(adventure, {}, script);
+        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(QString::fromUtf8(outcome.output), QStringLiteral("x–- «oe\nx--\n"));
+        QCOMPARE(run(adventure, {}, "taper x optNDash optRien\n").status, 2);
+    }
+
     void aScriptMakesAndReadsAnAdventure()
     {
         TestAdventure adventure;
