@@ -3,6 +3,7 @@
 #include "BigAdventure.h"
 #include "CompilationFigures.h"
 #include "ConvertFigures.h"
+#include "ReferenceFigures.h"
 #include "RenumberFigures.h"
 #include "StoreFigures.h"
 #include "TypingFigures.h"
@@ -32,6 +33,7 @@ int main(int argc, char *argv[])
     printStoreFigures(path, folder.path());
     printConvertFigures(path, folder.path());
     printTypingFigures(path, folder.path());
+    printReferenceFigures();
     printWindowFigures(path, folder.path());
     return 0;
 }

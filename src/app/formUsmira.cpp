@@ -7,6 +7,7 @@
 #include "editor/BoxKeys.h"
 #include "editor/FirstWords.h"
 #include "editor/ParagraphSearch.h"
+#include "editor/ReferenceUnderlines.h"
 #include "platform/Guarded.h"
 #include "platform/SafeFile.h"
 #include "store/AdventureEvents.h"
@@ -152,6 +153,8 @@ void formUsmira::connectBox()
             [this](const QString &failure) { m_runner.rescue(failure); });
     connect(m_ui->frameTabPanel, &TabPanel::tabRefused, this, [this] { m_prompts.beep(); });
     connect(&m_page, &ParagraphPage::changed, &m_status, &StatusLine::refresh);
+    auto *underlines = new ReferenceUnderlines(m_variables, *m_ui->rtfBox);
+    connect(&m_page, &ParagraphPage::changed, underlines, &ReferenceUnderlines::followPhrase);
 }
 
 void formUsmira::connectMenus()

@@ -11,7 +11,8 @@ QColor readableColour(const QColor &colour, const QColor &page);
 // painted and nothing else: neither the document nor its undo list nor what is copied or saved.
 //
 // It sets the additional formats of the text's layouts, of which there is one set for each
-// paragraph: whatever else marks text shall use the extra selections of its view.
+// paragraph: whatever else marks text shall use the extra selections of its view, or paint over the
+// page.
 class PageColours : public QSyntaxHighlighter
 {
     Q_OBJECT

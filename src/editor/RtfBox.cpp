@@ -13,6 +13,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -181,6 +182,15 @@ bool RtfBox::viewportEvent(QEvent *event)
     bool handled = true;
     guarded([this, event, &handled] { handled = QTextEdit::viewportEvent(event); });
     return handled;
+}
+
+void RtfBox::paintEvent(QPaintEvent *event)
+{
+    QTextEdit::paintEvent(event);
+    guarded([this, event] {
+        QPainter painter(viewport());
+        Q_EMIT painted(painter, event->rect());
+    });
 }
 
 void RtfBox::changeEvent(QEvent *event)

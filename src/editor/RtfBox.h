@@ -8,6 +8,7 @@
 #include <functional>
 
 class PageColours;
+class QPainter;
 
 // The box on the screen: a page of readable width, centred when there is room for more, in the
 // palette's base colour with surroundings a shade apart. Text in the automatic colour follows the
@@ -45,6 +46,8 @@ public:
 Q_SIGNALS:
     // The text or its formatting was changed by other means than setText, setRtf and loadFile.
     void edited();
+    // The page was painted, so that more can be painted over an area of the viewport.
+    void painted(QPainter &painter, const QRect &area);
     // Something failed inside the box, for the reason that the French text gives. Comes when the
     // event is over; once, however often it failed until then.
     void failed(const QString &frenchText);
@@ -60,6 +63,7 @@ protected:
 
     bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;

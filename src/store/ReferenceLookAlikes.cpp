@@ -125,6 +125,9 @@ Doubt doubtByWhatFollows(QStringView behind, qsizetype digits, bool french)
 {
     static const QRegularExpression pairs = pattern("^(?:[\\s.\\-]\\d\\d){3,}(?!\\d)");
     static const QRegularExpression groups = pattern("^(?:[\\s.\\-]\\d{2,3}){2,}(?!\\d)");
+    // Most references end at a comma or the like, behind which there is nothing to look at.
+    if (behind.isEmpty() || QStringView(u",;:!?)").contains(behind.front()))
+        return Doubt::None;
     const QString text = behind.left(LookAlikeContext).toString();
     if ((digits <= 2 && pairs.match(text).hasMatch()) ||
         (digits >= 3 && groups.match(text).hasMatch()))

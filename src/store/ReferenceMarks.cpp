@@ -26,31 +26,97 @@ int valueOf(QStringView digits)
     return ok ? value : 0;
 }
 
+// What has changed in a line since its marks were read. Positions in the new line.
+struct Change {
+    qsizetype from;
+    qsizetype to;
+    qsizetype growth; // characters that it is longer now
+};
+
+Change changeBetween(QStringView before, QStringView now, bool fromStart)
+{
+    const qsizetype common = std::min(before.size(), now.size());
+    const auto differs = std::mismatch(now.begin(), now.begin() + common, before.begin());
+    const qsizetype from = differs.first - now.begin();
+    qsizetype behind = 0;
+    while (behind < common - from &&
+           now.at(now.size() - 1 - behind) == before.at(before.size() - 1 - behind))
+        ++behind;
+    return {fromStart ? 0 : from, now.size() - behind, now.size() - before.size()};
+}
+
 class LineMarks
 {
 public:
-    LineMarks(QStringView line, QStringView previous, const QString &phrase)
-        : m_line(line), m_previous(previous), m_phrase(phrase), m_french(isFrenchPhrase(phrase))
+    LineMarks(QStringView line, QStringView previousEnd, const QString &phrase)
+        : m_line(line), m_previousEnd(previousEnd), m_phrase(phrase),
+          m_french(isFrenchPhrase(phrase))
     {
     }
 
     QList<ReferenceMark> find()
     {
-        qsizetype from = 0;
-        qsizetype searched = 0; // for what is not read
-        while (const std::optional<Reference> reference = nextReference(m_line, m_phrase, from)) {
-            const ReferenceMark mark = markOf(*reference);
-            findUnread(searched, mark.position);
-            m_marks.append(mark);
-            searched = std::max(mark.position + mark.length, reference->position);
-            from = reference->position;
-        }
-        if (from > 0 || !isRowOfNumbers())
-            findUnread(searched, m_line.size());
+        const bool found = readOn(0, [](const ReferenceMark &) { return false; });
+        if (!found && !isRowOfNumbers())
+            findUnread(0, m_line.size());
+        return m_marks;
+    }
+
+    // The same from the marks before the change. A reference behind which nothing is doubtful
+    // begins the search anew whatever stands before it: between two such the line is read again.
+    QList<ReferenceMark> findAgain(const QList<ReferenceMark> &before, const Change &change)
+    {
+        constexpr qsizetype reach = 2 * LookAlikeContext;
+        const auto sure = [](const ReferenceMark &mark) { return mark.doubt == Doubt::None; };
+        auto kept = std::partition_point(before.begin(), before.end(), [&](const auto &mark) {
+            return mark.position + mark.length + reach <= change.from;
+        });
+        while (kept != before.begin() && !sure(*(kept - 1)))
+            --kept;
+        if (kept == before.begin())
+            return find();
+        m_marks = before.first(kept - before.begin());
+        readOn(m_marks.last().digits, [&](const ReferenceMark &mark) {
+            if (!sure(mark) || mark.position < change.to + reach)
+                return false;
+            auto same = std::partition_point(before.begin(), before.end(), [&](const auto &old) {
+                return old.position + change.growth < mark.position;
+            });
+            if (same == before.end() || !sure(*same) ||
+                same->position + change.growth != mark.position)
+                return false;
+            for (++same; same != before.end(); ++same) {
+                m_marks.append(*same);
+                m_marks.last().position += change.growth;
+                m_marks.last().digits += change.growth;
+            }
+            return true;
+        });
         return m_marks;
     }
 
 private:
+    // Reads on behind a phrase, or from the start, to the end or until ends says so of a mark.
+    // Whether there were any references.
+    template <typename Ends> bool readOn(qsizetype from, Ends ends)
+    {
+        qsizetype searched = m_marks.isEmpty() ? 0
+                                               : m_marks.last().position +
+                                                     m_marks.last().length; // for what is not read
+        while (const std::optional<Reference> reference = nextReference(m_line, m_phrase, from)) {
+            const ReferenceMark mark = markOf(*reference);
+            findUnread(searched, mark.position);
+            m_marks.append(mark);
+            if (ends(mark))
+                return true;
+            searched = std::max(mark.position + mark.length, reference->position);
+            from = reference->position;
+        }
+        if (from > 0)
+            findUnread(searched, m_line.size());
+        return from > 0;
+    }
+
     // Such a line has no phrase at all.
     bool isRowOfNumbers()
     {
@@ -156,39 +222,47 @@ private:
     {
         const qsizetype start = std::max(at - LookAlikeContext, qsizetype{0});
         QString context = m_line.mid(start, at - start).toString();
-        if (start == 0 && !m_previous.isEmpty())
-            context.prepend(m_previous.right(LookAlikeContext).toString() + u'\n');
+        if (start == 0 && !m_previousEnd.isEmpty())
+            context.prepend(m_previousEnd.toString() + u'\n');
         return context;
     }
 
     QStringView m_line;
-    QStringView m_previous;
+    QStringView m_previousEnd;
     const QString &m_phrase;
     bool m_french;
     QList<ReferenceMark> m_marks;
 };
 } // namespace
 
-QList<ReferenceMark> referenceMarksOfLine(QStringView line, QStringView previous,
-                                          const QString &phrase)
+void LineReferences::read(const QString &line, const QString &previous, const QString &phrase)
 {
-    return LineMarks(line, previous, phrase).find();
+    const QString previousEnd = previous.right(LookAlikeContext);
+    LineMarks marks(line, previousEnd, phrase);
+    if (phrase != m_phrase)
+        m_marks = marks.find();
+    else
+        m_marks =
+            marks.findAgain(m_marks, changeBetween(m_line, line, previousEnd != m_previousEnd));
+    m_line = line;
+    m_previousEnd = previousEnd;
+    m_phrase = phrase;
 }
 
 QList<ReferenceMark> referenceMarks(QStringView text, const QString &phrase)
 {
     QList<ReferenceMark> marks;
-    QStringView previous;
+    QStringView previousEnd;
     for (qsizetype start = 0; start < text.size();) {
         const qsizetype found = text.indexOf(u"\r\n", start);
         const qsizetype end = found < 0 ? text.size() : found;
         const QStringView line = text.mid(start, end - start);
-        for (ReferenceMark mark : referenceMarksOfLine(line, previous, phrase)) {
+        for (ReferenceMark mark : LineMarks(line, previousEnd, phrase).find()) {
             mark.position += start;
             mark.digits += start;
             marks.append(mark);
         }
-        previous = line;
+        previousEnd = line.right(LookAlikeContext);
         start = end + 2;
     }
     return marks;

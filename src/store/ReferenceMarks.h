@@ -18,11 +18,24 @@ struct ReferenceMark {
     Doubt doubt;
 };
 
-// The marks of one line, ascending and apart from one another. previous is the line before it; both
-// are without their breaks. What is read is exactly what nextReference finds, since no reference
-// goes over the end of a line. An empty phrase marks nothing.
-QList<ReferenceMark> referenceMarksOfLine(QStringView line, QStringView previous,
-                                          const QString &phrase);
+// The marks of one line, ascending and apart from one another, brought up to date while the line is
+// being written: only around what has changed is it read again. What is read is exactly what
+// nextReference finds, since no reference goes over the end of a line. An empty phrase marks
+// nothing.
+class LineReferences
+{
+public:
+    // previous is the line before it; both are without their breaks.
+    void read(const QString &line, const QString &previous, const QString &phrase);
+
+    const QList<ReferenceMark> &marks() const { return m_marks; }
+
+private:
+    QString m_line;
+    QString m_previousEnd; // as much of it as counts
+    QString m_phrase;
+    QList<ReferenceMark> m_marks;
+};
 
 // The marks of a whole text, whose lines end with CR LF.
 QList<ReferenceMark> referenceMarks(QStringView text, const QString &phrase);

@@ -2,6 +2,7 @@
 #include "store/ReferenceMarks.h"
 #include "support/TestTable.h"
 
+#include <QRandomGenerator>
 #include <algorithm>
 
 namespace
@@ -89,6 +90,34 @@ private Q_SLOTS:
               "Tableau 12", "Rendez-vous 3 fois", "Si le total est égal à 12, va au 5", "26"}) {
             QCOMPARE(doubts(text, Phrase), QString());
             QCOMPARE(entryOf(referenceMarks(text, Phrase)), referenceEntry(text, Phrase));
+        }
+    }
+
+    // Edits at many places of a line, each against reading all of it.
+    void readsAgainAroundWhatHasChanged()
+    {
+        const QStringList words{" au 26", " au  7",     " au",    " 12",         " (au 3)",
+                                "5",      ".",          " texte", " aux 3 et 4", " au au 8",
+                                "\u00a0", " au 15 mai", " "};
+        QRandomGenerator random(7);
+        LineReferences references;
+        QString line = "12, 13";
+        for (int edit = 0; edit < 800; ++edit) {
+            const qsizetype at = random.bounded(line.size() + 1);
+            line.replace(at, random.bounded(line.size() > 900 ? 30 : 6),
+                         words.at(random.bounded(words.size())));
+            const QString previous = edit % 50 < 25 ? "Va au" : "";
+            references.read(line, previous, Phrase);
+            const QString text = previous + "\r\n" + line;
+            QList<ReferenceMark> whole = referenceMarks(text, Phrase);
+            QCOMPARE(references.marks().size(), whole.size());
+            for (const ReferenceMark &mark : references.marks()) {
+                const ReferenceMark expected = whole.takeFirst();
+                QCOMPARE(mark.position + previous.size() + 2, expected.position);
+                QCOMPARE(mark.length, expected.length);
+                QCOMPARE(mark.read, expected.read);
+                QCOMPARE(mark.doubt, expected.doubt);
+            }
         }
     }
 
