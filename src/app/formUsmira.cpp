@@ -48,6 +48,8 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_status(variables, *m_ui->rtfBox, *m_ui->statusBar), m_menuStates(variables),
       m_runner(variables, prompts, m_page, m_menuStates),
       m_adventure(variables, prompts, m_page, m_work), m_navigation(variables, prompts, m_page),
+      m_search(variables, prompts, m_page, m_work),
+      m_searchReplace(variables, prompts, m_search, {m_page, m_navigation, m_runner}, this),
       m_functions(variables, prompts, m_work, *this),
       m_conversions(variables, prompts, m_page, m_work, *this), m_info(variables, prompts, m_page)
 {
@@ -57,6 +59,7 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
     connectSearches();
     connectLists();
     connectBox();
+    connectSearchReplace();
     connectMenus();
 }
 
@@ -157,6 +160,17 @@ void formUsmira::connectBox()
     connect(&m_page, &ParagraphPage::changed, underlines, &ReferenceUnderlines::followPhrase);
 }
 
+void formUsmira::connectSearchReplace()
+{
+    m_menuStates.add(*m_ui->menuEditSearch);
+    connect(m_ui->menuEditSearch, &QAction::triggered, &m_searchReplace,
+            &searchReplace::Form_Activate);
+    m_runner.add(*m_ui->menuEditSearchAgain, Kind::Editing,
+                 [this] { m_searchReplace.searchAgain(); });
+    m_menuStates.watch(*m_ui->menuEdit);
+    connect(&m_searchReplace, &searchReplace::left, this, &formUsmira::saveOnLeaving);
+}
+
 void formUsmira::connectMenus()
 {
     connectEditMenu({*m_ui->menuEdit, *m_ui->menuEditUndo, *m_ui->menuEditRedo, *m_ui->menuEditCut,
@@ -209,10 +223,17 @@ void formUsmira::openCommandLine(const QString &path)
 
 bool formUsmira::event(QEvent *event)
 {
-    const bool ownBox = QApplication::activeModalWidget() != nullptr;
-    if (event->type() == QEvent::WindowDeactivate && !ownBox && !m_work.isUnderWay() && !m_closed)
-        m_page.Form_Deactivate();
+    if (event->type() == QEvent::WindowDeactivate)
+        saveOnLeaving();
     return QMainWindow::event(event);
+}
+
+// The author goes to another window, not to a box of ours.
+void formUsmira::saveOnLeaving()
+{
+    const bool ownBox = QApplication::activeModalWidget() != nullptr;
+    if (!ownBox && !m_work.isUnderWay() && !m_closed)
+        m_page.Form_Deactivate();
 }
 
 // The settings are kept in every case, also when the author stays.

@@ -8,7 +8,9 @@
 #include "editor/MenuStates.h"
 #include "editor/Navigation.h"
 #include "editor/ParagraphPage.h"
+#include "editor/SearchCommands.h"
 #include "editor/StatusLine.h"
+#include "editor/searchReplace.h"
 #include "store/AdventureCommands.h"
 
 #include <QMainWindow>
@@ -57,8 +59,10 @@ private:
     void connectSearches();
     void connectLists();
     void connectBox();
+    void connectSearchReplace();
     void connectMenus();
 
+    void saveOnLeaving();
     void keepMaximized() const;
     void showTitle();
     void txtPargNum_Enter();
@@ -75,6 +79,8 @@ private:
     CommandRunner m_runner;
     AdventureCommands m_adventure;
     Navigation m_navigation;
+    SearchCommands m_search;
+    searchReplace m_searchReplace;
     FunctionsMenu m_functions;
     ConversionsMenu m_conversions;
     InfoMenu m_info;

@@ -2,6 +2,7 @@
 
 #include "store/AdventureCommands.h"
 
+#include <QRect>
 #include <functional>
 
 // The paragraph on the screen as the commands see it.
@@ -23,6 +24,9 @@ public:
     // The text in the box is no longer the one that was loaded: it is to be saved, and what stands
     // around the box follows it.
     virtual void rtfBox_Change() = 0;
+
+    // Scrolls to the selection, and gives its place on the screen.
+    virtual QRect revealSelection() = 0;
 
     virtual void focusEditor() = 0;
 };

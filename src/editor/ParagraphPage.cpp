@@ -161,6 +161,16 @@ void ParagraphPage::Form_Deactivate()
     });
 }
 
+QRect ParagraphPage::revealSelection()
+{
+    const RtfBox &box = m_controls.box;
+    m_controls.box.ensureCursorVisible();
+    QTextCursor start = box.textCursor();
+    start.setPosition(start.selectionStart());
+    const QRect selection = box.cursorRect(start).united(box.cursorRect());
+    return {box.viewport()->mapToGlobal(selection.topLeft()), selection.size()};
+}
+
 void ParagraphPage::focusEditor()
 {
     m_controls.box.setFocus();

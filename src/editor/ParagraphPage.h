@@ -41,6 +41,7 @@ public:
     void keepingPlace(const std::function<void()> &work) override;
     void showAgain() override;
     void rtfBox_Change() override;
+    QRect revealSelection() override;
     void focusEditor() override;
 
     // Before an adventure is open: the text of a file, or none when it cannot be read.

@@ -53,12 +53,18 @@ std::optional<int> firstFree(const Variables &variables, int from)
     return std::nullopt;
 }
 
+QList<int> writtenParagraphs(const Variables &variables)
+{
+    QList<int> numbers;
+    for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
+        if (variables.Written.at(n) == 1)
+            numbers.append(n);
+    }
+    return numbers;
+}
+
 int countWritten(const Variables &variables)
 {
-    int count = 0;
-    for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
-        if (n > 0 && variables.Written.at(n) == 1)
-            ++count;
-    }
-    return count;
+    const QList<int> numbers = writtenParagraphs(variables);
+    return static_cast<int>(numbers.size() - numbers.count(0));
 }

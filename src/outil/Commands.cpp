@@ -57,6 +57,21 @@ void nameOptions(Variables &variables, const QStringList &names)
         throw UsageError(Commands::tr("option inconnue : %1").arg(unknown.first()));
 }
 
+// The words behind what is searched for.
+FindOptions findOptions(const QStringList &words)
+{
+    FindOptions options;
+    for (const QString &word : words) {
+        if (word == QStringLiteral("casse"))
+            options.matchCase = true;
+        else if (word == QStringLiteral("mot"))
+            options.wholeWord = true;
+        else
+            throw UsageError(Commands::tr("casse ou mot attendu : %1").arg(word));
+    }
+    return options;
+}
+
 QByteArray line(int n)
 {
     return QByteArray::number(n) + '\n';
@@ -101,6 +116,11 @@ const std::vector<Commands::Entry> &Commands::entries()
          QT_TR_NOOP("déplace le bloc BAS à HAUT de DELTA numéros"), true, &Commands::deplacer},
         {text("combler"), text("BAS HAUT"), QT_TR_NOOP("comble les trous entre BAS et HAUT"), true,
          &Commands::combler},
+        {text("chercher"), text("TEXTE [casse] [mot]"),
+         QT_TR_NOOP("écrit le numéro et la position de chaque occurrence"), true,
+         &Commands::chercher},
+        {text("remplacer"), text("CHERCHE PAR [casse] [mot]"),
+         QT_TR_NOOP("remplace partout CHERCHE par PAR"), true, &Commands::remplacer},
         {text("html"), text("BAS HAUT FICHIER.htm"), QT_TR_NOOP("publie en un seul fichier HTML"),
          true, &Commands::html},
         {text("pages"), text("BAS HAUT DOSSIER [PREFIXE]"),
@@ -130,7 +150,7 @@ const std::vector<Commands::Entry> &Commands::entries()
 Commands::Commands(Variables &variables, Prompts &prompts)
     : m_variables(variables), m_prompts(prompts), m_view(variables),
       m_adventure(variables, prompts, m_view, m_view), m_renumber(variables, prompts, m_view),
-      m_export(variables, prompts, m_view)
+      m_search(variables, prompts, m_view, m_view), m_export(variables, prompts, m_view)
 {
 }
 
@@ -160,7 +180,7 @@ QString Commands::help()
     QString help;
     for (const Entry &entry : entries())
         help += QStringLiteral("  %1 %2\n")
-                    .arg((entry.name + u' ' + entry.form).leftJustified(26), tr(entry.purpose));
+                    .arg((entry.name + u' ' + entry.form).leftJustified(36), tr(entry.purpose));
     return help;
 }
 
@@ -311,6 +331,25 @@ QByteArray Commands::combler(const QStringList &arguments)
 {
     return renumbered(
         m_renumber.PackHoles(lenientNumber(arguments.first()), lenientNumber(arguments.last())));
+}
+
+// Positions count from 0, and a paragraph break counts two.
+QByteArray Commands::chercher(const QStringList &arguments)
+{
+    QByteArray lines;
+    const QList<FoundMatch> matches =
+        m_search.all({arguments.first(), findOptions(arguments.mid(1))});
+    for (const FoundMatch &match : matches)
+        lines += QByteArray::number(match.paragraph) + ' ' + line(match.position);
+    return lines;
+}
+
+QByteArray Commands::remplacer(const QStringList &arguments)
+{
+    const std::optional<int> count =
+        m_search.replaceAll({arguments.at(0), findOptions(arguments.mid(2))}, arguments.at(1),
+                            SearchCommands::Where::Everywhere);
+    return count ? SearchCommands::replacedText(*count).toUtf8() + '\n' : QByteArray();
 }
 
 // The author's own HTML codes, from the files that the dialogs begin with.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "convert/ExportCommand.h"
+#include "editor/SearchCommands.h"
 #include "outil/HeadlessView.h"
 #include "outil/Script.h"
 #include "renumber/RenumberCommands.h"
@@ -50,6 +51,8 @@ private:
     QByteArray melanger(const QStringList &arguments);
     QByteArray deplacer(const QStringList &arguments);
     QByteArray combler(const QStringList &arguments);
+    QByteArray chercher(const QStringList &arguments);
+    QByteArray remplacer(const QStringList &arguments);
     QByteArray html(const QStringList &arguments);
     QByteArray pages(const QStringList &arguments);
     QByteArray compilerRtf(const QStringList &arguments);
@@ -67,5 +70,6 @@ private:
     HeadlessView m_view;
     AdventureCommands m_adventure;
     RenumberCommands m_renumber;
+    SearchCommands m_search;
     ExportCommand m_export;
 };

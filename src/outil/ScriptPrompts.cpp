@@ -7,12 +7,17 @@ ScriptPrompts::ScriptPrompts(QTextStream &errors, std::optional<Answer> answer)
 
 Prompts::Answer ScriptPrompts::message(const QString &text, const QString &title, Buttons buttons)
 {
-    const bool question = buttons != Buttons::Ok;
-    if (question && m_answer)
+    const bool confirms = buttons == Buttons::OkCancel;
+    if (buttons != Buttons::Ok && m_answer) {
+        if (confirms)
+            return *m_answer == Answer::Yes ? Answer::Ok : Answer::Cancel;
         return *m_answer;
+    }
     m_errors << title << QStringLiteral(" : ") << text << Qt::endl;
     m_failed = true;
-    return buttons == Buttons::YesNoCancel ? Answer::Cancel : question ? Answer::No : Answer::Ok;
+    if (buttons == Buttons::Ok)
+        return Answer::Ok;
+    return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
 }
 
 void ScriptPrompts::notice(const QString &text, const QString &title)

@@ -42,6 +42,9 @@ QString usage()
                "pas été enregistré\n"
                "est abandonné, ou enregistré avec --oui. Statut : 0 réussi, 1 commande échouée, "
                "2 mauvais usage.\n"
+               "Les positions comptent les caractères à partir de 0, une fin de ligne pour deux ; "
+               "casse distingue\n"
+               "majuscules et minuscules, mot ne trouve que des mots entiers.\n"
                "\n"
                "Commandes :\n") +
            Commands::help();

@@ -15,6 +15,8 @@ QList<Prompts::Answer> answersOf(Prompts::Buttons buttons)
 {
     using Answer = Prompts::Answer;
     switch (buttons) {
+    case Prompts::Buttons::OkCancel:
+        return {Answer::Ok, Answer::Cancel};
     case Prompts::Buttons::YesNo:
         return {Answer::Yes, Answer::No};
     case Prompts::Buttons::YesNoCancel:

@@ -7,7 +7,7 @@
 class Prompts
 {
 public:
-    enum class Buttons { Ok, YesNo, YesNoCancel };
+    enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
     enum class Answer { Ok, Yes, No, Cancel };
 
     Prompts() = default;

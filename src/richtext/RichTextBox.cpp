@@ -51,18 +51,6 @@ RichTextBox::EditStep::~EditStep()
 
 namespace
 {
-bool isWordCharacter(QChar c)
-{
-    return c.isLetterOrNumber() || c == u'_';
-}
-
-bool isWholeWord(const QString &text, qsizetype start, qsizetype length)
-{
-    const qsizetype end = start + length;
-    return (start == 0 || !isWordCharacter(text.at(start - 1))) &&
-           (end == text.size() || !isWordCharacter(text.at(end)));
-}
-
 QString withCrLf(QString text)
 {
     return text.replace(QChar(QChar::ParagraphSeparator), QLatin1String("\r\n"));
@@ -201,17 +189,10 @@ QString RichTextBox::selHtml() const
 
 int RichTextBox::find(const QString &needle, int start, FindOptions options)
 {
-    if (needle.isEmpty())
-        return -1;
-    const QString whole = text();
-    const auto sensitivity = options.matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
-    qsizetype found = whole.indexOf(needle, std::max(0, start), sensitivity);
-    while (found >= 0 && options.wholeWord && !isWholeWord(whole, found, needle.size()))
-        found = whole.indexOf(needle, found + 1, sensitivity);
-    if (found < 0)
-        return -1;
-    select(static_cast<int>(found), static_cast<int>(needle.size()));
-    return static_cast<int>(found);
+    const auto found = static_cast<int>(findText(text(), needle, start, options));
+    if (found >= 0)
+        select(found, static_cast<int>(needle.size()));
+    return found;
 }
 
 void RichTextBox::setBaseFont(const QString &name, double points)

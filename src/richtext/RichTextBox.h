@@ -1,5 +1,6 @@
 #pragma once
 
+#include "richtext/FindText.h"
 #include "richtext/TextRoom.h"
 
 #include <QByteArray>
@@ -34,10 +35,7 @@ class RichTextBox
 {
 public:
     enum class Alignment { Left = 0, Right = 1, Centre = 2 };
-    struct FindOptions {
-        bool wholeWord = false;
-        bool matchCase = false;
-    };
+    using FindOptions = ::FindOptions;
 
     // All that is done to the box during its life is one step of the undo list.
     class EditStep

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/Prompts.h"
+#include "richtext/FindText.h"
+#include "store/Variables.h"
+
+#include <QCoreApplication>
+#include <QList>
+#include <optional>
+
+class AdventureView;
+class WorkReport;
+
+// What the author searches for.
+struct SearchFor {
+    QString text;
+    FindOptions options;
+};
+
+// A match in paragraph number, at a position of its text as RichTextBox counts them.
+struct FoundMatch {
+    int paragraph;
+    int position;
+};
+
+// Searching and replacing in the whole adventure, behind the dialog and the scripts. Other
+// paragraphs are read as they are stored: what the author typed must have been saved.
+class SearchCommands
+{
+    Q_DECLARE_TR_FUNCTIONS(SearchCommands)
+
+public:
+    SearchCommands(Variables &variables, Prompts &prompts, AdventureView &view, WorkReport &report);
+
+    // Whether there is something to search for. If not, the author is told.
+    bool isGiven(const QString &text);
+
+    // The first match in the written paragraphs behind the current one; at the end of the adventure
+    // the author is asked, at each turn, whether to go on at its beginning. A text that cannot be
+    // read holds no match.
+    std::optional<FoundMatch> searchFollowing(const SearchFor &what);
+
+    // All matches, each behind the end of the one before. Nothing when nothing was given.
+    QList<FoundMatch> all(const SearchFor &what);
+
+    // Replaces every match in the current paragraph or in all of them, and returns how many there
+    // were. Nothing when the author was told or asked and nothing has changed.
+    enum class Where { CurrentParagraph, Everywhere };
+    std::optional<int> replaceAll(const SearchFor &what, const QString &by, Where where);
+
+    // What the author is told of it.
+    static QString replacedText(int count);
+
+private:
+    QString textOf(int n) const;
+    std::optional<FoundMatch> firstMatch(const SearchFor &what, int low, int high) const;
+    bool mayErase();
+
+    Variables &m_variables;
+    Prompts &m_prompts;
+    AdventureView &m_view;
+    WorkReport &m_report;
+};

@@ -1,0 +1,179 @@
+#include "editor/searchReplace.h"
+
+#include "editor/CommandRunner.h"
+#include "editor/EditorView.h"
+#include "editor/Navigation.h"
+#include "richtext/RichTextBox.h"
+#include "store/AdventureEvents.h"
+#include "ui_searchReplace.h"
+
+#include <QEvent>
+#include <QScreen>
+#include <QShortcut>
+
+searchReplace::searchReplace(const Variables &variables, Prompts &prompts, SearchCommands &commands,
+                             const Editor &editor, QWidget *parent)
+    : QDialog(parent), m_variables(variables), m_prompts(prompts), m_commands(commands),
+      m_editor(editor), m_ui(std::make_unique<Ui::searchReplace>())
+{
+    m_ui->setupUi(this);
+    m_ui->Remplacer->setEnabled(false);
+    connectControls();
+    connect(variables.Events.get(), &AdventureEvents::adventureReplaced, this,
+            &searchReplace::forgetMatch);
+}
+
+searchReplace::~searchReplace() = default;
+
+void searchReplace::connectControls()
+{
+    connect(m_ui->txtSearch, &QLineEdit::textChanged, this, &searchReplace::txtSearch_Change);
+    const auto connectTo = [this](const QPushButton *button, void (searchReplace::*handler)()) {
+        connect(button, &QPushButton::clicked, this, [this, handler] { run(handler); });
+    };
+    connectTo(m_ui->Suivant, &searchReplace::Suivant_Click);
+    connectTo(m_ui->Remplacer, &searchReplace::Remplacer_Click);
+    connectTo(m_ui->RemplacerTous, &searchReplace::RemplacerTous_Click);
+    connect(m_ui->Fermer, &QPushButton::clicked, this, &searchReplace::Fermer_Click);
+    const auto *again = new QShortcut(QKeySequence(Qt::Key_F3), this);
+    connect(again, &QShortcut::activated, this, [this] { run(&searchReplace::Suivant_Click); });
+}
+
+// The focus that a command gives to the box is that of the main window, which stays behind.
+void searchReplace::run(void (searchReplace::*handler)())
+{
+    m_editor.runner.run(CommandRunner::Kind::Editing, [this, handler] { (this->*handler)(); });
+}
+
+void searchReplace::Form_Activate()
+{
+    m_ui->Remplacer->setEnabled(false);
+    if (!matchIsSelected())
+        forgetMatch();
+    show();
+    raise();
+    activateWindow();
+    m_ui->txtSearch->setFocus();
+    m_ui->txtSearch->selectAll();
+}
+
+void searchReplace::searchAgain()
+{
+    if (m_ui->txtSearch->text().isEmpty())
+        Form_Activate();
+    else
+        run(&searchReplace::Suivant_Click);
+}
+
+bool searchReplace::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowDeactivate)
+        Q_EMIT left();
+    return QDialog::event(event);
+}
+
+void searchReplace::txtSearch_Change()
+{
+    forgetMatch();
+    m_editor.view.editingBox().select(0, 0);
+}
+
+void searchReplace::forgetMatch()
+{
+    setFound(-1);
+}
+
+void searchReplace::setFound(int position)
+{
+    m_lastPos = position;
+    m_lastFound = position >= 0;
+    m_paragraph = m_variables.CurrentParagraph;
+    m_ui->Remplacer->setEnabled(m_lastFound);
+}
+
+SearchFor searchReplace::wanted() const
+{
+    return {m_ui->txtSearch->text(), {m_ui->chWW->isChecked(), m_ui->chMM->isChecked()}};
+}
+
+bool searchReplace::matchIsSelected() const
+{
+    const RichTextBox &box = m_editor.view.editingBox();
+    const SearchFor what = wanted();
+    const auto sensitivity = what.options.matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    return m_lastFound && m_paragraph == m_variables.CurrentParagraph &&
+           box.selStart() == m_lastPos && box.selText().compare(what.text, sensitivity) == 0;
+}
+
+void searchReplace::Suivant_Click()
+{
+    const SearchFor what = wanted();
+    if (!m_commands.isGiven(what.text))
+        return;
+    if (m_paragraph != m_variables.CurrentParagraph)
+        forgetMatch();
+    RichTextBox &box = m_editor.view.editingBox();
+    const int from = m_lastFound ? m_lastPos + 1 : m_lastPos;
+    setFound(box.find(what.text, from, what.options));
+    if (m_lastFound) {
+        revealMatch();
+    } else if (m_ui->ch1P->isChecked()) {
+        box.select(0, 0);
+        m_prompts.message(tr("Fin du paragraphe atteinte."), tr("Rien"), Prompts::Buttons::Ok);
+    } else if (!SearchFollowingParagraphs()) {
+        box.select(0, 0);
+    }
+}
+
+// What was typed is saved before, so that the way round finds it too.
+bool searchReplace::SearchFollowingParagraphs()
+{
+    m_editor.view.SaveCurParg();
+    const SearchFor what = wanted();
+    const std::optional<FoundMatch> match = m_commands.searchFollowing(what);
+    if (!match)
+        return false;
+    m_editor.navigation.goTo(match->paragraph);
+    setFound(m_editor.view.editingBox().find(what.text, match->position, what.options));
+    if (m_lastFound)
+        revealMatch();
+    return m_lastFound;
+}
+
+// This window makes room when it covers what was found.
+void searchReplace::revealMatch()
+{
+    const QRect match = m_editor.view.revealSelection();
+    const QRect window = frameGeometry();
+    if (!isVisible() || !window.intersects(match))
+        return;
+    constexpr int gap = 8;
+    const QRect room = screen()->availableGeometry();
+    const int below = match.bottom() + gap;
+    const bool fits = below + window.height() <= room.bottom();
+    move(window.x(), fits ? below : std::max(room.top(), match.top() - gap - window.height()));
+}
+
+// Only the match itself is replaced, not what the author has selected since.
+void searchReplace::Remplacer_Click()
+{
+    if (matchIsSelected())
+        m_editor.view.editingBox().setSelText(m_ui->txtReplace->text());
+    Suivant_Click();
+}
+
+void searchReplace::RemplacerTous_Click()
+{
+    using Where = SearchCommands::Where;
+    const std::optional<int> count = m_commands.replaceAll(
+        wanted(), m_ui->txtReplace->text(),
+        m_ui->ch1P->isChecked() ? Where::CurrentParagraph : Where::Everywhere);
+    if (count)
+        m_prompts.message(SearchCommands::replacedText(*count), tr("Remplacer Tous"),
+                          Prompts::Buttons::Ok);
+}
+
+void searchReplace::Fermer_Click()
+{
+    reject();
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "editor/SearchCommands.h"
+
+#include <QDialog>
+#include <memory>
+
+class CommandRunner;
+class EditorView;
+class Navigation;
+
+namespace Ui
+{
+class searchReplace;
+}
+
+// Searches and replaces, from a window that stays open beside the editing box and keeps its fields
+// while the program runs.
+class searchReplace : public QDialog
+{
+    Q_OBJECT
+
+public:
+    struct Editor {
+        EditorView &view;
+        Navigation &navigation;
+        CommandRunner &runner;
+    };
+    searchReplace(const Variables &variables, Prompts &prompts, SearchCommands &commands,
+                  const Editor &editor, QWidget *parent);
+    ~searchReplace() override;
+
+    // Comes to the front, ready for a search text. The search begins at the top of the current
+    // paragraph, unless the match found last is still selected.
+    void Form_Activate();
+
+    // Repeats the search; without a search text the window comes for one.
+    void searchAgain();
+
+Q_SIGNALS:
+    // The author has gone to another window.
+    void left();
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    void connectControls();
+    void run(void (searchReplace::*handler)());
+    void txtSearch_Change();
+    void Suivant_Click();
+    void Remplacer_Click();
+    void RemplacerTous_Click();
+    void Fermer_Click();
+
+    SearchFor wanted() const;
+    void forgetMatch();
+    bool matchIsSelected() const;
+    void setFound(int position);
+    bool SearchFollowingParagraphs();
+    void revealMatch();
+
+    const Variables &m_variables;
+    Prompts &m_prompts;
+    SearchCommands &m_commands;
+    Editor m_editor;
+    std::unique_ptr<Ui::searchReplace> m_ui;
+    bool m_lastFound = false; // the last search found a match
+    int m_lastPos = -1;       // and where in the box
+    int m_paragraph = -1;     // of the last search
+};

@@ -1,0 +1,194 @@
+#include "app/WindowFixture.h"
+#include "editor/TextReplacing.h"
+#include "richtext/HiddenBox.h"
+#include "richtext/RtfPlainText.h"
+#include "store/ParagraphTexts.h"
+#include "store/WorkingFiles.h"
+#include "support/TestTable.h"
+
+#include <QCheckBox>
+#include <QFile>
+#include <QPushButton>
+
+namespace
+{
+constexpr auto AskOn = "Dernier paragraphe atteint. Poursuivre au premier ?";
+constexpr auto End = "Fin de l'aventure";
+constexpr auto Yes = Prompts::Answer::Yes;
+constexpr auto YesNo = Prompts::Buttons::YesNo;
+
+QString textOf(const Variables &variables, int n)
+{
+    return rtfToPlainText(GetParagraphRtf(variables, n));
+}
+
+// The search window over paragraphs 2, 5 and 9; 5 is on the screen.
+struct Search : WindowFixture {
+    Search()
+        : WindowFixture(AdventureBuilder({"2: Le loup. Un Loup ?", "5: Va au 9.", "9: loups"})
+                            .rawText(5, "{\\rtf1 Va au {\\b lo}up, \\i loup\\i0  ou au 9.}")
+                            .current(5)),
+          dialog(child<QDialog>(*window, "searchReplace"))
+    {
+        QTest::keyClick(&box(), Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    }
+
+    void fill(const QString &search, const QString &replace = {}) const
+    {
+        typeOver(child<QLineEdit>(dialog, "txtSearch"), search);
+        child<QLineEdit>(dialog, "txtReplace").setText(replace);
+    }
+    void tick(const char *box) const { child<QCheckBox>(dialog, box).setChecked(true); }
+    void press(const char *button) const { ::click(dialog, button); }
+    bool canReplace() const { return child<QPushButton>(dialog, "Remplacer").isEnabled(); }
+    // "5:6+4": the paragraph on the screen and what is selected in it.
+    QString selected() const
+    {
+        return QString("%1:%2+%3").arg(current()).arg(box().selStart()).arg(box().selLength());
+    }
+
+    QDialog &dialog;
+};
+} // namespace
+
+class tst_searchReplace : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void replacesEveryMatchOnce_data()
+    {
+        addTable<QString, QString, QString, bool, bool, QString>(
+            {"text", "needle", "by", "word", "matchCase", "result"},
+            {{"what comes in is not searched", "aa", "a", "aa", false, false, "aaaa"},
+             {"matches do not overlap", "aaa", "aa", "b", false, false, "ba"},
+             {"any case", "É é", "é", "e", false, false, "e e"},
+             {"this case", "É é", "é", "e", false, true, "É e"},
+             {"words", "roi roi_ roi2 (roi)", "roi", "as", true, false, "as roi_ roi2 (as)"},
+             {"a word joined by what came in", "--", "-", "x", true, false, "x-"},
+             {"a word behind what went", "-b-b", "-b", "", true, false, ""},
+             {"over a break", "un\r\ndeux", "\r\n", " ", false, false, "un deux"},
+             {"nothing", "abc", "x", "y", false, false, "abc"}});
+    }
+    void replacesEveryMatchOnce()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const bool, word);
+        QFETCH(const QString, needle);
+        QFETCH(const QString, by);
+        QFETCH(const bool, matchCase);
+        HiddenBox box;
+        box.setText(text);
+        replaceInBox(box, replacementsOfAll(box.text(), needle, by, {word, matchCase}));
+        QTEST(box.text(), "result");
+    }
+
+    void searchesOnThroughTheAdventure()
+    {
+        Search search;
+        QVERIFY(!search.canReplace());
+        search.fill("loup");
+        const auto next = [&] {
+            QTest::keyClick(&search.dialog, Qt::Key_Return);
+            return search.selected();
+        };
+        QCOMPARE(next(), "5:6+4");
+        QCOMPARE(next(), "5:12+4");
+        QVERIFY(search.canReplace());
+        QCOMPARE(next(), "9:0+4");
+        search.prompts.expect(AskOn, End, YesNo, Yes);
+        QCOMPARE(next(), "2:3+4");
+        QTest::keyClick(&search.dialog, Qt::Key_Escape);
+        QVERIFY(!search.dialog.isVisible());
+        search.window->activateWindow();
+        QTest::keyClick(&search.box(), Qt::Key_F3);
+        QCOMPARE(search.selected(), "2:12+4");
+        // Again from where it stands, until the author has selected something else.
+        search.trigger("menuEditSearch");
+        QVERIFY(!search.canReplace());
+        QCOMPARE(next(), "5:6+4");
+        search.box().select(10, 0);
+        search.trigger("menuEditSearch");
+        QCOMPARE(next(), "5:6+4");
+        search.tick("chMM");
+        search.tick("chWW");
+        search.prompts.expect(AskOn, End, YesNo, Prompts::Answer::No);
+        next();
+        QCOMPARE(next(), "5:0+0");
+        QVERIFY(!search.canReplace());
+        search.tick("ch1P");
+        search.fill("absent");
+        search.prompts.expect("Fin du paragraphe atteinte.", "Rien");
+        next();
+        search.fill("");
+        search.prompts.expect("Vous devez chercher pour quelque chose.", "Tsé");
+        search.press("Suivant");
+    }
+
+    // Also what was typed is found on the way round, and saved when the author leaves.
+    void replacesTheMatchThatIsSelected()
+    {
+        Search search;
+        search.fill("loup", "chat");
+        search.press("Suivant");
+        search.box().select(0, 2);
+        search.press("Remplacer");
+        QCOMPARE(search.box().text(), "Va au loup, loup ou au 9.");
+        QCOMPARE(search.selected(), "5:12+4");
+        search.press("Remplacer");
+        QCOMPARE(search.selected(), "9:0+4");
+        QCOMPARE(textOf(search.variables, 5), "Va au loup, chat ou au 9.");
+        QVERIFY(search.variables.AdventureModified);
+        search.prompts.expect(AskOn, End, YesNo, Prompts::Answer::No);
+        search.press("Remplacer");
+        QCOMPARE(search.box().text(), "chats");
+    }
+
+    void replacesEverywhereAndLeavesTheRestAsItIs()
+    {
+        Search search;
+        const QByteArray ninth = GetParagraphRtf(search.variables, 9);
+        search.fill("loup", "au 2");
+        search.tick("chWW");
+        search.prompts.expect("Remplacements effectués : 4.", "Remplacer Tous");
+        search.press("RemplacerTous");
+        QCOMPARE(textOf(search.variables, 2), "Le au 2. Un au 2 ?");
+        QCOMPARE(search.box().text(), "Va au au 2, au 2 ou au 9.");
+        QCOMPARE(GetParagraphRtf(search.variables, 5), search.box().rtf());
+        QVERIFY(search.box().find("au 2,", 0, {}) == 6 && !search.box().selBold());
+        QCOMPARE(search.variables.refIndex.at(2), "0002/0002/");
+        QCOMPARE(search.variables.refIndex.at(5), "0002/0009/");
+        QCOMPARE(GetParagraphRtf(search.variables, 9), ninth);
+        QCOMPARE(search.variables.Extracted.at(9), 0);
+        QVERIFY(search.variables.Extracted.at(2) == 1 && !search.variables.ParagraphDirty);
+        search.trigger("menuEditUndo");
+        QCOMPARE(search.box().text(), "Va au loup, loup ou au 9.");
+    }
+
+    void replacesNothingOrAllOfIt()
+    {
+        Search search;
+        search.fill("loup");
+        const QString attention = "La case Remplacer est vide. Cette opération effacera le texte "
+                                  "cherché partout où il se trouve. Continuer ?";
+        constexpr auto OkCancel = Prompts::Buttons::OkCancel;
+        search.prompts.expect(attention, "Attention", OkCancel, Prompts::Answer::Cancel);
+        search.press("RemplacerTous");
+        QFile::remove(WorkingFiles(search.variables).text(9));
+        search.variables.Extracted.at(9) = 1;
+        search.prompts.expect(attention, "Attention", OkCancel);
+        search.prompts.expect("Erreur de lecture de fichier. Paragraphes illisibles : 9.", "BUG");
+        search.press("RemplacerTous");
+        QVERIFY(search.box().text().contains("loup") && !search.variables.AdventureModified);
+        search.variables.Extracted.at(9) = 0;
+        search.fill("loups");
+        search.prompts.expect(attention, "Attention", OkCancel);
+        search.prompts.expect("Remplacements effectués : 1.", "Remplacer Tous");
+        search.press("RemplacerTous");
+        QVERIFY(textOf(search.variables, 9).isEmpty() && search.variables.Written.at(9) == 1);
+    }
+};
+
+QTEST_MAIN(tst_searchReplace)
+#include "tst_searchReplace.moc"
