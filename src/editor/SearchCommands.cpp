@@ -1,5 +1,6 @@
 #include "editor/SearchCommands.h"
 
+#include "editor/MatchFinder.h"
 #include "editor/ParagraphSearch.h"
 #include "editor/TextReplacing.h"
 #include "platform/Failures.h"
@@ -7,6 +8,36 @@
 #include "store/AdventureCommands.h"
 #include "store/LongWork.h"
 #include "store/ParagraphStore.h"
+
+#include <algorithm>
+#include <map>
+
+namespace
+{
+constexpr int WordsBefore = 30; // characters
+constexpr int WordsBehind = 80;
+constexpr int MostBold = 200;
+
+QString onOneLine(QString text)
+{
+    return text.replace(QLatin1String("\r\n"), QLatin1String(" "));
+}
+
+MatchLine lineOf(int n, const QString &text, const Replacement &match)
+{
+    const qsizetype from = std::max<qsizetype>(0, match.position - WordsBefore);
+    const qsizetype end = match.position + match.length;
+    const QString found = text.mid(match.position, match.length);
+    const QString before =
+        (from > 0 ? QStringLiteral("...") : QString()) + text.mid(from, match.position - from);
+    const QString start = onOneLine(before);
+    const QString bold = onOneLine(found).left(MostBold);
+    return {{n, static_cast<int>(match.position), found},
+            start + bold + onOneLine(text.mid(end, WordsBehind)),
+            static_cast<int>(start.size()),
+            static_cast<int>(bold.size())};
+}
+} // namespace
 
 SearchCommands::SearchCommands(Variables &variables, Prompts &prompts, AdventureView &view,
                                WorkReport &report)
@@ -74,16 +105,19 @@ QList<FoundMatch> SearchCommands::all(const SearchFor &what)
     return matches;
 }
 
-bool SearchCommands::mayErase()
+bool SearchCommands::mayErase(const QString &question)
 {
-    return m_prompts.message(tr("La case Remplacer est vide. Cette opération effacera le texte "
-                                "cherché partout où il se trouve. Continuer ?"),
-                             tr("Attention"), Prompts::Buttons::OkCancel) == Prompts::Answer::Ok;
+    return m_prompts.message(question, tr("Attention"), Prompts::Buttons::OkCancel) ==
+           Prompts::Answer::Ok;
 }
 
 std::optional<int> SearchCommands::replaceAll(const SearchFor &what, const QString &by, Where where)
 {
-    if (!isGiven(what.text) || (by.isEmpty() && !mayErase()))
+    const auto mayEraseAll = [this] {
+        return mayErase(tr("La case Remplacer est vide. Cette opération effacera le texte cherché "
+                           "partout où il se trouve. Continuer ?"));
+    };
+    if (!isGiven(what.text) || (by.isEmpty() && !mayEraseAll()))
         return std::nullopt;
     int count = 0;
     const bool done = reportingFailures(m_prompts, [&] {
@@ -107,4 +141,65 @@ std::optional<int> SearchCommands::replaceAll(const SearchFor &what, const QStri
 QString SearchCommands::replacedText(int count)
 {
     return tr("Remplacements effectués : %1.").arg(count);
+}
+
+QList<MatchLine> SearchCommands::lines(const MatchFinder &finder, int n) const
+{
+    QList<MatchLine> lines;
+    if (m_variables.Written.at(n) == 0)
+        return lines;
+    const QString text = textOf(n);
+    const QList<Replacement> matches = finder.replacements(text, {});
+    for (const Replacement &match : matches)
+        lines.append(lineOf(n, text, match));
+    return lines;
+}
+
+void SearchCommands::tellTooCostly(int n)
+{
+    m_prompts.message(tr("Cette expression régulière demande trop de travail au paragraphe %1. "
+                         "Simplifiez-la.")
+                          .arg(n),
+                      tr("Zut"), Prompts::Buttons::Ok);
+}
+
+void SearchCommands::replaceListed(const MatchFinder &finder, const QString &by,
+                                   const QList<ListedMatch> &matches)
+{
+    if (by.isEmpty() && !mayErase(tr("La case Remplacer est vide. Cette opération effacera les "
+                                     "occurrences choisies. Continuer ?")))
+        return;
+    reportingFailures(m_prompts, [&] {
+        const int replaced = replaceStored(finder, by, matches);
+        const auto gone = matches.size() - replaced;
+        QString text = replacedText(replaced);
+        if (gone > 0)
+            text += u' ' + tr("Occurrences que le texte n'a plus : %1.").arg(gone);
+        m_prompts.message(text, tr("Remplacer la sélection"), Prompts::Buttons::Ok);
+        return true;
+    });
+}
+
+// A match is still there when the same search finds the same text at the same place.
+int SearchCommands::replaceStored(const MatchFinder &finder, const QString &by,
+                                  const QList<ListedMatch> &matches)
+{
+    std::map<int, std::map<qsizetype, QString>> listed;
+    for (const ListedMatch &match : matches)
+        listed[match.paragraph][match.position] = match.text;
+    QList<int> numbers = writtenParagraphs(m_variables);
+    numbers.removeIf([&](int n) { return listed.count(n) == 0; });
+    LongWork work(m_report, tr("Remplacement..."));
+    return replaceInParagraphs(
+        m_variables, m_view.editingBox(), numbers,
+        [&](int n, const QString &text) {
+            QList<Replacement> found = finder.replacements(text, by);
+            found.removeIf([&](const Replacement &match) {
+                const auto chosen = listed[n].find(match.position);
+                return chosen == listed[n].end() ||
+                       chosen->second != text.mid(match.position, match.length);
+            });
+            return found;
+        },
+        work.progress());
 }

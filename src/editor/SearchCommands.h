@@ -9,6 +9,7 @@
 #include <optional>
 
 class AdventureView;
+class MatchFinder;
 class WorkReport;
 
 // What the author searches for.
@@ -21,6 +22,21 @@ struct SearchFor {
 struct FoundMatch {
     int paragraph;
     int position;
+};
+
+// A match as it was when it was listed.
+struct ListedMatch {
+    int paragraph;
+    int position;
+    QString text;
+};
+
+// A line of the list: the match among the words around it, where it is set in bold.
+struct MatchLine {
+    ListedMatch match;
+    QString words;
+    int boldStart;
+    int boldLength;
 };
 
 // Searching and replacing in the whole adventure, behind the dialog and the scripts. Other
@@ -51,10 +67,21 @@ public:
     // What the author is told of it.
     static QString replacedText(int count);
 
+    // The list's lines of paragraph n. Throws PatternTooCostly.
+    QList<MatchLine> lines(const MatchFinder &finder, int n) const;
+    void tellTooCostly(int n);
+
+    // Replaces the listed matches that are still where they were, and tells how many there were and
+    // how many no more. The author is asked before anything is erased.
+    void replaceListed(const MatchFinder &finder, const QString &by,
+                       const QList<ListedMatch> &matches);
+
 private:
     QString textOf(int n) const;
     std::optional<FoundMatch> firstMatch(const SearchFor &what, int low, int high) const;
-    bool mayErase();
+    bool mayErase(const QString &question);
+    int replaceStored(const MatchFinder &finder, const QString &by,
+                      const QList<ListedMatch> &matches);
 
     Variables &m_variables;
     Prompts &m_prompts;

@@ -14,7 +14,8 @@
 searchReplace::searchReplace(const Variables &variables, Prompts &prompts, SearchCommands &commands,
                              const Editor &editor, QWidget *parent)
     : QDialog(parent), m_variables(variables), m_prompts(prompts), m_commands(commands),
-      m_editor(editor), m_ui(std::make_unique<Ui::searchReplace>())
+      m_editor(editor), m_ui(std::make_unique<Ui::searchReplace>()),
+      m_list(variables, commands, parent)
 {
     m_ui->setupUi(this);
     m_ui->Remplacer->setEnabled(false);
@@ -34,7 +35,11 @@ void searchReplace::connectControls()
     connectTo(m_ui->Suivant, &searchReplace::Suivant_Click);
     connectTo(m_ui->Remplacer, &searchReplace::Remplacer_Click);
     connectTo(m_ui->RemplacerTous, &searchReplace::RemplacerTous_Click);
+    connectTo(m_ui->listAll, &searchReplace::listAll_Click);
     connect(m_ui->Fermer, &QPushButton::clicked, this, &searchReplace::Fermer_Click);
+    connect(&m_list, &MatchWindow::left, this, &searchReplace::left);
+    connect(&m_list, &MatchWindow::wanted, this, &searchReplace::showListed);
+    connect(&m_list, &MatchWindow::replaceWanted, this, &searchReplace::replaceListed);
     const auto *again = new QShortcut(QKeySequence(Qt::Key_F3), this);
     connect(again, &QShortcut::activated, this, [this] { run(&searchReplace::Suivant_Click); });
 }
@@ -140,18 +145,24 @@ bool searchReplace::SearchFollowingParagraphs()
     return m_lastFound;
 }
 
-// This window makes room when it covers what was found.
+// Our windows make room when they cover what was found.
 void searchReplace::revealMatch()
 {
     const QRect match = m_editor.view.revealSelection();
-    const QRect window = frameGeometry();
-    if (!isVisible() || !window.intersects(match))
+    keepClear(*this, match);
+    keepClear(m_list, match);
+}
+
+void searchReplace::keepClear(QWidget &window, const QRect &match) const
+{
+    const QRect frame = window.frameGeometry();
+    if (!window.isVisible() || !frame.intersects(match))
         return;
     constexpr int gap = 8;
     const QRect room = screen()->availableGeometry();
     const int below = match.bottom() + gap;
-    const bool fits = below + window.height() <= room.bottom();
-    move(window.x(), fits ? below : std::max(room.top(), match.top() - gap - window.height()));
+    const bool fits = below + frame.height() <= room.bottom();
+    window.move(frame.x(), fits ? below : std::max(room.top(), match.top() - gap - frame.height()));
 }
 
 // Only the match itself is replaced, not what the author has selected since.
@@ -176,4 +187,45 @@ void searchReplace::RemplacerTous_Click()
 void searchReplace::Fermer_Click()
 {
     reject();
+}
+
+void searchReplace::listAll_Click()
+{
+    const SearchFor what = wanted();
+    if (!m_commands.isGiven(what.text))
+        return;
+    m_editor.view.keepingPlace([this] { m_editor.view.SaveCurParg(); });
+    try {
+        m_list.list(MatchFinder({what.text, what.options, m_ui->regularExpression->isChecked(),
+                                 m_ui->ignoreAccents->isChecked()}));
+    } catch (const PatternError &error) {
+        m_prompts.message(tr("Cette expression régulière n'est pas valable, à partir du "
+                             "caractère %1.")
+                              .arg(error.position() + 1),
+                          tr("Zut"), Prompts::Buttons::Ok);
+    }
+}
+
+// Saving may have changed the text since it was listed, and the list follows.
+void searchReplace::showListed(const ListedMatch &match)
+{
+    m_editor.runner.run(CommandRunner::Kind::Editing, [&] {
+        m_editor.navigation.goTo(match.paragraph);
+        RichTextBox &box = m_editor.view.editingBox();
+        box.select(match.position, static_cast<int>(match.text.size()));
+        if (box.selText() != match.text) {
+            box.select(match.position, 0);
+            m_prompts.beep();
+        }
+        revealMatch();
+    });
+}
+
+void searchReplace::replaceListed()
+{
+    const QList<ListedMatch> chosen = m_list.chosen();
+    const MatchFinder finder = m_list.finder();
+    m_editor.runner.run(CommandRunner::Kind::Rewriting, [&] {
+        m_commands.replaceListed(finder, m_ui->txtReplace->text(), chosen);
+    });
 }

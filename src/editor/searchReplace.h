@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/SearchCommands.h"
+#include "editor/MatchWindow.h"
 
 #include <QDialog>
 #include <memory>
@@ -38,7 +38,7 @@ public:
     void searchAgain();
 
 Q_SIGNALS:
-    // The author has gone to another window.
+    // The author has gone from here, or from the list, to another window.
     void left();
 
 protected:
@@ -52,6 +52,9 @@ private:
     void Remplacer_Click();
     void RemplacerTous_Click();
     void Fermer_Click();
+    void listAll_Click();
+    void showListed(const ListedMatch &match);
+    void replaceListed();
 
     SearchFor wanted() const;
     void forgetMatch();
@@ -59,12 +62,14 @@ private:
     void setFound(int position);
     bool SearchFollowingParagraphs();
     void revealMatch();
+    void keepClear(QWidget &window, const QRect &match) const;
 
     const Variables &m_variables;
     Prompts &m_prompts;
     SearchCommands &m_commands;
     Editor m_editor;
     std::unique_ptr<Ui::searchReplace> m_ui;
+    MatchWindow m_list;
     bool m_lastFound = false; // the last search found a match
     int m_lastPos = -1;       // and where in the box
     int m_paragraph = -1;     // of the last search

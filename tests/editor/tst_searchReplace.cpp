@@ -1,5 +1,6 @@
 #include "app/WindowFixture.h"
-#include "editor/TextReplacing.h"
+#include "editor/MatchFinder.h"
+#include "outil/HeadlessView.h"
 #include "richtext/HiddenBox.h"
 #include "richtext/RtfPlainText.h"
 #include "store/ParagraphTexts.h"
@@ -8,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QFile>
+#include <QListView>
 #include <QPushButton>
 
 namespace
@@ -82,6 +84,98 @@ private Q_SLOTS:
         box.setText(text);
         replaceInBox(box, replacementsOfAll(box.text(), needle, by, {word, matchCase}));
         QTEST(box.text(), "result");
+    }
+
+    void findsWhatTheListLooksFor_data()
+    {
+        addTable<QString, QString, QString, bool, bool, QString>(
+            {"text", "needle", "by", "expression", "accents", "result"},
+            {{"accents", "La forêt, la FORET", "foret", "mer", false, true, "La mer, la mer"},
+             {"an accent behind its letter", "e\u0301a", "É", "x", false, true, "xa"},
+             {"no expression", "a.c abc", "a.c", "$0", false, false, "$0 abc"},
+             {"groups", "roi loup", "(\\w+) (\\w+)", "$2 $1$3$$", true, false, "loup roi$"},
+             {"groups with accents", "forêt", "(FOR)(et)", "$2$1", true, true, "êtfor"},
+             {"lines", "a\r\naa", "^a", "b", true, false, "b\r\nba"},
+             {"breaks", "a\r\n\r\nb", "\\s+", " ", true, false, "a b"},
+             {"no empty match", "axa", "x*", "y", true, false, "aya"},
+             {"words of any letters", "à été", "\\b\\w{3}\\b", "x", true, false, "à x"}});
+    }
+    void findsWhatTheListLooksFor()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QString, needle);
+        QFETCH(const QString, by);
+        QFETCH(const bool, expression);
+        QFETCH(const bool, accents);
+        HiddenBox box;
+        box.setText(text);
+        const MatchFinder finder({needle, {}, expression, accents});
+        replaceInBox(box, finder.replacements(box.text(), by));
+        QTEST(box.text(), "result");
+    }
+
+    void anExpressionThatTakesForEverIsStopped()
+    {
+        const MatchFinder finder({"(a+)+$", {}, true, false});
+        QVERIFY_THROWS_EXCEPTION(PatternTooCostly,
+                                 finder.replacements(QString(50000, 'a') + '!', {}));
+        Search search;
+        child<QCheckBox>(search.dialog, "regularExpression").setChecked(true);
+        search.fill("a(");
+        search.prompts.expect(
+            "Cette expression régulière n'est pas valable, à partir du caractère 3.", "Zut");
+        search.press("listAll");
+        search.box().setText(QString(300, 'a') + '!');
+        search.variables.ParagraphDirty = true;
+        search.fill("(a+)+$");
+        search.prompts.expect("Cette expression régulière demande trop de travail au paragraphe 5. "
+                              "Simplifiez-la.",
+                              "Zut");
+        search.press("listAll");
+        auto &count = child<QLabel>(*search.window, "count");
+        QTRY_COMPARE(count.text(), "Occurrences jusqu'au paragraphe 5 : 0");
+    }
+
+    void listsAllMatchesAndReplacesTheChosen()
+    {
+        Search search;
+        search.fill("loup", "chat");
+        search.press("listAll");
+        auto &window = child<QDialog>(*search.window, "MatchWindow");
+        auto &list = child<QListView>(window, "matches");
+        auto &count = child<QLabel>(window, "count");
+        QTRY_COMPARE(count.text(), "Occurrences : 5");
+        QCOMPARE(list.model()->index(1, 0).data().toString(),
+                 "2, caractère 12 : Le loup. Un Loup ?");
+        QTest::keyClick(&list, Qt::Key_Return);
+        QCOMPARE(search.selected(), "2:3+4");
+        search.type("Loup.");
+        list.setCurrentIndex(list.model()->index(3, 0));
+        QTest::keyClick(&list, Qt::Key_Return);
+        QCOMPARE(search.selected(), "5:12+4");
+        QCOMPARE(count.text(), "Occurrences : 6");
+        for (const int row : {0, 5})
+            list.selectionModel()->select(list.model()->index(row, 0), QItemSelectionModel::Select);
+        search.prompts.expect("Remplacements effectués : 3.", "Remplacer la sélection");
+        ::click(window, "replaceChosen");
+        QCOMPARE(textOf(search.variables, 2), "Le chat. Un Loup ?Loup.");
+        QCOMPARE(search.box().text(), "Va au loup, chat ou au 9.");
+        QCOMPARE(textOf(search.variables, 9), "chats");
+        QCOMPARE(count.text(), "Occurrences : 3");
+    }
+
+    void replacesNoListedMatchThatHasGone()
+    {
+        Search search;
+        HeadlessView view(search.variables);
+        SearchCommands commands(search.variables, search.prompts, view, view);
+        view.LoadParg(2);
+        search.prompts.expect("Remplacements effectués : 1. Occurrences que le texte n'a plus : 3.",
+                              "Remplacer la sélection");
+        commands.replaceListed(MatchFinder({"loup", {}, false, false}), "chat",
+                               {{2, 3, "loup"}, {2, 12, "loup"}, {5, 7, "loup"}, {8, 0, "loup"}});
+        QCOMPARE(textOf(search.variables, 2), "Le chat. Un Loup ?");
+        QCOMPARE(search.variables.Extracted.at(5), 0);
     }
 
     void searchesOnThroughTheAdventure()
