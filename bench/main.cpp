@@ -5,6 +5,7 @@
 #include "ConvertFigures.h"
 #include "ReferenceFigures.h"
 #include "RenumberFigures.h"
+#include "SearchFigures.h"
 #include "StoreFigures.h"
 #include "TypingFigures.h"
 #include "WindowFigures.h"
@@ -30,6 +31,7 @@ int main(int argc, char *argv[])
     BigAdventure::make(path);
     printCompilationFigures(path, folder.path());
     printRenumberFigures(path, folder.path());
+    printSearchFigures(path, folder.path());
     printStoreFigures(path, folder.path());
     printConvertFigures(path, folder.path());
     printTypingFigures(path, folder.path());

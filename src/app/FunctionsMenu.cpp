@@ -4,6 +4,7 @@
 #include "editor/ParagraphSearch.h"
 #include "editor/TargetPhrase.h"
 #include "editor/targetDlog.h"
+#include "editor/uniformFormat.h"
 #include "renumber/blockMove.h"
 #include "renumber/exchangeDlog.h"
 #include "renumber/masterMix.h"
@@ -28,6 +29,7 @@ void FunctionsMenu::connectItems(const Items &items, CommandRunner &runner)
     runner.add(items.packHoles, Kind::Rewriting, [this] { show<packHoles>(); });
     runner.add(items.target, Kind::Rewriting, [this] { menuComTarget_Click(); });
     m_swap = &items.swap;
+    runner.add(items.uniform, Kind::Rewriting, [this] { menuComUniform_Click(); });
     runner.add(items.count, Kind::Saved, [this] { menuComCount_Click(); });
 }
 
@@ -50,6 +52,11 @@ void FunctionsMenu::menuComTarget_Click()
     targetDlog dialog(m_variables.TargetPhrase, m_prompts, &m_window);
     if (dialog.exec() == QDialog::Accepted)
         changeTargetPhrase(m_variables, dialog.phrase(), m_report);
+}
+
+void FunctionsMenu::menuComUniform_Click()
+{
+    uniformFormat(m_variables, m_prompts, m_report, &m_window).exec();
 }
 
 void FunctionsMenu::menuComCount_Click()

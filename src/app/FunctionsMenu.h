@@ -24,6 +24,7 @@ public:
         QAction &blockMove;
         QAction &packHoles;
         QAction &target;
+        QAction &uniform;
         QAction &count;
     };
     void connectItems(const Items &items, CommandRunner &runner);
@@ -34,6 +35,7 @@ public:
 private:
     template <typename Dialog> void show();
     void menuComTarget_Click();
+    void menuComUniform_Click();
     void menuComCount_Click();
 
     Variables &m_variables;

@@ -178,7 +178,8 @@ void formUsmira::connectMenus()
                      *m_ui->menuEditSelectAll},
                     *m_ui->rtfBox);
     m_functions.connectItems({*m_ui->menuComMasterMix, *m_ui->menuComSwap, *m_ui->menuComBlockMove,
-                              *m_ui->menuComPackHoles, *m_ui->menuComTarget, *m_ui->menuComCount},
+                              *m_ui->menuComPackHoles, *m_ui->menuComTarget, *m_ui->menuComUniform,
+                              *m_ui->menuComCount},
                              m_runner);
     m_menuStates.watch(*m_ui->menuCommands);
     connect(m_ui->menuCommands, &QMenu::aboutToShow, this, [this] { m_functions.showSwapKey(); });

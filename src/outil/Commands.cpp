@@ -57,21 +57,6 @@ void nameOptions(Variables &variables, const QStringList &names)
         throw UsageError(Commands::tr("option inconnue : %1").arg(unknown.first()));
 }
 
-// The words behind what is searched for.
-FindOptions findOptions(const QStringList &words)
-{
-    FindOptions options;
-    for (const QString &word : words) {
-        if (word == QStringLiteral("casse"))
-            options.matchCase = true;
-        else if (word == QStringLiteral("mot"))
-            options.wholeWord = true;
-        else
-            throw UsageError(Commands::tr("casse ou mot attendu : %1").arg(word));
-    }
-    return options;
-}
-
 QByteArray line(int n)
 {
     return QByteArray::number(n) + '\n';
@@ -121,6 +106,9 @@ const std::vector<Commands::Entry> &Commands::entries()
          &Commands::chercher},
         {text("remplacer"), text("CHERCHE PAR [casse] [mot]"),
          QT_TR_NOOP("remplace partout CHERCHE par PAR"), true, &Commands::remplacer},
+        {text("uniformiser"), text("POLICE TAILLE"),
+         QT_TR_NOOP("donne cette police et cette taille à toute l'aventure (- : laisse)"), true,
+         &Commands::uniformiser},
         {text("html"), text("BAS HAUT FICHIER.htm"), QT_TR_NOOP("publie en un seul fichier HTML"),
          true, &Commands::html},
         {text("pages"), text("BAS HAUT DOSSIER [PREFIXE]"),
@@ -288,7 +276,7 @@ QByteArray Commands::libre(const QStringList &arguments)
 }
 
 // The paragraph that now has the number on the screen comes onto it.
-QByteArray Commands::renumbered(bool done)
+QByteArray Commands::shownAgain(bool done)
 {
     if (done)
         m_view.LoadParg(m_variables.CurrentParagraph);
@@ -297,7 +285,7 @@ QByteArray Commands::renumbered(bool done)
 
 QByteArray Commands::echanger(const QStringList &arguments)
 {
-    return renumbered(
+    return shownAgain(
         m_renumber.Swap(lenientNumber(arguments.first()), lenientNumber(arguments.last())));
 }
 
@@ -309,7 +297,7 @@ QByteArray Commands::melanger(const QStringList &arguments)
     QRandomGenerator generator(seed.toUInt(&ok));
     if (!ok)
         throw UsageError(tr("graine de 0 à 4294967295 attendue : %1").arg(seed));
-    return renumbered(m_renumber.MasterMix(lenientNumber(arguments.at(0)),
+    return shownAgain(m_renumber.MasterMix(lenientNumber(arguments.at(0)),
                                            lenientNumber(arguments.at(1)),
                                            [&generator] { return generator.generateDouble(); }));
 }
@@ -321,35 +309,16 @@ QByteArray Commands::deplacer(const QStringList &arguments)
     const double delta = lenientNumber(arguments.at(2));
     const QString &towards = arguments.at(3);
     if (towards == QStringLiteral("bas"))
-        return renumbered(m_renumber.MoveDown(low, high, delta));
+        return shownAgain(m_renumber.MoveDown(low, high, delta));
     if (towards == QStringLiteral("haut"))
-        return renumbered(m_renumber.MoveUp(low, high, delta));
+        return shownAgain(m_renumber.MoveUp(low, high, delta));
     throw UsageError(tr("bas ou haut attendu : %1").arg(towards));
 }
 
 QByteArray Commands::combler(const QStringList &arguments)
 {
-    return renumbered(
+    return shownAgain(
         m_renumber.PackHoles(lenientNumber(arguments.first()), lenientNumber(arguments.last())));
-}
-
-// Positions count from 0, and a paragraph break counts two.
-QByteArray Commands::chercher(const QStringList &arguments)
-{
-    QByteArray lines;
-    const QList<FoundMatch> matches =
-        m_search.all({arguments.first(), findOptions(arguments.mid(1))});
-    for (const FoundMatch &match : matches)
-        lines += QByteArray::number(match.paragraph) + ' ' + line(match.position);
-    return lines;
-}
-
-QByteArray Commands::remplacer(const QStringList &arguments)
-{
-    const std::optional<int> count =
-        m_search.replaceAll({arguments.at(0), findOptions(arguments.mid(2))}, arguments.at(1),
-                            SearchCommands::Where::Everywhere);
-    return count ? SearchCommands::replacedText(*count).toUtf8() + '\n' : QByteArray();
 }
 
 // The author's own HTML codes, from the files that the dialogs begin with.

@@ -53,6 +53,7 @@ private:
     QByteArray combler(const QStringList &arguments);
     QByteArray chercher(const QStringList &arguments);
     QByteArray remplacer(const QStringList &arguments);
+    QByteArray uniformiser(const QStringList &arguments);
     QByteArray html(const QStringList &arguments);
     QByteArray pages(const QStringList &arguments);
     QByteArray compilerRtf(const QStringList &arguments);
@@ -61,7 +62,7 @@ private:
     QByteArray taper(const QStringList &arguments);
     QByteArray etat(const QStringList &arguments);
 
-    QByteArray renumbered(bool done);
+    QByteArray shownAgain(bool done);
     QString code(WorkingFiles::Document document) const;
     void replaceParagraph(int n, const std::function<void(RichTextBox &)> &change);
 

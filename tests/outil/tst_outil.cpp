@@ -134,6 +134,31 @@ melanger 4 9
         QCOMPARE(outcome.output.count('\n'), 1);
     }
 
+    void textsAreSearchedReplacedAndFormatted()
+    {
+        TestAdventure adventure;
+        const QString path = adventure.file(
+            QStringLiteral("a.usm"),
+            AdventureBuilder({QStringLiteral("1: Roi, roi"), QStringLiteral("4: Rois au 9")})
+                .bytes());
+        const Outcome outcome = run(adventure, {}, "ouvrir '" + path.toUtf8() + R"('
+chercher roi
+chercher roi casse mot
+remplacer roi "au 4" mot
+mene 4
+uniformiser Georgia 1638
+rtf 4
+uniformiser - 1639
+)");
+        QCOMPARE(outcome.status, 2);
+        QVERIFY2(outcome.errors.contains(QStringLiteral("1639")), qPrintable(outcome.errors));
+        QVERIFY2(outcome.output.startsWith(
+                     "1 0\n1 5\n4 0\n1 5\nRemplacements effectués : 2.\n1\n{\\rtf1"),
+                 outcome.output);
+        QVERIFY2(outcome.output.contains("Georgia;") && outcome.output.contains("\\fs3276 Rois"),
+                 outcome.output);
+    }
+
     void paragraphsArePublished()
     {
         TestAdventure adventure;

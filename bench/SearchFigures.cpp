@@ -1,0 +1,74 @@
+#include "SearchFigures.h"
+
+#include "BenchEditor.h"
+#include "BigAdventure.h"
+#include "Figures.h"
+#include "editor/MatchFinder.h"
+#include "editor/SearchCommands.h"
+#include "editor/UniformFormatting.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <memory>
+
+namespace
+{
+constexpr int Runs = 5;
+
+// An editor on a copy of its own.
+std::unique_ptr<BenchEditor> opened(const QString &path, const QString &folder)
+{
+    QTemporaryDir copy(folder + QStringLiteral("/search"));
+    copy.setAutoRemove(false);
+    const QString own = copy.path() + u'/';
+    QFile::copy(path, own + QStringLiteral("Copie.usm"));
+    auto editor = std::make_unique<BenchEditor>(own + QStringLiteral("work"));
+    editor->commands.OpenAdventure(own + QStringLiteral("Copie.usm"));
+    return editor;
+}
+
+void printFigureOf(const char *name, const std::function<void()> &prepare,
+                   const std::function<void()> &action)
+{
+    printFigure(QString::fromUtf8(name), medianMilliseconds(Runs, prepare, action),
+                QStringLiteral("ms"));
+}
+
+void printList(const char *name, const BenchEditor &editor, const SearchCommands &search,
+               const ListQuery &query)
+{
+    const MatchFinder finder(query);
+    const auto list = [&] {
+        for (int n = 1; n <= editor.variables.HighestWritten; ++n)
+            search.lines(finder, n);
+    };
+    printFigureOf(
+        name, [] {}, list);
+}
+} // namespace
+
+void printSearchFigures(const QString &path, const QString &folder)
+{
+    std::unique_ptr<BenchEditor> editor = opened(path, folder);
+    SearchCommands search(editor->variables, editor->prompts, editor->view, editor->view);
+    printFigureOf(
+        "search 2000 paragraphs to the end", [] {},
+        [&] {
+            search.all({QStringLiteral("introuvable"), {}});
+        });
+    const QString word = QStringLiteral("rendez-vous");
+    printList("list the matches of 2000 paragraphs", *editor, search, {word, {}, false, false});
+    printList("list them without accents", *editor, search, {word, {}, false, true});
+    printList("list them by a regular expression", *editor, search,
+              {QStringLiteral("\\brendez-\\w+ au (\\d+)"), {}, true, false});
+    const auto reopen = [&] { editor = opened(path, folder); };
+    printFigureOf("replace in 2000 paragraphs", reopen, [&] {
+        SearchCommands replacing(editor->variables, editor->prompts, editor->view, editor->view);
+        replacing.replaceAll({word, {}}, QStringLiteral("Allez"),
+                             SearchCommands::Where::Everywhere);
+    });
+    printFigureOf("give 2000 paragraphs another font", reopen, [&] {
+        makeAllUniform(editor->variables, editor->prompts, editor->view,
+                       {QStringLiteral("Georgia"), 11.0});
+    });
+}

@@ -1,0 +1,70 @@
+#include "editor/uniformFormat.h"
+
+#include "platform/Guarded.h"
+#include "ui_uniformFormat.h"
+
+#include <QFontDatabase>
+#include <QLineEdit>
+
+uniformFormat::uniformFormat(Variables &variables, Prompts &prompts, WorkReport &report,
+                             QWidget *parent)
+    : QDialog(parent), m_variables(variables), m_prompts(prompts), m_report(report),
+      m_ui(std::make_unique<Ui::uniformFormat>())
+{
+    m_ui->setupUi(this);
+    Form_Load();
+    connect(m_ui->comboFonts, &QComboBox::textActivated, this, &uniformFormat::comboFonts_Click);
+    connect(m_ui->comboFonts->lineEdit(), &QLineEdit::textEdited, this,
+            &uniformFormat::comboFonts_Click);
+    connect(m_ui->comboSizes, &QComboBox::textActivated, this, &uniformFormat::comboSizes_Click);
+    connect(m_ui->comboSizes->lineEdit(), &QLineEdit::textEdited, this,
+            &uniformFormat::comboSizes_Click);
+    connect(m_ui->comboSizes->lineEdit(), &QLineEdit::editingFinished, this,
+            &uniformFormat::checkSize);
+    connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
+                   [this] { OKButton_Click(); });
+    connect(m_ui->CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+uniformFormat::~uniformFormat() = default;
+
+// A font that this machine has not is proposed by its name all the same.
+void uniformFormat::Form_Load()
+{
+    m_ui->comboFonts->addItems(QFontDatabase::families());
+    m_ui->comboFonts->setCurrentText(m_variables.defaultFontName);
+    m_size = QString::number(m_variables.defaultFontSize);
+    m_ui->comboSizes->setCurrentText(m_size);
+}
+
+// Whoever chooses something wants it applied.
+void uniformFormat::comboFonts_Click()
+{
+    m_ui->chFonts->setChecked(true);
+}
+
+void uniformFormat::comboSizes_Click()
+{
+    m_ui->chSizes->setChecked(true);
+}
+
+// A size that no text can have gives way to the one before.
+void uniformFormat::checkSize()
+{
+    if (typedFontSize(m_ui->comboSizes->currentText()))
+        m_size = m_ui->comboSizes->currentText();
+    else
+        m_ui->comboSizes->setCurrentText(m_size);
+}
+
+void uniformFormat::OKButton_Click()
+{
+    checkSize();
+    UniformFormatting formatting;
+    if (m_ui->chFonts->isChecked())
+        formatting.fontName = m_ui->comboFonts->currentText();
+    if (m_ui->chSizes->isChecked())
+        formatting.fontSize = typedFontSize(m_size);
+    if (makeAllUniform(m_variables, m_prompts, m_report, formatting))
+        accept();
+}
