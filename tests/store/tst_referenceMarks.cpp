@@ -1,5 +1,5 @@
 #include "store/ReferenceIndex.h"
-#include "store/ReferenceMarks.h"
+#include "store/ReferenceMends.h"
 #include "support/TestTable.h"
 
 #include <QRandomGenerator>
@@ -41,7 +41,7 @@ private Q_SLOTS:
             {"text", "doubts", "reason"},
             {{"two blanks", "Va au  185.", "185: au  185", int(Doubt::BlanksBefore)},
              {"leading zero", "Va au 026.", "26: au 026", int(Doubt::LeadingZero)},
-             {"digits behind", "Va au 13 3 ou 4", "133: au 13 3", int(Doubt::DigitsBehind)},
+             {"digits behind", "Va au 13 3 orcs", "133: au 13 3", int(Doubt::DigitsBehind)},
              {"behind a stop", "Va au 14. 6 orcs", "15: au 14. 6", int(Doubt::DigitsBehind)},
              {"half read", "Va au 144 150 livres", "1441: au 144 150", int(Doubt::DigitsBehind)},
              {"thousands", "Va au 1 250", "1250: au 1 250", int(Doubt::DigitsBehind)},
@@ -78,6 +78,21 @@ private Q_SLOTS:
         QTEST(int(doubtful->doubt), "reason");
         QVERIFY(!doubtReason(doubtful->doubt, doubtful->read, Phrase).contains(u'%'));
         QCOMPARE(entryOf(marks), referenceEntry(text, Phrase)); // read as everywhere
+        const qsizetype start = text.lastIndexOf('\n') + 1;
+        const QString line = text.mid(start);
+        ReferenceMark mark = *doubtful;
+        mark.position -= start;
+        mark.digits -= start;
+        for (const Mend &mend :
+             mendsOf(mark, line, text.left(start).chopped(start > 0 ? 2 : 0), Phrase)) {
+            QString document = QString(text).replace("\r\n", "\n");
+            const qsizetype lineStart = document.lastIndexOf('\n') + 1;
+            document.replace(lineStart + mend.position, mend.length, mend.text);
+            const QString mended = doubts(document.replace("\n", "\r\n"), Phrase);
+            QVERIFY2(mended.count('|') < doubts(text, Phrase).count('|') || mended.isEmpty(),
+                     qPrintable(document + ": " + mended));
+            QVERIFY(!mend.caption.contains('%') && !mend.caption.isEmpty());
+        }
     }
 
     void nothingIsDoubtful()
