@@ -7,7 +7,7 @@
 #include "editor/BoxKeys.h"
 #include "editor/FirstWords.h"
 #include "editor/ParagraphSearch.h"
-#include "editor/ReferenceUnderlines.h"
+#include "editor/ReferenceAids.h"
 #include "platform/Guarded.h"
 #include "platform/SafeFile.h"
 #include "store/AdventureEvents.h"
@@ -156,8 +156,25 @@ void formUsmira::connectBox()
             [this](const QString &failure) { m_runner.rescue(failure); });
     connect(m_ui->frameTabPanel, &TabPanel::tabRefused, this, [this] { m_prompts.beep(); });
     connect(&m_page, &ParagraphPage::changed, &m_status, &StatusLine::refresh);
-    auto *underlines = new ReferenceUnderlines(m_variables, *m_ui->rtfBox);
-    connect(&m_page, &ParagraphPage::changed, underlines, &ReferenceUnderlines::followPhrase);
+    connectReferences();
+}
+
+void formUsmira::connectReferences()
+{
+    auto *aids = new ReferenceAids(m_variables, m_prompts, *m_ui->rtfBox);
+    connect(&m_page, &ParagraphPage::changed, aids, &ReferenceAids::follow);
+    m_ui->menuNavFollow->setShortcuts({Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter});
+    m_runner.add(*m_ui->menuNavFollow, Kind::Adventure,
+                 [this] { m_navigation.followReferenceAtCaret(); });
+    // The list comes when the author is back in the text.
+    const auto openList = [this, aids] {
+        if (!aids->openList())
+            m_prompts.beep();
+    };
+    m_runner.add(*m_ui->menuEditReference, Kind::Saved, [aids, openList] {
+        QMetaObject::invokeMethod(aids, openList, Qt::QueuedConnection);
+    });
+    m_menuStates.watch(*m_ui->menuEdit);
 }
 
 void formUsmira::connectSearchReplace()

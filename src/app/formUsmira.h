@@ -60,6 +60,7 @@ private:
     void connectLists();
     void connectBox();
     void connectSearchReplace();
+    void connectReferences();
     void connectMenus();
 
     void saveOnLeaving();

@@ -1,6 +1,6 @@
 #include "editor/FirstWords.h"
 
-#include "richtext/HiddenBox.h"
+#include "richtext/RtfPlainText.h"
 #include "store/ParagraphTexts.h"
 
 #include <exception>
@@ -9,9 +9,8 @@ QString firstWords(const Variables &variables, int n)
 {
     constexpr qsizetype longest = 90;
     try {
-        HiddenBox box;
-        box.setRtf(GetParagraphRtf(variables, n));
-        const QString text = box.text().left(4 * longest).simplified();
+        const QString whole = rtfToPlainText(GetParagraphRtf(variables, n));
+        const QString text = whole.left(4 * longest).simplified();
         if (text.size() <= longest)
             return text;
         const qsizetype end = text.lastIndexOf(u' ', longest);

@@ -2,6 +2,7 @@
 
 #include "editor/EditorView.h"
 #include "editor/ParagraphSearch.h"
+#include "platform/Ascii.h"
 #include "richtext/RichTextBox.h"
 #include "store/AdventureEvents.h"
 #include "store/LenientNumbers.h"
@@ -89,7 +90,23 @@ std::optional<int> Navigation::typedNumber(const QString &number)
 void Navigation::followNumberAtCaret()
 {
     const RichTextBox &box = m_view.editingBox();
-    const int n = numberAround(box.text(), box.selStart());
+    follow(box.text(), box.selStart());
+}
+
+void Navigation::followReferenceAtCaret()
+{
+    const RichTextBox &box = m_view.editingBox();
+    const QString text = box.text();
+    const qsizetype caret = box.selStart();
+    const auto isDigitAt = [&text](qsizetype at) {
+        return at >= 0 && at < text.size() && isAsciiDigit(text.at(at));
+    };
+    follow(text, isDigitAt(caret - 1) && !isDigitAt(caret) ? caret - 1 : caret);
+}
+
+void Navigation::follow(QStringView text, qsizetype caret)
+{
+    const int n = numberAround(text, caret);
     if (n >= 1 && n <= Variables::LastParagraph)
         goTo(n);
 }

@@ -42,6 +42,9 @@ public:
     // Goes to the number of the text that the caret stands on, if it is one of 1..2000.
     void followNumberAtCaret();
 
+    // The same with the caret behind the number's last digit, too, as it is when it was typed.
+    void followReferenceAtCaret();
+
     // The current paragraph must have been saved.
     void tellFirstFree();
 
@@ -50,6 +53,7 @@ Q_SIGNALS:
 
 private:
     void show(int n);
+    void follow(QStringView text, qsizetype caret);
 
     const Variables &m_variables;
     Prompts &m_prompts;
