@@ -1,16 +1,20 @@
 #include "ReferenceFigures.h"
 
+#include "BenchEditor.h"
 #include "Figures.h"
+#include "editor/ReferenceChoices.h"
 #include "editor/ReferenceUnderlines.h"
 #include "editor/RtfBox.h"
 #include "store/Variables.h"
 
 #include <QTextBlock>
+#include <optional>
 
 namespace
 {
 constexpr int Runs = 50;
 constexpr int Characters = 50'000;
+constexpr int SeenRows = 15;
 
 // With a reference in every second line of the screen, some of them doubtful.
 QString longLine()
@@ -26,9 +30,7 @@ QString longLine()
         line += sentences;
     return line;
 }
-} // namespace
-
-void printReferenceFigures()
+void printUnderlineFigures()
 {
     Variables variables;
     variables.AdventureOpen = true;
@@ -52,4 +54,32 @@ void printReferenceFigures()
     const double without = paint(false);
     printFigure(QStringLiteral("underline the references on a page of them"), paint(true) - without,
                 QStringLiteral("ms"));
+}
+
+void printListFigures(const QString &path, const QString &folder)
+{
+    BenchEditor editor(folder + QStringLiteral("/list"));
+    editor.commands.OpenAdventure(path);
+    std::optional<ReferenceChoices> choices;
+    printFigure(QStringLiteral("list 2000 paragraphs to refer to"),
+                medianMilliseconds(
+                    Runs, [] {},
+                    [&] {
+                        choices.emplace(editor.variables);
+                        for (int row = 0; row < SeenRows; ++row)
+                            choices->data(choices->index(row), Qt::DisplayRole);
+                    }),
+                QStringLiteral("ms"));
+    printFigure(QStringLiteral("search their first words, read for it"),
+                medianMilliseconds(
+                    Runs / 10, [&] { choices.emplace(editor.variables); },
+                    [&] { choices->narrow(QStringLiteral("forêt")); }),
+                QStringLiteral("ms"));
+}
+} // namespace
+
+void printReferenceFigures(const QString &path, const QString &folder)
+{
+    printUnderlineFigures();
+    printListFigures(path, folder);
 }

@@ -35,7 +35,7 @@ int main(int argc, char *argv[])
     printStoreFigures(path, folder.path());
     printConvertFigures(path, folder.path());
     printTypingFigures(path, folder.path());
-    printReferenceFigures();
+    printReferenceFigures(path, folder.path());
     printWindowFigures(path, folder.path());
     return 0;
 }

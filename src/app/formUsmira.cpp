@@ -174,7 +174,6 @@ void formUsmira::connectReferences()
     m_runner.add(*m_ui->menuEditReference, Kind::Saved, [aids, openList] {
         QMetaObject::invokeMethod(aids, openList, Qt::QueuedConnection);
     });
-    m_menuStates.watch(*m_ui->menuEdit);
 }
 
 void formUsmira::connectSearchReplace()

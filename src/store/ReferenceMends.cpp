@@ -30,18 +30,18 @@ public:
         case Doubt::BlanksBefore:
         case Doubt::LeadingZero:
         case Doubt::TooManyBlanks:
-            return {replaced(tr("« %1 »"))};
+            return {replaced(tr("Écrire « %1 »"))};
         case Doubt::DigitsBehind:
         case Doubt::DigitsJoined:
             return apartFromDigits();
         case Doubt::NoBlank:
             return withBlank();
         case Doubt::NoBreakSpace:
-            return {replaced(tr("« %1 » avec des espaces ordinaires"))};
+            return {replaced(tr("Écrire « %1 » avec des espaces ordinaires"))};
         case Doubt::LineBreak:
             return {onOneLine()};
         case Doubt::WordBetween:
-            return {replaced(tr("« %1 »"))};
+            return {replaced(tr("Écrire « %1 »"))};
         case Doubt::PhraseMissing:
             return {withPhrase()};
         case Doubt::Telephone:
@@ -96,7 +96,7 @@ private:
         const QChar before = m_mark.position > 0 ? m_line.at(m_mark.position - 1) : QChar();
         if (before == u'\'' || before == u'\u2019')
             return {}; // "jusqu'au": the sentence has to be another one
-        return {replaced(tr("« %1 » après une espace"))};
+        return {replaced(tr("Écrire « %1 » après une espace"))};
     }
 
     QList<Mend> apartFromDigits() const
@@ -114,15 +114,15 @@ private:
             return Mend{caption, end, between.size(), text};
         };
         const QString kept = between.trimmed() + QChar::Nbsp;
-        QList<Mend> mends{mend(tr("« %1 » puis « %2 », avec une espace insécable")
+        QList<Mend> mends{mend(tr("Écrire « %1 » puis « %2 », avec une espace insécable")
                                    .arg(reference() + between.trimmed(), others),
                                kept)};
         if (!between.trimmed().isEmpty())
             return mends;
-        mends.append(mend(tr("« %1. » puis « %2 »").arg(reference(), others), u'.' + kept));
+        mends.append(mend(tr("Écrire « %1. » puis « %2 »").arg(reference(), others), u'.' + kept));
         const QString joined = m_number + others;
         if (others.size() == 3 && joined.toInt() <= Variables::LastParagraph)
-            mends.append(mend(tr("« %1 »").arg(reference() + others), QString()));
+            mends.append(mend(tr("Écrire « %1 »").arg(reference() + others), QString()));
         return mends;
     }
 
@@ -133,7 +133,7 @@ private:
                m_previous.at(m_previous.size() - 1 - blanks).isSpace())
             ++blanks;
         const qsizetype from = -1 - blanks;
-        return {tr("« %1 » sur une même ligne").arg(m_core + m_gap + m_number), from,
+        return {tr("Écrire « %1 » sur une même ligne").arg(m_core + m_gap + m_number), from,
                 m_mark.digits - from, m_gap};
     }
 
@@ -145,7 +145,7 @@ private:
                              word.startsWith(u"aux", Qt::CaseInsensitive);
         const qsizetype from = instead ? m_mark.position : m_mark.digits;
         const bool leads = m_leads && !isBlank(from - 1);
-        return {tr("« %1 »").arg(m_core + m_gap + m_number), from, m_mark.digits - from,
+        return {tr("Écrire « %1 »").arg(m_core + m_gap + m_number), from, m_mark.digits - from,
                 (leads ? QStringLiteral(" ") : QString()) + m_core + m_gap};
     }
 
