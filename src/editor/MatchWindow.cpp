@@ -13,6 +13,7 @@ namespace
 {
 constexpr qint64 AtATime = 20;   // milliseconds of filling between two looks at the keyboard
 constexpr int MostLines = 20000; // more than anybody reads
+constexpr int FewTexts = 50;     // to list again one by one
 } // namespace
 
 MatchWindow::MatchWindow(const Variables &variables, SearchCommands &commands, QWidget *parent)
@@ -40,6 +41,10 @@ void MatchWindow::follow()
     const AdventureEvents *events = m_variables.Events.get();
     connect(events, &AdventureEvents::paragraphSaved, this, &MatchWindow::relist);
     connect(events, &AdventureEvents::textsChanged, this, [this](const QList<int> &numbers) {
+        if (m_finder && numbers.size() > FewTexts) {
+            fill();
+            return;
+        }
         for (const int n : numbers)
             relist(n);
     });
@@ -49,16 +54,21 @@ void MatchWindow::follow()
 void MatchWindow::list(const MatchFinder &finder)
 {
     m_finder = finder;
-    m_model.clear();
-    m_next = m_variables.LowestWritten;
-    m_filling.start();
-    showCount();
+    fill();
     if (!isVisible())
         moveAside();
     show();
     raise();
     activateWindow();
     m_ui->matches->setFocus();
+}
+
+void MatchWindow::fill()
+{
+    m_model.clear();
+    m_next = m_variables.LowestWritten;
+    m_filling.start();
+    showCount();
 }
 
 // To the lower right of the main window, where it covers least of the text and of the dialog.

@@ -45,6 +45,7 @@ protected:
 private:
     void follow();
     void moveAside();
+    void fill();
     void fillSome();
     void append(const QList<MatchLine> &lines);
     void relist(int n);

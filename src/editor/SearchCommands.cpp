@@ -23,18 +23,25 @@ QString onOneLine(QString text)
     return text.replace(QLatin1String("\r\n"), QLatin1String(" "));
 }
 
+// What stands before a match in its line: whole words, if any fit.
+QString wordsBefore(const QString &text, qsizetype position)
+{
+    if (position <= WordsBefore)
+        return onOneLine(text.left(position));
+    const QString before = onOneLine(text.mid(position - WordsBefore, WordsBefore));
+    const qsizetype blank = before.indexOf(u' ');
+    return QStringLiteral("...") + (blank < before.size() - 1 ? before.mid(blank + 1) : before);
+}
+
 MatchLine lineOf(int n, const QString &text, const Replacement &match)
 {
-    const qsizetype from = std::max<qsizetype>(0, match.position - WordsBefore);
-    const qsizetype end = match.position + match.length;
     const QString found = text.mid(match.position, match.length);
-    const QString before =
-        (from > 0 ? QStringLiteral("...") : QString()) + text.mid(from, match.position - from);
-    const QString start = onOneLine(before);
+    const QString before = wordsBefore(text, match.position);
     const QString bold = onOneLine(found).left(MostBold);
+    const QString behind = onOneLine(text.mid(match.position + match.length, WordsBehind));
     return {{n, static_cast<int>(match.position), found},
-            start + bold + onOneLine(text.mid(end, WordsBehind)),
-            static_cast<int>(start.size()),
+            before + bold + behind,
+            static_cast<int>(before.size()),
             static_cast<int>(bold.size())};
 }
 } // namespace

@@ -35,6 +35,7 @@ void uniformFormat::Form_Load()
     m_ui->comboFonts->setCurrentText(m_variables.defaultFontName);
     m_size = QString::number(m_variables.defaultFontSize);
     m_ui->comboSizes->setCurrentText(m_size);
+    m_ui->comboSizes->setCompleter(nullptr); // a 1 is meant as it is typed
 }
 
 // Whoever chooses something wants it applied.
