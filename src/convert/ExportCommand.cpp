@@ -39,6 +39,11 @@ bool ExportCommand::run(const ExportRequest &request, const Kind &kind) const
     });
 }
 
+void ExportCommand::tellNothingWritten(const FileError &error) const
+{
+    m_report.announce(failureLine(tr("Aucun fichier n'a été écrit."), error));
+}
+
 void ExportCommand::announce(int written, const QString &place) const
 {
     m_report.announce(tr("%n paragraphe(s) écrit(s) : %1", nullptr, written).arg(place));

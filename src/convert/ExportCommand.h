@@ -7,6 +7,7 @@
 #include <QString>
 #include <functional>
 
+class FileError;
 class Prompts;
 class WorkReport;
 struct Variables;
@@ -41,6 +42,9 @@ public:
     // Writes, and announces in the end how much went where. False when it failed, or the author has
     // stopped it: the author has been told, and what was there before still is.
     bool run(const ExportRequest &request, const Kind &kind) const;
+
+    // Tells in passing that a file could not be made, where a message is not meant.
+    void tellNothingWritten(const FileError &error) const;
 
     const Variables &variables() const { return m_variables; }
 

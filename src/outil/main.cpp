@@ -50,6 +50,16 @@ QString usage()
            Commands::help();
 }
 
+// In our own words: the parser has them in English.
+QString optionFault(const QCommandLineParser &parser)
+{
+    const QStringList unknown = parser.unknownOptionNames();
+    return unknown.isEmpty()
+               ? QCoreApplication::translate("usmira-outil", "valeur attendue après une option")
+               : QCoreApplication::translate("usmira-outil", "option inconnue : %1")
+                     .arg(unknown.join(QStringLiteral(", ")));
+}
+
 QStringList scriptLines(const QCommandLineParser &parser)
 {
     QStringList lines = parser.values(QStringLiteral("e"));
@@ -138,7 +148,7 @@ int main(int argc, char *argv[])
                        option(QStringLiteral("aide"), {})});
     try {
         if (!parser.parse(QCoreApplication::arguments()))
-            throw UsageError(parser.errorText());
+            throw UsageError(optionFault(parser));
         if (parser.isSet(QStringLiteral("aide"))) {
             QTextStream(stdout) << usage();
             return Done;

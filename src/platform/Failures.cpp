@@ -34,6 +34,9 @@ constexpr Reason Reasons[] = {
      QT_TRANSLATE_NOOP("Failures", "ce fichier sert à l'aventure ouverte")},
     {std::errc::device_or_resource_busy,
      QT_TRANSLATE_NOOP("Failures", "un autre programme s'en sert")},
+    {std::errc::invalid_argument, QT_TRANSLATE_NOOP("Failures", "ce nom n'est pas permis")},
+    {std::errc::illegal_byte_sequence,
+     QT_TRANSLATE_NOOP("Failures", "ce fichier est abîmé, ou n'est pas de cette sorte")},
     {std::errc::bad_message,
      QT_TRANSLATE_NOOP("Failures", "un autre programme en a changé le contenu")}};
 
@@ -95,6 +98,11 @@ QString failureText(const QString &words, const UsmiraError &error)
 {
     const QString below = fileAndReason(error);
     return below.isEmpty() ? words : words + u'\n' + below;
+}
+
+QString failureLine(const QString &words, const UsmiraError &error)
+{
+    return failureText(words, error).replace(u'\n', u' ');
 }
 
 void reportFailure(Prompts &prompts, const UsmiraError &error)

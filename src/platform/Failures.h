@@ -14,6 +14,9 @@ void reportFailure(Prompts &prompts, const UsmiraError &error);
 // "/home/moi/Le Loup.usm : le disque est plein.". What is not known is left out.
 QString failureText(const QString &words, const UsmiraError &error);
 
+// The same on one line, for a status line.
+QString failureLine(const QString &words, const UsmiraError &error);
+
 // Tells the author of a failure that nobody foresaw, such as memory that is all used.
 void reportUnforeseen(Prompts &prompts);
 

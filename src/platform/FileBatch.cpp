@@ -31,7 +31,12 @@ void FileBatch::add(const QString &path, QByteArrayView bytes)
     const QString target = finalPath(path);
     refuseUnreplaceable(target);
     m_targets.append(target); // first, so that half a file goes too
-    writeForLater(partOf(target), bytes);
+    try {
+        writeForLater(partOf(target), bytes);
+    } catch (const FileError &error) {
+        // The name that the author knows.
+        throw FileError(FileError::Operation::Write, target, error.why());
+    }
 }
 
 void FileBatch::commit()

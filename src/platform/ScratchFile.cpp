@@ -8,7 +8,8 @@
 #include <QFileInfo>
 
 ScratchFile::ScratchFile(const QString &target)
-    : m_file(QFileInfo(finalPath(target)).absolutePath() + QStringLiteral("/XXXXXX"))
+    : m_target(target),
+      m_file(QFileInfo(finalPath(target)).absolutePath() + QStringLiteral("/XXXXXX"))
 {
     if (!m_file.open())
         fail();
@@ -35,5 +36,5 @@ void ScratchFile::copyTo(SafeFile &file)
 
 void ScratchFile::fail()
 {
-    throw FileError(FileError::Operation::Write, m_file.fileTemplate(), failureOf(m_file));
+    throw FileError(FileError::Operation::Write, m_target, failureOf(m_file));
 }

@@ -20,5 +20,6 @@ public:
 private:
     [[noreturn]] void fail();
 
+    const QString m_target;
     QTemporaryFile m_file;
 };

@@ -35,6 +35,17 @@ QList<int> changedNumbers(const Variables &variables)
     return changed;
 }
 
+// A file of another form is named to the author like one that cannot be read.
+AdventureContents readNamed(const QString &path)
+{
+    try {
+        return readAdventure(std::make_shared<OpenedFile>(path));
+    } catch (const FormatError &error) {
+        throw FileError(FileError::Operation::Read, path, QString::fromUtf8(error.what()),
+                        std::errc::illegal_byte_sequence);
+    }
+}
+
 // A placeholder claims the name of a new adventure. A file that is there already stays until the
 // swap.
 void claim(const QString &path)
@@ -185,7 +196,7 @@ bool AdventureCommands::OpenAdventure(const QString &path)
 {
     return reportingFailures(m_prompts, [&] {
         Variables opened = m_variables;
-        takeOver(opened, readAdventure(std::make_shared<OpenedFile>(path)));
+        takeOver(opened, readNamed(path));
         try {
             if (!opened.CurrentFormat)
                 rebuildIndex(opened);

@@ -81,6 +81,7 @@ bool AdventureSave::swap()
         }
         KeptBytes kept(m_variables, m_leftOut, m_otherVersion);
         moveIntoPlace(m_temporary, m_variables.AdventurePath);
+        noteKept(kept);
         kept.textsAreReplaced();
     } catch (const FileError &error) {
         swapFailed(failureText(words, error));
@@ -113,6 +114,19 @@ bool AdventureSave::mayReplace()
     copyFile(path, backup);
     m_otherVersion = KeptBytes::WholeFile::IsKept;
     return true;
+}
+
+void AdventureSave::noteKept(const KeptBytes &kept)
+{
+    if (kept.isBesideAdventure())
+        m_whereKept +=
+            u' ' + QCoreApplication::translate("AdventureSave",
+                                               "Leurs octets sont gardés à côté de l'aventure.");
+    if (!kept.folder().isEmpty())
+        m_whereKept +=
+            u' ' + QCoreApplication::translate(
+                       "AdventureSave", "Leurs fichiers de travail sont rangés dans le dossier %1.")
+                       .arg(kept.folder());
 }
 
 void AdventureSave::swapFailed(const QString &text)
@@ -151,7 +165,6 @@ void AdventureSave::tellLeftOut() const
     if (m_leftOut.isEmpty())
         return;
     const QString text = QCoreApplication::translate(
-        "AdventureSave", "Paragraphes illisibles, non enregistrés : %1 Leurs octets sont gardés à "
-                         "côté de l'aventure.");
-    m_prompts.notice(text.arg(paragraphNames(m_leftOut)), QStringLiteral("BUG"));
+        "AdventureSave", "Paragraphes illisibles, non enregistrés : %1");
+    m_prompts.notice(text.arg(paragraphNames(m_leftOut)) + m_whereKept, QStringLiteral("BUG"));
 }

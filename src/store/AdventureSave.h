@@ -39,6 +39,7 @@ private:
     QString adventureFolder() const;
     bool swap();
     bool mayReplace();
+    void noteKept(const KeptBytes &kept);
     void swapFailed(const QString &text);
     void takeOverSaved();
     void announce() const;
@@ -51,4 +52,5 @@ private:
     AdventureContents m_saved;
     KeptBytes::WholeFile m_otherVersion = KeptBytes::WholeFile::NotKept;
     QList<int> m_leftOut;
+    QString m_whereKept; // what became of them
 };

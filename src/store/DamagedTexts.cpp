@@ -6,12 +6,16 @@
 #include "platform/SameFile.h"
 #include "richtext/TextLimit.h"
 #include "store/ParagraphTexts.h"
+#include "store/WorkingFiles.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 namespace
 {
@@ -121,9 +125,10 @@ void tellUnreadable(const QList<int> &paragraphs, Prompts &prompts)
 }
 
 KeptBytes::KeptBytes(const Variables &variables, const QList<int> &paragraphs, WholeFile whole)
+    : m_beside(whole == WholeFile::IsKept)
 {
     try {
-        keep(variables, paragraphs, whole);
+        keep(variables, paragraphs);
     } catch (const FileError &) {
         undo();
         throw;
@@ -135,38 +140,79 @@ KeptBytes::~KeptBytes()
     undo();
 }
 
-void KeptBytes::keep(const Variables &variables, const QList<int> &paragraphs, WholeFile whole)
+void KeptBytes::keep(const Variables &variables, const QList<int> &paragraphs)
 {
+    const bool wholeKept = m_beside;
     bool all = true;
-    for (const int n : paragraphs) {
-        m_paths.append(keptBytesPath(variables, n));
-        const bool copied = copyBytes(variables, n, m_paths.last());
-        all = whole == WholeFile::IsKept || (copied && all);
-    }
+    for (const int n : paragraphs)
+        all = keepText(variables, n) && all;
     const QString &adventure = variables.AdventurePath;
-    if (all || !QFileInfo(adventure).isFile())
+    if (all || wholeKept || !QFileInfo(adventure).isFile())
         return;
     m_paths.append(otherVersionPath(adventure));
     keepWhole(adventure, m_paths.last());
+    m_beside = true;
+}
+
+// True when these are all bytes that there can be.
+bool KeptBytes::keepText(const Variables &variables, int n)
+{
+    const QString path = keptBytesPath(variables, n);
+    m_paths.append(path);
+    const bool copied = copyBytes(variables, n, path);
+    m_beside = m_beside || QFileInfo::exists(path);
+    return copied || moveAside(variables, n);
+}
+
+bool KeptBytes::moveAside(const Variables &variables, int n)
+{
+    const QString path = extractedTextPath(variables, n);
+    if (variables.Extracted.at(n) == 0 || !QFileInfo::exists(path))
+        return false;
+    if (m_folder.isEmpty())
+        m_folder = WorkingFiles(variables).newRecoveryFolder(QDateTime::currentDateTime());
+    QDir().mkpath(m_folder);
+    const QString aside = m_folder + u'/' + QFileInfo(path).fileName();
+    renameFile(path, aside);
+    m_moved.append({path, aside});
+    return true;
+}
+
+void KeptBytes::textsAreReplaced()
+{
+    m_paths.clear();
+    m_moved.clear();
 }
 
 void KeptBytes::undo()
 {
     for (const QString &path : std::as_const(m_paths))
         tryRemoveFile(path);
+    for (const Moved &moved : std::as_const(m_moved))
+        QFile::rename(moved.to, moved.from);
+    if (!m_moved.isEmpty())
+        QDir().rmdir(m_folder);
 }
 
 void askToReplaceDamaged(const Variables &variables, int n, Prompts &prompts)
 {
-    const QString text = QCoreApplication::translate(
-        "DamagedTexts", "Le texte du paragraphe %1 est illisible. Le remplacer par le vôtre ? Les "
-                        "octets illisibles seront gardés dans le fichier %2.");
     const QString file = QFileInfo(keptBytesPath(variables, n)).fileName();
-    if (prompts.message(text.arg(QString::number(n), file),
+    KeptBytes kept(variables, {n});
+    const QString where =
+        kept.folder().isEmpty()
+            ? QCoreApplication::translate("DamagedTexts",
+                                          "Les octets illisibles seront gardés dans le fichier %1.")
+                  .arg(file)
+            : QCoreApplication::translate("DamagedTexts",
+                                          "Son fichier de travail sera rangé dans le dossier %1.")
+                  .arg(kept.folder());
+    const QString text = QCoreApplication::translate(
+        "DamagedTexts", "Le texte du paragraphe %1 est illisible. Le remplacer par le vôtre ?");
+    if (prompts.message(text.arg(n) + u' ' + where,
                         QCoreApplication::translate("DamagedTexts", "Attention"),
                         Prompts::Buttons::YesNo) != Prompts::Answer::Yes)
         throw NotAllowed();
-    KeptBytes(variables, {n}).textsAreReplaced();
+    kept.textsAreReplaced();
 }
 
 QString otherVersionPath(const QString &adventurePath)

@@ -10,7 +10,8 @@ class Prompts;
 // Texts that cannot be read. Before anything takes their place, their bytes are kept beside the
 // adventure as "Le Loup (illisible 0009).bin": what can be read of them, as far as the file goes.
 // Where that is not all, the adventure file as a whole is kept under another name as well, so that
-// no byte is lost that may be read one day.
+// no byte is lost that may be read one day. A working file that is there but cannot be copied is
+// moved to a folder "Récupération ..." in the working folder, as it is.
 
 // The numbers of all texts known to be damaged, ascending.
 QList<int> damagedParagraphs(const Variables &variables);
@@ -38,13 +39,28 @@ public:
     KeptBytes(const KeptBytes &) = delete;
     KeptBytes &operator=(const KeptBytes &) = delete;
 
-    void textsAreReplaced() { m_paths.clear(); }
+    void textsAreReplaced();
+
+    // Whether anything is kept beside the adventure, and the folder that working files were moved
+    // to, empty when there is none.
+    bool isBesideAdventure() const { return m_beside; }
+    const QString &folder() const { return m_folder; }
 
 private:
-    void keep(const Variables &variables, const QList<int> &paragraphs, WholeFile whole);
+    struct Moved {
+        QString from;
+        QString to;
+    };
+
+    void keep(const Variables &variables, const QList<int> &paragraphs);
+    bool keepText(const Variables &variables, int n);
+    bool moveAside(const Variables &variables, int n);
     void undo();
 
-    QStringList m_paths;
+    QStringList m_paths; // made beside the adventure
+    QList<Moved> m_moved;
+    QString m_folder;
+    bool m_beside = false;
 };
 
 // Asks whether the damaged text of paragraph n may be replaced, and keeps its bytes. Throws

@@ -19,6 +19,9 @@ constexpr auto FirstLine = "Usmira Journal 1";
 // Far above the longest that 2000 paragraphs can give with the longest lists.
 constexpr qint64 LargestJournal = 256 * 1024 * 1024;
 
+// Bytes: no file name is longer than 255 of them.
+constexpr qsizetype LongestPrefix = 246;
+
 QByteArray sha256(QByteArrayView bytes)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
@@ -87,7 +90,8 @@ private:
     // Anything else would have its files lie elsewhere.
     static bool isFileNamePart(const QString &prefix)
     {
-        return prefix.endsWith(u'-') && !prefix.contains(u'/') && !prefix.contains(QChar::Null) &&
+        return prefix.endsWith(u'-') && prefix.toUtf8().size() <= LongestPrefix &&
+               !prefix.contains(u'/') && !prefix.contains(QChar::Null) &&
                !prefix.contains(QDir::separator());
     }
 
@@ -125,6 +129,19 @@ void setAside(const WorkingFiles &files)
     for (const QString &path : aside)
         renameFile(path, folder + u'/' + QFileInfo(path).fileName());
     removeSessionFolder(files.folder());
+}
+
+// A link would lead elsewhere. Anything else that is no folder is in the way, and kept.
+void clearSessionName(const WorkingFiles &files)
+{
+    const QFileInfo session(files.session());
+    if (session.isSymLink()) {
+        removeFile(files.session());
+    } else if (session.exists() && !session.isDir()) {
+        const QString folder = files.newRecoveryFolder(QDateTime::currentDateTime());
+        QDir().mkpath(folder);
+        renameFile(files.session(), folder + u'/' + session.fileName());
+    }
 }
 
 // The old text is not removed yet: whoever takes the change back needs it.
@@ -279,6 +296,7 @@ void setJournalAside(const QString &workingFolder)
 void recoverJournal(const QString &workingFolder)
 {
     const WorkingFiles files(workingFolder);
+    clearSessionName(files);
     const std::optional<Journal> journal = readJournal(files);
     if (journal && areTextsThere(workingFolder, *journal))
         placeJournal(workingFolder, *journal);

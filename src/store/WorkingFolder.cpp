@@ -4,6 +4,7 @@
 #include "platform/SafeFile.h"
 #include "store/WorkingFiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -32,12 +33,6 @@ QString findBundledDocuments(const QString &programFolder)
     return QFileInfo(installed).isDir() ? installed : QStringLiteral(USMIRA_RESOURCES);
 }
 
-void makeWorkingFolder(const QString &workingFolder)
-{
-    if (!QFileInfo::exists(workingFolder))
-        QDir().mkpath(workingFolder);
-}
-
 void prepareWorkingFolder(const QString &workingFolder, const QString &bundledDocuments)
 {
     if (QFileInfo::exists(workingFolder))
@@ -51,4 +46,10 @@ void prepareWorkingFolder(const QString &workingFolder, const QString &bundledDo
             continue;
         }
     }
+}
+
+void makeWorkingFolder(const QString &workingFolder)
+{
+    prepareWorkingFolder(workingFolder,
+                         findBundledDocuments(QCoreApplication::applicationDirPath()));
 }

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QPushButton>
+#include <QScreen>
 
 NumberDialog::NumberDialog(Prompts &prompts, Enter inBox, QWidget *parent)
     : QDialog(parent), m_prompts(prompts), m_inBox(inBox)
@@ -42,6 +43,15 @@ void NumberDialog::resizeEvent(QResizeEvent *event)
     QDialog::resizeEvent(event);
     if (layout()->hasHeightForWidth())
         setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
+}
+
+// Frames and the title are not known before the window is there; 48 pixels hold all common ones.
+void NumberDialog::showEvent(QShowEvent *event)
+{
+    constexpr int title = 48;
+    const QSize room = screen()->availableSize() - QSize(0, title);
+    resize(size().boundedTo(room));
+    QDialog::showEvent(event);
 }
 
 void fillRange(NumberBox &low, NumberBox &high, int lowest, int highest)

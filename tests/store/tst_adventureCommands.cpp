@@ -199,6 +199,25 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(e.path("Le Loup (illisible 0002).bin")));
     }
 
+    // A folder of its name stands for every file that is there and does not let itself be read.
+    void workingFileThatCannotBeReadIsMovedAside()
+    {
+        Editor e;
+        e.open();
+        const QString working = WorkingFiles(e.v).text(2);
+        QVERIFY(QDir().mkpath(working + "/mots"));
+        e.v.Extracted.at(2) = 1;
+        e.type(1, "un");
+        const QString aside = WorkingFiles(e.v).newRecoveryFolder(QDateTime::currentDateTime());
+        e.expectBug("Paragraphes illisibles, non enregistrés : 2. Leurs fichiers de travail sont "
+                    "rangés dans le dossier " +
+                    aside + ".");
+        QVERIFY(e.commands.Save());
+        QVERIFY(QDir(aside + u'/' + QFileInfo(working).fileName() + "/mots").exists());
+        QVERIFY(!e.v.AdventureModified && !QFileInfo::exists(working));
+        QCOMPARE(QDir(e.v.WorkingFolder + "..").entryList({"Le Loup*"}), QStringList{Wolf});
+    }
+
     void noAndThenNoFileShowsTheAdventureAsLastSaved()
     {
         Editor e;

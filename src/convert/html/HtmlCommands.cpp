@@ -22,7 +22,8 @@ bool exportToOneFile(const ExportCommand &command, const ExportRequest &request,
     std::optional<SafeFile> file;
     try {
         file.emplace(request.place, Durability::Full, Links::Follow);
-    } catch (const FileError &) {
+    } catch (const FileError &error) {
+        command.tellNothingWritten(error);
         return false;
     }
     const auto write = [&](const ExportRange &range, const Progress &progress) {

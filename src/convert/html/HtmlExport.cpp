@@ -4,10 +4,13 @@
 #include "convert/html/HtmlCharset.h"
 #include "convert/html/HtmlLosses.h"
 #include "convert/html/RtfToHtml.h"
+#include "platform/Errors.h"
 #include "platform/FileBatch.h"
 #include "platform/SafeFile.h"
 #include "richtext/HiddenBox.h"
 #include "store/ParagraphTexts.h"
+
+#include <QDir>
 
 namespace
 {
@@ -19,6 +22,14 @@ QString withNumber(QString code, int n)
 QString withName(QString code, const Variables &variables)
 {
     return code.replace(QStringLiteral("<AVENTURE>"), proposedName(variables).toHtmlEscaped());
+}
+
+// The pages belong into the folder that the author chose.
+void refuseFolderIn(const QString &prefix)
+{
+    if (prefix.contains(u'/') || prefix.contains(QDir::separator()))
+        throw FileError(FileError::Operation::Write, prefix, QStringLiteral("holds a folder"),
+                        std::errc::invalid_argument);
 }
 
 // Codes as they go into a file.
@@ -60,6 +71,7 @@ int exportOneFile(const Variables &variables, const ExportRange &range, const Ht
 int exportManyFiles(const Variables &variables, const ExportRange &range, const HtmlCodes &codes,
                     const QString &folder, const QString &prefix, const Progress &progress)
 {
+    refuseFolderIn(prefix);
     const HtmlCharset charset = declaredCharset(codes.header);
     const QString head = withName(codes.header, variables);
     const QByteArray footer = codeBytes(codes.footer, charset) + "\r\n";

@@ -1,7 +1,7 @@
 #include "convert/rtf/SingleParagraph.h"
 
 #include "convert/ExportTarget.h"
-#include "platform/Errors.h"
+#include "platform/Failures.h"
 #include "richtext/RichTextBox.h"
 #include "store/AdventureCommands.h"
 #include "store/ParagraphStore.h"
@@ -33,7 +33,8 @@ bool SingleParagraph::Load()
         return false;
     try {
         box.loadFile(path);
-    } catch (const UsmiraError &) {
+    } catch (const UsmiraError &error) {
+        m_report.announce(failureLine(tr("Rien n'a été chargé."), error));
         return false;
     }
     m_variables.ParagraphDirty = true;
@@ -57,7 +58,8 @@ void SingleParagraph::Save()
     refuseOwnFiles(m_variables, path);
     try {
         box.saveFile(path);
-    } catch (const FileError &) {
+    } catch (const FileError &error) {
+        m_report.announce(failureLine(tr("Rien n'a été enregistré."), error));
         return;
     }
     m_report.announce(tr("Paragraphe %1 écrit : %2").arg(m_variables.CurrentParagraph).arg(path));
