@@ -41,8 +41,9 @@ const char *reasonFor(Doubt doubt)
             "ReferenceMarks",
             "Ce renvoi n'est pas reconnu : une fin de ligne sépare « %1 » du numéro.");
     case Doubt::WordBetween:
-        return QT_TRANSLATE_NOOP("ReferenceDoubts",
-                                 "Ce renvoi n'est pas reconnu : un mot se trouve avant le numéro.");
+        return QT_TRANSLATE_NOOP(
+            "ReferenceDoubts",
+            "Ce renvoi n'est pas reconnu : quelque chose sépare « %1 » du numéro.");
     case Doubt::PhraseMissing:
         return QT_TRANSLATE_NOOP(
             "ReferenceMarks", "Ce renvoi n'est pas reconnu : il manque « %1 » devant le numéro.");

@@ -35,7 +35,7 @@ QRegularExpression pattern(const char *text)
 const std::vector<Follower> &followers()
 {
     static const std::vector<Follower> table{
-        {Doubt::Measure, false, pattern("^\\s?(?:[%‰°€$]|/)")},
+        {Doubt::Measure, false, pattern("^\\s?(?:[%‰°€$]|/\\s?\\d)")},
         {Doubt::Date, true,
          words("(?:er)?\\s+(?:janvier|février|fevrier|mars|avril|mai|juin|juillet|août|aout|"
                "septembre|octobre|novembre|décembre|decembre)")},
@@ -60,21 +60,27 @@ const std::vector<Leader> &leaders()
          pattern("(?<!\\pL)aux?\\s+(?:(?:paragraphes?|numéros?|numeros?|chapitres?|sections?|"
                  "no\\.?|n\\s?[°º]|§|#)\\s*)+$"),
          anything},
+        {Doubt::WordBetween, pattern("(?<!\\pL)au\\s*:\\s*$"), anything},
         {Doubt::PhraseMissing,
          pattern("(?<!\\pL)(?:rendez|rends|reportez|reporte)[- ](?:vous|toi)\\s+$"), anything},
         {Doubt::PhraseMissing,
          pattern("(?<!\\pL)(?:rendez-vous|rends-toi|reportez-vous|reporte-toi|allez|aller|va|"
-                 "retourne[rz]?|passez|passer)\\s+(à\\s+)$"),
+                 "retourne[rz]?|passez|passer)\\s+((?:à|en|vers\\s+le)\\s+)$"),
          anything},
         {Doubt::PhraseMissing, pattern("\\((à\\s+)$"), pattern("^\\)")},
         // "aux 12 et 15", and the second of the two
         {Doubt::PhraseMissing, pattern("(?<!\\pL)aux\\s+$"),
          pattern("^\\s*(?:,|et|ou|à|-|–)\\s*\\d")},
-        {Doubt::PhraseMissing, pattern("(?<!\\pL)aux\\s+[\\d\\s,]*\\d\\s*((?:,|et|ou|à|-|–)\\s*)$"),
+        {Doubt::PhraseMissing,
+         pattern("(?<!\\pL)aux\\s+(?:(?:paragraphes|numéros)\\s+)?[\\d\\s,]*\\d\\s*((?:,|et|ou|à|-|"
+                 "–)\\s*)$"),
          anything},
-        // "au 12 ou 15." with nothing that is counted behind
-        {Doubt::PhraseMissing, pattern("(?<!\\pL)au\\s+\\d{1,4}\\s+((?:et|ou)\\s+)$"),
+        // "au 12, 15 ou 18." with nothing that is counted behind
+        {Doubt::PhraseMissing,
+         pattern("(?<!\\pL)au\\s+\\d{1,4}(?:\\s*,\\s*\\d{1,4})*\\s+((?:et|ou)\\s+)$"),
          pattern("^\\s*(?:[.,;:!?)]|$)")},
+        {Doubt::PhraseMissing, pattern("(?<!\\pL)au\\s+\\d{1,4}(?:\\s*,\\s*\\d{1,4})*(\\s*,\\s*)$"),
+         pattern("^\\s*(?:,|et|ou)\\s*\\d{1,4}\\s*(?:[.,;:!?)]|et|ou|$)")},
     };
     return table;
 }

@@ -4,6 +4,8 @@
 #include "store/Variables.h"
 
 #include <QCoreApplication>
+#include <QStringList>
+#include <algorithm>
 
 namespace
 {
@@ -137,12 +139,15 @@ private:
                 m_mark.digits - from, m_gap};
     }
 
-    // In the place of "à" and "aux", else before the number.
+    // In the place of the word that stands where the phrase should, else before the number.
     Mend withPhrase() const
     {
         const QStringView word = m_line.mid(m_mark.position);
-        const bool instead = word.startsWith(u"à", Qt::CaseInsensitive) ||
-                             word.startsWith(u"aux", Qt::CaseInsensitive);
+        const QStringList others{QStringLiteral("à "), QStringLiteral("en "),
+                                 QStringLiteral("vers "), QStringLiteral("aux ")};
+        const bool instead = std::any_of(others.begin(), others.end(), [&](const QString &other) {
+            return word.startsWith(other, Qt::CaseInsensitive);
+        });
         const qsizetype from = instead ? m_mark.position : m_mark.digits;
         const bool leads = m_leads && !isBlank(from - 1);
         return {tr("Écrire « %1 »").arg(m_core + m_gap + m_number), from, m_mark.digits - from,

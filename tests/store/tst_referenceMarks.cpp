@@ -59,6 +59,8 @@ private Q_SLOTS:
              {"no phrase", "Rendez-vous 12.", "0: Rendez-vous 12", int(Doubt::PhraseMissing)},
              {"plural", "Va aux 12 et 15.", "0: aux 12|0: et 15", int(Doubt::PhraseMissing)},
              {"second of two", "Va au 12 ou 15.", "0: ou 15", int(Doubt::PhraseMissing)},
+             {"more of them", "Va au 12, 15 ou 18.", "0: , 15|0: ou 18", int(Doubt::PhraseMissing)},
+             {"colon", "Va au : 12", "0: au : 12", int(Doubt::WordBetween)},
              {"wrong word", "Rendez-vous à 176", "0: à 176", int(Doubt::PhraseMissing)},
              {"row", "Va\r\n12, 45  78", "0: 12, 45  78", int(Doubt::NumbersAlone)},
              {"telephone", "Tél. au 01 42 33 44 55", "142: au 01", int(Doubt::Telephone)},
@@ -97,12 +99,27 @@ private Q_SLOTS:
 
     void nothingIsDoubtful()
     {
-        for (const QString text :
-             {"Va au 26.", "Va au 12, au 2000 ou AU 3", "Va au 45 !", "Au bout de 3 jours",
-              "Va au 300\r\n4 gardes", "S'il y a plus de 900 gardes", "Va au 12\u00a03 fois",
-              "Plus de 12 ? Va au 7, sinon au 8 (3 points)", "Il vit au 900 000", "Va au 26 et",
-              "Fermé au\u00a015 août", "Au 3e jour", "(au 12 mai)", "À 8 heures", "dès 26 ans",
-              "Tableau 12", "Rendez-vous 3 fois", "Si le total est égal à 12, va au 5", "26"}) {
+        for (const QString text : {"Va au 26.",
+                                   "Va au 12, au 2000 ou AU 3",
+                                   "Va au 45 !",
+                                   "Au bout de 3 jours",
+                                   "Va au 300\r\n4 gardes",
+                                   "S'il y a plus de 900 gardes",
+                                   "Va au 12\u00a03 fois",
+                                   "Plus de 12 ? Va au 7, sinon au 8 (3 points)",
+                                   "Il vit au 900 000",
+                                   "Va au 26 et",
+                                   "Fermé au\u00a015 août",
+                                   "Au 3e jour",
+                                   "(au 12 mai)",
+                                   "À 8 heures",
+                                   "dès 26 ans",
+                                   "Tableau 12",
+                                   "Au feu : au 12 / au 13",
+                                   "Va au 12, 3 orcs et 5",
+                                   "Rendez-vous 3 fois",
+                                   "Si le total est égal à 12, va au 5",
+                                   "26"}) {
             QCOMPARE(doubts(text, Phrase), QString());
             QCOMPARE(entryOf(referenceMarks(text, Phrase)), referenceEntry(text, Phrase));
         }
