@@ -48,8 +48,7 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_status(variables, *m_ui->rtfBox, *m_ui->statusBar), m_menuStates(variables),
       m_runner(variables, prompts, m_page, m_menuStates),
       m_adventure(variables, prompts, m_page, m_work), m_navigation(variables, prompts, m_page),
-      m_search(variables, prompts, m_page, m_work),
-      m_searchReplace(variables, prompts, m_search, {m_page, m_navigation, m_runner}, this),
+      m_searchReplace(variables, prompts, m_work, {m_page, m_navigation, m_runner}, this),
       m_functions(variables, prompts, m_work, *this),
       m_conversions(variables, prompts, m_page, m_work, *this), m_info(variables, prompts, m_page)
 {

@@ -8,7 +8,6 @@
 #include "editor/MenuStates.h"
 #include "editor/Navigation.h"
 #include "editor/ParagraphPage.h"
-#include "editor/SearchCommands.h"
 #include "editor/StatusLine.h"
 #include "editor/searchReplace.h"
 #include "store/AdventureCommands.h"
@@ -80,7 +79,6 @@ private:
     CommandRunner m_runner;
     AdventureCommands m_adventure;
     Navigation m_navigation;
-    SearchCommands m_search;
     searchReplace m_searchReplace;
     FunctionsMenu m_functions;
     ConversionsMenu m_conversions;

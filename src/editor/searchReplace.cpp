@@ -11,13 +11,23 @@
 #include <QScreen>
 #include <QShortcut>
 
-searchReplace::searchReplace(const Variables &variables, Prompts &prompts, SearchCommands &commands,
-                             const Editor &editor, QWidget *parent)
-    : QDialog(parent), m_variables(variables), m_prompts(prompts), m_commands(commands),
-      m_editor(editor), m_ui(std::make_unique<Ui::searchReplace>()),
-      m_list(variables, commands, parent)
+namespace
 {
-    m_ui->setupUi(this);
+// What stands on the form is taken by what does the work, so that it must be there first.
+std::unique_ptr<Ui::searchReplace> setUp(searchReplace &window)
+{
+    auto ui = std::make_unique<Ui::searchReplace>();
+    ui->setupUi(&window);
+    return ui;
+}
+} // namespace
+
+searchReplace::searchReplace(Variables &variables, Prompts &prompts, WorkReport &report,
+                             const Editor &editor, QWidget *parent)
+    : QDialog(parent), m_variables(variables), m_prompts(prompts), m_editor(editor),
+      m_ui(setUp(*this)), m_work(report, *m_ui->barWork),
+      m_commands(variables, prompts, editor.view, m_work), m_list(variables, m_commands, parent)
+{
     m_ui->Remplacer->setEnabled(false);
     connectControls();
     connect(variables.Events.get(), &AdventureEvents::adventureReplaced, this,

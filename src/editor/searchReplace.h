@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/MatchWindow.h"
+#include "widgets/WorkInDialog.h"
 
 #include <QDialog>
 #include <memory>
@@ -26,8 +27,8 @@ public:
         Navigation &navigation;
         CommandRunner &runner;
     };
-    searchReplace(const Variables &variables, Prompts &prompts, SearchCommands &commands,
-                  const Editor &editor, QWidget *parent);
+    searchReplace(Variables &variables, Prompts &prompts, WorkReport &report, const Editor &editor,
+                  QWidget *parent);
     ~searchReplace() override;
 
     // Comes to the front, ready for a search text. The search begins at the top of the current
@@ -66,9 +67,10 @@ private:
 
     const Variables &m_variables;
     Prompts &m_prompts;
-    SearchCommands &m_commands;
     Editor m_editor;
     std::unique_ptr<Ui::searchReplace> m_ui;
+    WorkInDialog m_work;
+    SearchCommands m_commands;
     MatchWindow m_list;
     bool m_lastFound = false; // the last search found a match
     int m_lastPos = -1;       // and where in the box

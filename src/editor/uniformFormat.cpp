@@ -2,6 +2,7 @@
 
 #include "platform/Guarded.h"
 #include "ui_uniformFormat.h"
+#include "widgets/WorkInDialog.h"
 
 #include <QFontDatabase>
 #include <QLineEdit>
@@ -66,6 +67,7 @@ void uniformFormat::OKButton_Click()
         formatting.fontName = m_ui->comboFonts->currentText();
     if (m_ui->chSizes->isChecked())
         formatting.fontSize = typedFontSize(m_size);
-    if (makeAllUniform(m_variables, m_prompts, m_report, formatting))
+    WorkInDialog work(m_report, *m_ui->barWork);
+    if (makeAllUniform(m_variables, m_prompts, work, formatting))
         accept();
 }

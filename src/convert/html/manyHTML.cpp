@@ -1,11 +1,11 @@
 #include "convert/html/manyHTML.h"
 
-#include "convert/WorkInDialog.h"
 #include "convert/html/HtmlCommands.h"
 #include "platform/Guarded.h"
 #include "store/LenientNumbers.h"
 #include "store/WorkingFiles.h"
 #include "ui_manyHTML.h"
+#include "widgets/WorkInDialog.h"
 
 #include <QDir>
 

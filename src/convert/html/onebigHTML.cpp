@@ -1,12 +1,12 @@
 #include "convert/html/onebigHTML.h"
 
 #include "convert/ExportTarget.h"
-#include "convert/WorkInDialog.h"
 #include "convert/html/HtmlCommands.h"
 #include "platform/Guarded.h"
 #include "store/LenientNumbers.h"
 #include "store/WorkingFiles.h"
 #include "ui_onebigHTML.h"
+#include "widgets/WorkInDialog.h"
 
 onebigHTML::onebigHTML(const Variables &variables, Prompts &prompts, WorkReport &report,
                        QWidget *parent)

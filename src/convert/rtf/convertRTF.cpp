@@ -1,12 +1,12 @@
 #include "convert/rtf/convertRTF.h"
 
 #include "convert/ExportTarget.h"
-#include "convert/WorkInDialog.h"
 #include "convert/rtf/CompileCommand.h"
 #include "platform/Guarded.h"
 #include "store/LenientNumbers.h"
 #include "store/Variables.h"
 #include "ui_convertRTF.h"
+#include "widgets/WorkInDialog.h"
 
 #include <QFontDatabase>
 #include <algorithm>

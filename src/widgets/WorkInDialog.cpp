@@ -1,4 +1,4 @@
-#include "convert/WorkInDialog.h"
+#include "widgets/WorkInDialog.h"
 
 #include "widgets/WorkBar.h"
 
