@@ -1,13 +1,16 @@
 #pragma once
 
+#include "editor/EditorComfort.h"
+
 #include <QObject>
 #include <QTranslator>
 
 class QApplication;
 
 // What the desktop decides about the look: icons from its icon theme, with a bundled theme for
-// those that it lacks, light or dark as its palette is. Qt's own texts (file dialogs, the menu of
-// the editing box) are French, as the rest of the program.
+// those that it lacks, light or dark as its palette is, unless the author chose one of the two.
+// Qt's own texts (file dialogs, the menu of the editing box) are French, as the rest of the
+// program.
 class Desktop : public QObject
 {
     Q_OBJECT
@@ -15,9 +18,12 @@ class Desktop : public QObject
 public:
     explicit Desktop(QApplication &application);
 
+    void show(EditorComfort::Colours colours);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QTranslator m_french;
+    EditorComfort::Colours m_colours = EditorComfort::Colours::Desktop;
 };

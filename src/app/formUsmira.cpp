@@ -2,12 +2,15 @@
 
 #include "app/DropToOpen.h"
 #include "app/EditMenu.h"
+#include "app/RecentMenu.h"
 #include "app/WindowPlacement.h"
 #include "convert/AdventureCopy.h"
 #include "editor/BoxKeys.h"
 #include "editor/FirstWords.h"
 #include "editor/ParagraphSearch.h"
 #include "editor/ReferenceAids.h"
+#include "editor/ZoomKeys.h"
+#include "editor/optionsDlog.h"
 #include "platform/Guarded.h"
 #include "platform/SafeFile.h"
 #include "store/AdventureEvents.h"
@@ -60,6 +63,7 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
     connectBox();
     connectSearchReplace();
     connectMenus();
+    connectComfort();
 }
 
 // A window still shown would be hidden after its members are gone, and its controls would tell it
@@ -209,6 +213,20 @@ void formUsmira::connectMenus()
     m_info.connectItems({*m_ui->menuInfoAide, *m_ui->menuInfoHelp, *m_ui->menuInfoAbout});
 }
 
+void formUsmira::connectComfort()
+{
+    new ZoomKeys(m_comfort, *m_ui->rtfBox, *this);
+    connect(&m_comfort, &ComfortKeeper::changed, this, &formUsmira::showComfort);
+    const AdventureEvents *events = m_variables.Events.get();
+    connect(events, &AdventureEvents::adventureReplaced, this, &formUsmira::rememberAdventure);
+    connect(events, &AdventureEvents::modifiedChanged, this, &formUsmira::rememberAdventure);
+    const auto *recent = new RecentMenu(m_comfort, *m_ui->menuAv, *m_ui->menuAvQuit);
+    connect(recent, &RecentMenu::chosen, this, [this](const QString &path) {
+        m_runner.run(Kind::Anytime, [this, path] { m_adventure.OpenInstead(path); });
+    });
+    m_runner.add(*m_ui->menuComOptions, Kind::Anytime, [this] { menuComOptions_Click(); });
+}
+
 void formUsmira::Form_Load()
 {
     WindowGeometry geometry = geometryOf(*this);
@@ -221,6 +239,7 @@ void formUsmira::Form_Load()
     if (QFileInfo::exists(WorkingFiles(m_variables).maximized()))
         setWindowState(windowState() | Qt::WindowMaximized);
     m_functions.showSwapKey();
+    m_comfort.load(WorkingFiles(m_variables).comfort());
     m_page.showTabPanel();
     m_page.showWelcome(WorkingFiles(m_variables).document(WorkingFiles::Document::Welcome));
     m_page.focusEditor();
@@ -233,8 +252,11 @@ void formUsmira::rescue()
 
 void formUsmira::openCommandLine(const QString &path)
 {
+    const QString last = m_comfort.comfort().adventures.value(0);
     if (!path.isEmpty())
         m_adventure.OpenAdventure(path);
+    else if (m_comfort.comfort().reopenLast && QFileInfo(last).isFile())
+        m_adventure.OpenAdventure(last);
 }
 
 bool formUsmira::event(QEvent *event)
@@ -263,6 +285,7 @@ void formUsmira::closeEvent(QCloseEvent *event)
     } catch (const std::exception &) {
         // The next start has the settings of before.
     }
+    m_comfort.save();
     if (leaves)
         m_info.closeHelp();
     event->setAccepted(leaves);
@@ -281,6 +304,27 @@ void formUsmira::keepMaximized() const
 void formUsmira::showTitle()
 {
     setWindowTitle(tr("Usmira - %1").arg(m_variables.AdventureFileName));
+}
+
+void formUsmira::showComfort()
+{
+    m_ui->rtfBox->setZoom(m_comfort.comfort().zoom);
+    m_ui->rtfBox->setPageWidth(m_comfort.comfort().pageWidth);
+}
+
+// A new adventure has a file once it was saved.
+void formUsmira::rememberAdventure()
+{
+    if (m_variables.AdventureOpen && QFileInfo::exists(m_variables.AdventurePath))
+        m_comfort.remember(m_variables.AdventurePath);
+    m_comfort.save();
+}
+
+void formUsmira::menuComOptions_Click()
+{
+    optionsDlog(m_variables, m_prompts, m_comfort, *m_ui->rtfBox, this).exec();
+    m_functions.showSwapKey();
+    m_comfort.save();
 }
 
 // A number that is none keeps the author in its box.

@@ -5,6 +5,7 @@
 #include "app/InfoMenu.h"
 #include "app/WorkDisplay.h"
 #include "editor/CommandRunner.h"
+#include "editor/EditorComfort.h"
 #include "editor/MenuStates.h"
 #include "editor/Navigation.h"
 #include "editor/ParagraphPage.h"
@@ -34,7 +35,8 @@ public:
     // working folder. Whatever is missing or damaged there is passed over.
     void Form_Load();
 
-    // The command line as it stands is the path of an adventure; an empty one opens none.
+    // The command line as it stands is the path of an adventure; an empty one opens none, or the
+    // one of last time where the author wants that.
     void openCommandLine(const QString &path);
 
     // See ParagraphPage.
@@ -43,6 +45,9 @@ public:
 
     // Something failed that nobody foresaw: what was typed is saved, and the author told.
     void rescue();
+
+    // How the editor looks and starts; loaded by Form_Load.
+    const ComfortKeeper &comfort() const { return m_comfort; }
 
     // Shows in this window how work goes.
     WorkReport &work() { return m_work; }
@@ -61,16 +66,21 @@ private:
     void connectSearchReplace();
     void connectReferences();
     void connectMenus();
+    void connectComfort();
 
     void saveOnLeaving();
     void keepMaximized() const;
     void showTitle();
+    void showComfort();
+    void rememberAdventure();
+    void menuComOptions_Click();
     void txtPargNum_Enter();
     void theList_Click();
     void incomingList_Click();
 
     Variables &m_variables;
     Prompts &m_prompts;
+    ComfortKeeper m_comfort;
     std::unique_ptr<Ui::formUsmira> m_ui;
     WorkDisplay m_work;
     ParagraphPage m_page;

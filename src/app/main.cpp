@@ -15,7 +15,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("Usmira"));
     QCoreApplication::setApplicationVersion(QStringLiteral(USMIRA_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("usmira"));
-    const Desktop desktop(application);
+    Desktop desktop(application);
     loadTranslations();
 
     const QString programFolder = QCoreApplication::applicationDirPath();
@@ -32,6 +32,8 @@ int main(int argc, char *argv[])
     });
     formUsmira window(variables, prompts);
     QObject::connect(&application, &Application::failed, &window, &formUsmira::rescue);
+    QObject::connect(&window.comfort(), &ComfortKeeper::changed, &desktop,
+                     [&] { desktop.show(window.comfort().comfort().colours); });
     window.Form_Load();
     window.show();
     // A path with spaces need not be quoted: the command line is one path as it stands.

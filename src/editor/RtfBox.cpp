@@ -7,6 +7,7 @@
 #include "richtext/SelectionFormats.h"
 #include "richtext/TextStates.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QClipboard>
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -27,7 +28,6 @@ namespace
 constexpr int documentMargin = 8;
 constexpr int largestPadding = 24;
 constexpr int narrowestPadded = 240; // a box as narrow as this has no padding to spare
-constexpr int charactersPerLine = 72;
 constexpr int largestGapAbove = 12;
 
 // The page's colour moved a little towards that of its text, so that the two differ in light and
@@ -45,7 +45,7 @@ QColor surroundings(const QPalette &palette)
 }
 } // namespace
 
-RtfBox::RtfBox(QWidget *parent) : QTextEdit(parent)
+RtfBox::RtfBox(QWidget *parent) : QTextEdit(parent), m_device(*viewport())
 {
     // Not before: a child announces itself by an event, for which all members must be there.
     m_colours = new PageColours(this, document());
@@ -65,6 +65,12 @@ RtfBox::RtfBox(QWidget *parent) : QTextEdit(parent)
         if (!m_typing)
             m_run.end();
     });
+}
+
+// The document goes after the device.
+RtfBox::~RtfBox()
+{
+    document()->documentLayout()->setPaintDevice(viewport());
 }
 
 // What fails is caught where our code ends, before it goes through code that was built without
@@ -147,6 +153,23 @@ void RtfBox::pastePlain()
         RichTextClipboard::pastePlain(*this, *source);
         ensureCursorVisible();
     });
+}
+
+void RtfBox::setZoom(int percent)
+{
+    if (percent == m_device.percent())
+        return;
+    m_device.setPercent(percent);
+    document()->documentLayout()->setPaintDevice(&m_device);
+    document()->markContentsDirty(0, document()->characterCount());
+    centrePage();
+    ensureCursorVisible();
+}
+
+void RtfBox::setPageWidth(int characters)
+{
+    m_pageWidth = characters;
+    centrePage();
 }
 
 // Copying may fail, and what was not copied must not be removed.
@@ -312,13 +335,16 @@ void RtfBox::centrePage()
 {
     const int room = contentsRect().width();
     m_padding = std::clamp((room - narrowestPadded) / 8, 0, largestPadding);
-    const double column = QFontMetricsF(font()).averageCharWidth() * charactersPerLine;
+    const double column =
+        QFontMetricsF(font()).averageCharWidth() * m_pageWidth * m_device.percent() / 100;
     const int page = qRound(column) + 2 * (documentMargin + m_padding);
     const int side = std::max(0, (room - page) / 2);
     const int above = std::min(side, largestGapAbove);
     const QMargins margins(side + m_padding, above + m_padding, side + m_padding, 0);
-    if (viewportMargins() != margins)
-        setViewportMargins(margins);
+    if (viewportMargins() == margins)
+        return;
+    setViewportMargins(margins);
+    update(); // around the page as well
 }
 
 void RtfBox::paintPage()

@@ -2,6 +2,7 @@
 
 #include "editor/TypingAids.h"
 #include "editor/TypingRun.h"
+#include "editor/ZoomedDevice.h"
 #include "richtext/RichTextBox.h"
 
 #include <QTextEdit>
@@ -23,6 +24,7 @@ class RtfBox : public QTextEdit, public RichTextBox
 
 public:
     explicit RtfBox(QWidget *parent = nullptr);
+    ~RtfBox() override;
 
     QTextDocument *document() const override { return QTextEdit::document(); }
 
@@ -38,6 +40,11 @@ public:
     // leaves what was typed.
     using KeyPress = std::function<TypedKey(QChar previous, QChar key)>;
     void setKeyPress(KeyPress keyPress) { m_keyPress = std::move(keyPress); }
+
+    // How large the text is on the screen, in percent, and how many characters of its font a line
+    // of the page has room for. Neither changes the text.
+    void setZoom(int percent);
+    void setPageWidth(int characters);
 
     void cut();
     // Puts the text of the clipboard in place of the selection, in the format that is there.
@@ -88,5 +95,7 @@ private:
     int m_guards = 0;       // one within the other
     QString m_failure;      // since the outermost of them began
     bool m_reporting = false;
+    ZoomedDevice m_device;
+    int m_pageWidth = 72;
     int m_padding = 0; // pixels of the page on each side of the viewport and above it
 };

@@ -60,6 +60,11 @@ QString WorkingFiles::maximized() const
     return m_folder + QStringLiteral("Usmira Fenêtre.xyz");
 }
 
+QString WorkingFiles::comfort() const
+{
+    return m_folder + QStringLiteral("Usmira Confort.xyz");
+}
+
 QString WorkingFiles::documentName(Document document)
 {
     return documentNames().at(static_cast<int>(document));

@@ -13,6 +13,7 @@ struct Variables;
 //   Usmira Temporary Save File.xyz     the adventure as it is being saved
 //   Usmira Settings.xyz                settings
 //   Usmira Fenêtre.xyz                 there while the window is to come back maximised
+//   Usmira Confort.xyz                 how the editor looks and starts
 //   Copyright.rtf and the like         documents, which the author may replace
 //   Session/Journal.xyz                a change of many paragraphs that counts
 //   Session/Etat.xyz                   what is unsaved
@@ -37,6 +38,7 @@ public:
     QString temporarySave() const;
     QString settings() const;
     QString maximized() const;
+    QString comfort() const;
 
     enum class Document {
         Welcome,

@@ -73,10 +73,10 @@ private Q_SLOTS:
             keys.removeAll(QString());
             QVERIFY(keys.size() > 20);
             QCOMPARE(keys.removeDuplicates(), 0);
-            const std::pair<const char *, const char *> fixed[] = {{"menuComMasterMix", "Ctrl+M"},
-                                                                   {"menuComBlockMove", "Ctrl+L"},
-                                                                   {"menuComPackHoles", "Ctrl+H"},
-                                                                   {"menuComCount", "Ctrl+K"}};
+            const std::pair<const char *, const char *> fixed[] = {
+                {"menuComMasterMix", "Ctrl+M"}, {"menuComBlockMove", "Ctrl+L"},
+                {"menuComPackHoles", "Ctrl+H"}, {"menuComCount", "Ctrl+K"},
+                {"menuComTarget", "Ctrl+T"},    {"menuComOptions", "Ctrl+J"}};
             for (const auto &[item, key] : fixed)
                 QCOMPARE(fixture.control<QAction>(item).shortcut().toString(), key);
         }
