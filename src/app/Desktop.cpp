@@ -65,8 +65,10 @@ Desktop::Desktop(QApplication &application)
 
 void Desktop::show(EditorComfort::Colours colours)
 {
-    if (std::exchange(m_colours, colours) != colours)
-        QApplication::setPalette(paletteOf(colours));
+    if (std::exchange(m_colours, colours) == colours)
+        return;
+    QApplication::setPalette(paletteOf(colours));
+    chooseIcons(); // before the program runs nobody is told of another palette
 }
 
 bool Desktop::eventFilter(QObject *watched, QEvent *event)
