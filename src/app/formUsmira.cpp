@@ -166,6 +166,8 @@ void formUsmira::connectReferences()
 {
     auto *aids = new ReferenceAids(m_variables, m_prompts, *m_ui->rtfBox);
     connect(&m_page, &ParagraphPage::changed, aids, &ReferenceAids::follow);
+    connect(&m_comfort, &ComfortKeeper::changed, aids,
+            [this, aids] { aids->setShown(m_comfort.comfort().underlines); });
     m_ui->menuNavFollow->setShortcuts({Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter});
     m_runner.add(*m_ui->menuNavFollow, Kind::Adventure,
                  [this] { m_navigation.followReferenceAtCaret(); });

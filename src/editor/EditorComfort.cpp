@@ -43,6 +43,8 @@ void readValue(const QString &name, const QString &value, EditorComfort &comfort
         comfort.colours = static_cast<Comfort::Colours>(colourNames().indexOf(value));
     else if (name == QStringLiteral("rouvrir"))
         comfort.reopenLast = value == QStringLiteral("1");
+    else if (name == QStringLiteral("renvois"))
+        comfort.underlines = value != QStringLiteral("0");
     else if (name == QStringLiteral("aventure") && isPath(value) &&
              comfort.adventures.size() < Comfort::MostAdventures &&
              !comfort.adventures.contains(value))
@@ -75,7 +77,8 @@ void writeComfort(const QString &path, const EditorComfort &comfort)
     QString text = line(QStringLiteral("zoom"), QString::number(comfort.zoom)) +
                    line(QStringLiteral("page"), QString::number(comfort.pageWidth)) +
                    line(QStringLiteral("couleurs"), colourNames().at(colours)) +
-                   line(QStringLiteral("rouvrir"), QString::number(comfort.reopenLast ? 1 : 0));
+                   line(QStringLiteral("rouvrir"), QString::number(comfort.reopenLast ? 1 : 0)) +
+                   line(QStringLiteral("renvois"), QString::number(comfort.underlines ? 1 : 0));
     for (const QString &adventure : comfort.adventures)
         text += line(QStringLiteral("aventure"), adventure);
     writeWholeFile(path, text.toUtf8(), Durability::Data, Links::Replace);

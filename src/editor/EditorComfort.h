@@ -10,6 +10,7 @@
 //   page=72                   characters of a line of the page
 //   couleurs=bureau           or claires, or sombres
 //   rouvrir=1                 or 0
+//   renvois=1                 or 0: whether references are underlined
 //   aventure=/home/...        of each adventure opened last, the latest first
 struct EditorComfort {
     enum class Colours { Desktop, Light, Dark };
@@ -24,6 +25,7 @@ struct EditorComfort {
     int pageWidth = 72;
     Colours colours = Colours::Desktop;
     bool reopenLast = false;
+    bool underlines = true;
     QStringList adventures;
 
     bool operator==(const EditorComfort &) const = default;

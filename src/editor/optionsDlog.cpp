@@ -61,6 +61,7 @@ void optionsDlog::showComfort()
     m_ui->spinPage->setValue(comfort.pageWidth);
     m_ui->comboColours->setCurrentIndex(static_cast<int>(comfort.colours));
     m_ui->chkReopen->setChecked(comfort.reopenLast);
+    m_ui->chkUnderlines->setChecked(comfort.underlines);
 }
 
 void optionsDlog::OKButton_Click()
@@ -81,6 +82,7 @@ void optionsDlog::takeComfort()
     comfort.pageWidth = m_ui->spinPage->value();
     comfort.colours = static_cast<EditorComfort::Colours>(m_ui->comboColours->currentIndex());
     comfort.reopenLast = m_ui->chkReopen->isChecked();
+    comfort.underlines = m_ui->chkUnderlines->isChecked();
     m_keeper.change(comfort);
 }
 

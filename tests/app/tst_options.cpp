@@ -1,4 +1,5 @@
 #include "WindowFixture.h"
+#include "editor/ReferenceUnderlines.h"
 #include "editor/TypingAids.h"
 #include "store/WorkingFiles.h"
 #include "support/TestTable.h"
@@ -119,7 +120,7 @@ private Q_SLOTS:
         QCOMPARE(box.selFontName(), v.defaultFontName);
         QCOMPARE(box.selFontSize(), v.defaultFontSize);
         QVERIFY(v.ParagraphDirty || v.AdventureModified); // the dialog may have saved it
-        box.undo(); // in one step
+        box.undo();                                       // in one step
         QVERIFY(!box.document()->isUndoAvailable());
     }
 
@@ -144,6 +145,7 @@ private Q_SLOTS:
             child<QSpinBox>(dialog, "spinPage").setValue(40);
             child<QComboBox>(dialog, "comboColours").setCurrentIndex(2);
             child<QCheckBox>(dialog, "chkReopen").setChecked(true);
+            child<QCheckBox>(dialog, "chkUnderlines").setChecked(false);
             click(dialog, "OKButton");
         });
         QVERIFY(qAbs(drawnWidth(box) - 2 * width) < 5);
@@ -163,6 +165,7 @@ private Q_SLOTS:
         fixture.start();
         QCOMPARE(fixture.window->comfort().comfort(), kept);
         QCOMPARE(kept.colours, EditorComfort::Colours::Dark);
+        QVERIFY(!fixture.box().findChild<ReferenceUnderlines *>()->areShown());
         QVERIFY(!fixture.variables.AdventureOpen);
         fixture.window->openCommandLine({}); // the last one comes back
         QCOMPARE(fixture.box().text(), "Un deux trois.");
