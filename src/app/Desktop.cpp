@@ -10,13 +10,18 @@
 
 namespace
 {
-void chooseIcons()
+// A desktop without an icon theme of its own would keep the bundled theme that it had first; and
+// the theme of one with another lightness than the author's cannot be read.
+void chooseIcons(const QPalette &palette, bool ownColours)
 {
-    const bool dark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
-    QIcon::setFallbackThemeName(dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"));
-    // Icons already shown look their theme up again only when a theme name is set.
+    const bool dark = palette.color(QPalette::Window).lightness() < 128;
+    const QString bundled = dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze");
+    QIcon::setFallbackThemeName(bundled);
     QIcon::setThemeName({});
+    if (ownColours || QIcon::themeName() == QStringLiteral("hicolor"))
+        QIcon::setThemeName(bundled);
 }
+
 struct Tones {
     QColor window, base, button, text, faint, highlight, link;
 };
@@ -56,7 +61,7 @@ QPalette paletteOf(EditorComfort::Colours colours)
 
 Desktop::Desktop(QApplication &application)
 {
-    chooseIcons();
+    chooseIcons(QGuiApplication::palette(), false);
     application.installEventFilter(this);
     if (m_french.load(QStringLiteral("qtbase_fr"),
                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
@@ -67,14 +72,20 @@ void Desktop::show(EditorComfort::Colours colours)
 {
     if (std::exchange(m_colours, colours) == colours)
         return;
-    QApplication::setPalette(paletteOf(colours));
-    chooseIcons(); // before the program runs nobody is told of another palette
+    const bool own = colours != EditorComfort::Colours::Desktop;
+    const QPalette palette = paletteOf(colours);
+    // Before the program runs nobody is told of another palette; and some draw their icons then.
+    if (own)
+        chooseIcons(palette, true);
+    QApplication::setPalette(palette);
+    if (!own)
+        chooseIcons(QGuiApplication::palette(), false);
 }
 
 bool Desktop::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange &&
         watched == QCoreApplication::instance())
-        chooseIcons();
+        chooseIcons(QGuiApplication::palette(), m_colours != EditorComfort::Colours::Desktop);
     return QObject::eventFilter(watched, event);
 }
