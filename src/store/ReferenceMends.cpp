@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 #include <algorithm>
+#include <array>
 
 namespace
 {
@@ -143,9 +144,8 @@ private:
     Mend withPhrase() const
     {
         const QStringView word = m_line.mid(m_mark.position);
-        const QStringList others{QStringLiteral("à "), QStringLiteral("en "),
-                                 QStringLiteral("vers "), QStringLiteral("aux ")};
-        const bool instead = std::any_of(others.begin(), others.end(), [&](const QString &other) {
+        constexpr std::array<QStringView, 4> others{u"à ", u"en ", u"vers ", u"aux "};
+        const bool instead = std::any_of(others.begin(), others.end(), [word](QStringView other) {
             return word.startsWith(other, Qt::CaseInsensitive);
         });
         const qsizetype from = instead ? m_mark.position : m_mark.digits;
