@@ -2,9 +2,9 @@
 
 #include "BenchEditor.h"
 #include "Figures.h"
-#include "editor/ReferenceChoices.h"
-#include "editor/ReferenceUnderlines.h"
 #include "editor/RtfBox.h"
+#include "editor/references/ReferenceChoices.h"
+#include "editor/references/ReferenceUnderlines.h"
 #include "store/Variables.h"
 
 #include <QImage>

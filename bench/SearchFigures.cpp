@@ -3,9 +3,9 @@
 #include "BenchEditor.h"
 #include "BigAdventure.h"
 #include "Figures.h"
-#include "editor/MatchFinder.h"
-#include "editor/SearchCommands.h"
 #include "editor/UniformFormatting.h"
+#include "editor/search/MatchFinder.h"
+#include "editor/search/SearchCommands.h"
 
 #include <QFile>
 #include <QTemporaryDir>

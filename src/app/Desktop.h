@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/EditorComfort.h"
+#include "editor/options/EditorComfort.h"
 
 #include <QObject>
 #include <QTranslator>

@@ -1,6 +1,6 @@
 #include "app/RecentMenu.h"
 
-#include "editor/EditorComfort.h"
+#include "editor/options/EditorComfort.h"
 
 #include <QAction>
 #include <QDir>

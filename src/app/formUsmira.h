@@ -5,12 +5,12 @@
 #include "app/InfoMenu.h"
 #include "app/WorkDisplay.h"
 #include "editor/CommandRunner.h"
-#include "editor/EditorComfort.h"
 #include "editor/MenuStates.h"
 #include "editor/Navigation.h"
 #include "editor/ParagraphPage.h"
 #include "editor/StatusLine.h"
-#include "editor/searchReplace.h"
+#include "editor/options/EditorComfort.h"
+#include "editor/search/searchReplace.h"
 #include "store/AdventureCommands.h"
 
 #include <QMainWindow>

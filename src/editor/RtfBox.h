@@ -2,7 +2,7 @@
 
 #include "editor/TypingAids.h"
 #include "editor/TypingRun.h"
-#include "editor/ZoomedDevice.h"
+#include "editor/options/ZoomedDevice.h"
 #include "richtext/RichTextBox.h"
 
 #include <QTextEdit>

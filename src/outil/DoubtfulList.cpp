@@ -1,9 +1,9 @@
 #include "outil/DoubtfulList.h"
 
+#include "editor/references/ReferenceMarks.h"
 #include "platform/Errors.h"
 #include "richtext/RtfPlainText.h"
 #include "store/ParagraphTexts.h"
-#include "store/ReferenceMarks.h"
 
 namespace
 {

@@ -27,7 +27,7 @@ public:
 };
 
 // New, Open and Save, with the question about unsaved changes. Failures are told to the author in
-// the prescribed words; the return values say whether to go on.
+// their own words; the return values say whether to go on.
 class AdventureCommands
 {
     Q_DECLARE_TR_FUNCTIONS(AdventureCommands)

@@ -1,6 +1,6 @@
 #include "WindowFixture.h"
-#include "editor/ReferenceUnderlines.h"
 #include "editor/TypingAids.h"
+#include "editor/references/ReferenceUnderlines.h"
 #include "store/WorkingFiles.h"
 #include "support/TestTable.h"
 

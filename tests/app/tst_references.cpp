@@ -1,6 +1,6 @@
 #include "WindowFixture.h"
-#include "editor/ReferenceList.h"
-#include "editor/ReferenceUnderlines.h"
+#include "editor/references/ReferenceList.h"
+#include "editor/references/ReferenceUnderlines.h"
 
 #include <QHelpEvent>
 #include <QListView>

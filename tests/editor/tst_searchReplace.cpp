@@ -1,5 +1,5 @@
 #include "app/WindowFixture.h"
-#include "editor/MatchFinder.h"
+#include "editor/search/MatchFinder.h"
 #include "outil/HeadlessView.h"
 #include "richtext/HiddenBox.h"
 #include "richtext/RtfPlainText.h"

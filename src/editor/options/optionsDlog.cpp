@@ -1,0 +1,92 @@
+#include "editor/options/optionsDlog.h"
+
+#include "editor/TypingAids.h"
+#include "editor/options/DefaultFont.h"
+#include "editor/options/EditorComfort.h"
+#include "platform/Guarded.h"
+#include "store/Variables.h"
+#include "ui_optionsDlog.h"
+
+#include <QFontDatabase>
+#include <QLineEdit>
+
+optionsDlog::optionsDlog(Variables &variables, Prompts &prompts, ComfortKeeper &keeper,
+                         RichTextBox &box, QWidget *parent)
+    : QDialog(parent), m_variables(variables), m_keeper(keeper), m_box(box),
+      m_ui(std::make_unique<Ui::optionsDlog>())
+{
+    m_ui->setupUi(this);
+    connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
+                   [this] { OKButton_Click(); });
+    connect(m_ui->CancelButton, &QPushButton::clicked, this, &optionsDlog::CancelButton_Click);
+    Form_Load();
+    Form_Activate();
+}
+
+optionsDlog::~optionsDlog() = default;
+
+void optionsDlog::Form_Load()
+{
+    constexpr int longestFontName = 255; // what the settings file takes
+    m_ui->comboFonts->addItems(QFontDatabase::families());
+    m_ui->comboFonts->lineEdit()->setMaxLength(longestFontName);
+    m_ui->spinZoom->setRange(EditorComfort::LeastZoom, EditorComfort::MostZoom);
+    m_ui->spinPage->setRange(EditorComfort::NarrowestPage, EditorComfort::WidestPage);
+    m_ui->tabs->setCurrentIndex(0);
+}
+
+// In the order of the options.
+QCheckBox &optionsDlog::check(int option) const
+{
+    const std::array<QCheckBox *, 9> boxes{m_ui->Check1, m_ui->Check2, m_ui->Check3,
+                                           m_ui->Check4, m_ui->Check5, m_ui->Check6,
+                                           m_ui->Check7, m_ui->Check8, m_ui->Check9};
+    return *boxes.at(static_cast<std::size_t>(option));
+}
+
+void optionsDlog::Form_Activate()
+{
+    int i = 0;
+    for (const TypingOption &option : typingOptions())
+        check(i++).setChecked(option.isOn(m_variables));
+    m_ui->comboFonts->setEditText(m_variables.defaultFontName);
+    m_ui->comboSizes->setEditText(QString::number(m_variables.defaultFontSize));
+    showComfort();
+}
+
+void optionsDlog::showComfort()
+{
+    const EditorComfort &comfort = m_keeper.comfort();
+    m_ui->spinZoom->setValue(comfort.zoom);
+    m_ui->spinPage->setValue(comfort.pageWidth);
+    m_ui->comboColours->setCurrentIndex(static_cast<int>(comfort.colours));
+    m_ui->chkReopen->setChecked(comfort.reopenLast);
+    m_ui->chkUnderlines->setChecked(comfort.underlines);
+}
+
+void optionsDlog::OKButton_Click()
+{
+    int i = 0;
+    for (const TypingOption &option : typingOptions())
+        option.set(m_variables, check(i++).isChecked());
+    setDefaultFont(m_variables, m_ui->comboFonts->currentText(), m_ui->comboSizes->currentText());
+    takeComfort();
+    applyDefaultFont(m_variables, m_box);
+    accept();
+}
+
+void optionsDlog::takeComfort()
+{
+    EditorComfort comfort = m_keeper.comfort();
+    comfort.zoom = m_ui->spinZoom->value();
+    comfort.pageWidth = m_ui->spinPage->value();
+    comfort.colours = static_cast<EditorComfort::Colours>(m_ui->comboColours->currentIndex());
+    comfort.reopenLast = m_ui->chkReopen->isChecked();
+    comfort.underlines = m_ui->chkUnderlines->isChecked();
+    m_keeper.change(comfort);
+}
+
+void optionsDlog::CancelButton_Click()
+{
+    reject();
+}

@@ -1,0 +1,172 @@
+#include "editor/references/ReferenceLookAlikes.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+#include <vector>
+
+namespace
+{
+constexpr auto Options =
+    QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption;
+
+struct Follower {
+    Doubt doubt;
+    bool french;
+    QRegularExpression behind; // from the number's end on
+};
+
+struct Leader {
+    Doubt doubt;
+    QRegularExpression before; // up to the number; its first group, or all of it, is marked
+    QRegularExpression behind;
+};
+
+QRegularExpression words(const char *alternatives)
+{
+    return QRegularExpression(
+        QStringLiteral("^(?:%1)(?![\\pL\\d])").arg(QString::fromUtf8(alternatives)), Options);
+}
+
+QRegularExpression pattern(const char *text)
+{
+    return QRegularExpression(QString::fromUtf8(text), Options);
+}
+
+const std::vector<Follower> &followers()
+{
+    static const std::vector<Follower> table{
+        {Doubt::Measure, false, pattern("^\\s?(?:[%‰°€$]|/\\s?\\d)")},
+        {Doubt::Date, true,
+         words("(?:er)?\\s+(?:janvier|février|fevrier|mars|avril|mai|juin|juillet|août|aout|"
+               "septembre|octobre|novembre|décembre|decembre)")},
+        {Doubt::Ordinal, true, words("er|ère|e|è|ème|eme|ième|nd|nde|ᵉ|\\s(?:er|ème|ième)")},
+        {Doubt::Measure, true,
+         words("\\s+(?:pour\\s+cent|degrés?|étages?|points?|coups?|mètres?|kilomètres?|km|"
+               "centimètres?|cm|lieues?|pieds|heures?|h|minutes?|secondes?|jours?|ans|années?|"
+               "semaines?|siècles?|fois|euros?|francs?|pièces|kilos?|grammes?|litres?|"
+               "rue|avenue|boulevard|quai|bis)|h\\d*")},
+        {Doubt::OtherBook, true,
+         words("\\s+(?:du|de\\s+la|de\\s+votre|de\\s+notre|dans\\s+(?:le|la|votre))"
+               "\\s+(?:\\pL+\\s+){0,2}(?:volume|tome|aventure|épisode|livret)")},
+    };
+    return table;
+}
+
+const std::vector<Leader> &leaders()
+{
+    static const QRegularExpression anything;
+    static const std::vector<Leader> table{
+        {Doubt::WordBetween,
+         pattern("(?<!\\pL)aux?\\s+(?:(?:paragraphes?|numéros?|numeros?|chapitres?|sections?|"
+                 "no\\.?|n\\s?[°º]|§|#)\\s*)+$"),
+         anything},
+        {Doubt::WordBetween, pattern("(?<!\\pL)au\\s*:\\s*$"), anything},
+        {Doubt::PhraseMissing,
+         pattern("(?<!\\pL)(?:rendez|rends|reportez|reporte)[- ](?:vous|toi)\\s+$"), anything},
+        {Doubt::PhraseMissing,
+         pattern("(?<!\\pL)(?:rendez-vous|rends-toi|reportez-vous|reporte-toi|allez|aller|va|"
+                 "retourne[rz]?|passez|passer)\\s+((?:à|en|vers\\s+le)\\s+)$"),
+         anything},
+        {Doubt::PhraseMissing, pattern("\\((à\\s+)$"), pattern("^\\)")},
+        // "aux 12 et 15", and the second of the two
+        {Doubt::PhraseMissing, pattern("(?<!\\pL)aux\\s+$"),
+         pattern("^\\s*(?:,|et|ou|à|-|–)\\s*\\d")},
+        {Doubt::PhraseMissing,
+         pattern("(?<!\\pL)aux\\s+(?:(?:paragraphes|numéros)\\s+)?[\\d\\s,]*\\d\\s*((?:,|et|ou|à|-|"
+                 "–)\\s*)$"),
+         anything},
+        // "au 12, 15 ou 18." with nothing that is counted behind
+        {Doubt::PhraseMissing,
+         pattern("(?<!\\pL)au\\s+\\d{1,4}(?:\\s*,\\s*\\d{1,4})*\\s+((?:et|ou)\\s+)$"),
+         pattern("^\\s*(?:[.,;:!?)]|$)")},
+        {Doubt::PhraseMissing, pattern("(?<!\\pL)au\\s+\\d{1,4}(?:\\s*,\\s*\\d{1,4})*(\\s*,\\s*)$"),
+         pattern("^\\s*(?:,|et|ou)\\s*\\d{1,4}\\s*(?:[.,;:!?)]|et|ou|$)")},
+    };
+    return table;
+}
+
+bool isSpace(QChar c)
+{
+    return c == u' ' || c == u'\t';
+}
+
+bool isWordCharacter(QChar c)
+{
+    return c.isLetterOrNumber() || c == u'_';
+}
+
+// The phrase's words stand before the number, but not as the phrase has them.
+std::optional<Unread> misspelt(QStringView before, QStringView core)
+{
+    qsizetype end = before.size();
+    while (end > 0 && before.at(end - 1).isSpace())
+        --end;
+    const qsizetype start = end - core.size();
+    if (start < 0 || before.mid(start, core.size()).compare(core, Qt::CaseInsensitive) != 0)
+        return std::nullopt;
+    const QChar leading = start > 0 ? before.at(start - 1) : QChar(u'\n');
+    if (isWordCharacter(leading) && isWordCharacter(core.front()))
+        return std::nullopt;
+    const QStringView gap = before.mid(end);
+    Doubt doubt = gap.size() > 1 ? Doubt::TooManyBlanks : Doubt::DigitsJoined;
+    if (gap.contains(u'\n'))
+        doubt = Doubt::LineBreak;
+    else if ((leading.isSpace() && leading != u'\n' && !isSpace(leading)) ||
+             !std::all_of(gap.begin(), gap.end(), [](QChar c) { return isSpace(c); }))
+        doubt = Doubt::NoBreakSpace;
+    else if (gap.isEmpty() || !isSpace(leading))
+        doubt = Doubt::NoBlank;
+    return Unread{doubt, before.size() - start};
+}
+} // namespace
+
+bool isFrenchPhrase(QStringView phrase)
+{
+    const QStringView core = phrase.trimmed();
+    return core.startsWith(u"au", Qt::CaseInsensitive) &&
+           (core.size() == 2 || core.at(2).isSpace());
+}
+
+Doubt doubtByWhatFollows(QStringView behind, qsizetype digits, bool french)
+{
+    static const QRegularExpression pairs = pattern("^(?:[\\s.\\-]\\d\\d){3,}(?!\\d)");
+    static const QRegularExpression groups = pattern("^(?:[\\s.\\-]\\d{2,3}){2,}(?!\\d)");
+    // Most references end at a comma or the like, behind which there is nothing to look at.
+    if (behind.isEmpty() || QStringView(u",;:!?)").contains(behind.front()))
+        return Doubt::None;
+    const QString text = behind.left(LookAlikeContext).toString();
+    if ((digits <= 2 && pairs.match(text).hasMatch()) ||
+        (digits >= 3 && groups.match(text).hasMatch()))
+        return Doubt::Telephone;
+    for (const Follower &follower : followers())
+        if ((french || !follower.french) && follower.behind.match(text).hasMatch())
+            return follower.doubt;
+    return Doubt::None;
+}
+
+std::optional<Unread> unreadByContext(const QString &before, QStringView behind,
+                                      const QString &phrase)
+{
+    const QStringView core = QStringView(phrase).trimmed();
+    if (core.isEmpty())
+        return std::nullopt;
+    if (const std::optional<Unread> found = misspelt(before, core)) {
+        // "au 900 000" is no paragraph at all.
+        static const QRegularExpression thousands = pattern("^\\s\\d{3}(?!\\d)");
+        if (found->doubt == Doubt::DigitsJoined &&
+            thousands.match(behind.left(LookAlikeContext).toString()).hasMatch())
+            return std::nullopt;
+        return found;
+    }
+    if (!isFrenchPhrase(phrase))
+        return std::nullopt;
+    const QString text = behind.left(LookAlikeContext).toString();
+    for (const Leader &leader : leaders()) {
+        const QRegularExpressionMatch match = leader.before.match(before);
+        if (!match.hasMatch() || !leader.behind.match(text).hasMatch())
+            continue;
+        const int group = match.capturedStart(1) >= 0 ? 1 : 0;
+        return Unread{leader.doubt, before.size() - match.capturedStart(group)};
+    }
+    return std::nullopt;
+}

@@ -1,0 +1,269 @@
+#include "editor/references/ReferenceMarks.h"
+
+#include "editor/references/ReferenceLookAlikes.h"
+#include "platform/Ascii.h"
+#include "store/LenientNumbers.h"
+#include "store/ReferenceIndex.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+
+namespace
+{
+// The digits that begin at position.
+QStringView digitsAt(QStringView text, qsizetype position)
+{
+    qsizetype end = position;
+    while (end < text.size() && isAsciiDigit(text.at(end)))
+        ++end;
+    return text.mid(position, end - position);
+}
+
+int valueOf(QStringView digits)
+{
+    bool ok = false;
+    const int value = digits.toInt(&ok);
+    return ok ? value : 0;
+}
+
+// What has changed in a line since its marks were read. Positions in the new line.
+struct Change {
+    qsizetype from;
+    qsizetype to;
+    qsizetype growth; // characters that it is longer now
+};
+
+Change changeBetween(QStringView before, QStringView now, bool fromStart)
+{
+    const qsizetype common = std::min(before.size(), now.size());
+    const auto differs = std::mismatch(now.begin(), now.begin() + common, before.begin());
+    const qsizetype from = differs.first - now.begin();
+    qsizetype behind = 0;
+    while (behind < common - from &&
+           now.at(now.size() - 1 - behind) == before.at(before.size() - 1 - behind))
+        ++behind;
+    return {fromStart ? 0 : from, now.size() - behind, now.size() - before.size()};
+}
+
+class LineMarks
+{
+public:
+    LineMarks(QStringView line, QStringView previousEnd, const QString &phrase)
+        : m_line(line), m_previousEnd(previousEnd), m_phrase(phrase),
+          m_french(isFrenchPhrase(phrase))
+    {
+    }
+
+    QList<ReferenceMark> find()
+    {
+        const bool found = readOn(0, [](const ReferenceMark &) { return false; });
+        if (!found && !isRowOfNumbers())
+            findUnread(0, m_line.size());
+        return m_marks;
+    }
+
+    // The same from the marks before the change. A reference behind which nothing is doubtful
+    // begins the search anew whatever stands before it: between two such the line is read again.
+    QList<ReferenceMark> findAgain(const QList<ReferenceMark> &before, const Change &change)
+    {
+        constexpr qsizetype reach = 2 * LookAlikeContext;
+        const auto sure = [](const ReferenceMark &mark) { return mark.doubt == Doubt::None; };
+        auto kept = std::partition_point(before.begin(), before.end(), [&](const auto &mark) {
+            return mark.position + mark.length + reach <= change.from;
+        });
+        while (kept != before.begin() && !sure(*(kept - 1)))
+            --kept;
+        if (kept == before.begin())
+            return find();
+        m_marks = before.first(kept - before.begin());
+        readOn(m_marks.last().digits, [&](const ReferenceMark &mark) {
+            if (!sure(mark) || mark.position < change.to + reach)
+                return false;
+            auto same = std::partition_point(before.begin(), before.end(), [&](const auto &old) {
+                return old.position + change.growth < mark.position;
+            });
+            if (same == before.end() || !sure(*same) ||
+                same->position + change.growth != mark.position)
+                return false;
+            for (++same; same != before.end(); ++same) {
+                m_marks.append(*same);
+                m_marks.last().position += change.growth;
+                m_marks.last().digits += change.growth;
+            }
+            return true;
+        });
+        return m_marks;
+    }
+
+private:
+    // Reads on behind a phrase, or from the start, to the end or until ends says so of a mark.
+    // Whether there were any references.
+    template <typename Ends> bool readOn(qsizetype from, Ends ends)
+    {
+        qsizetype searched = m_marks.isEmpty() ? 0
+                                               : m_marks.last().position +
+                                                     m_marks.last().length; // for what is not read
+        while (const std::optional<Reference> reference = nextReference(m_line, m_phrase, from)) {
+            const ReferenceMark mark = markOf(*reference);
+            findUnread(searched, mark.position);
+            m_marks.append(mark);
+            if (ends(mark))
+                return true;
+            searched = std::max(mark.position + mark.length, reference->position);
+            from = reference->position;
+        }
+        if (from > 0)
+            findUnread(searched, m_line.size());
+        return from > 0;
+    }
+
+    // Such a line has no phrase at all.
+    bool isRowOfNumbers()
+    {
+        static const QRegularExpression row(
+            QStringLiteral("^\\s*(\\d{1,4}(?:[\\s,;/|.\\-\u2013]+\\d{1,4})+)[\\s.]*$"));
+        constexpr qsizetype longest = 200;
+        if (m_phrase.isEmpty() || m_line.size() > longest)
+            return false;
+        const auto first =
+            std::find_if_not(m_line.begin(), m_line.end(), [](QChar c) { return c.isSpace(); });
+        if (first == m_line.end() || !isAsciiDigit(*first))
+            return false;
+        const QRegularExpressionMatch match = row.match(m_line.toString());
+        if (!match.hasMatch())
+            return false;
+        const qsizetype start = match.capturedStart(1);
+        m_marks.append({start, match.capturedLength(1), start, valueOf(digitsAt(m_line, start)), 0,
+                        Doubt::NumbersAlone});
+        return true;
+    }
+
+    ReferenceMark markOf(const Reference &reference) const
+    {
+        qsizetype start = reference.position;
+        while (start < m_line.size() && !isAsciiDigit(m_line.at(start)))
+            ++start;
+        const QStringView digits = digitsAt(m_line, start);
+        const qsizetype end = start + digits.size();
+        const int seen = valueOf(digits);
+        const int read = roundHalfEven(reference.number);
+        const Doubt doubt = doubtOf(reference, start, digits);
+        if (doubt == Doubt::None)
+            return {start, digits.size(), start, seen, read, doubt};
+        const qsizetype from = startOfPhrase(reference.position);
+        return {from,  (doubt == Doubt::DigitsBehind ? endOfDigits(end) : end) - from,
+                start, seen,
+                read,  doubt};
+    }
+
+    // Where the phrase's words begin, behind its blanks.
+    qsizetype startOfPhrase(qsizetype behind) const
+    {
+        qsizetype start = behind - m_phrase.size();
+        while (start < behind && m_line.at(start).isSpace())
+            ++start;
+        return start;
+    }
+
+    // Behind the digits that the number is read from although they stand apart.
+    qsizetype endOfDigits(qsizetype end) const
+    {
+        qsizetype at = end;
+        while (at < m_line.size() && !isAsciiDigit(m_line.at(at)))
+            ++at;
+        return at + digitsAt(m_line, at).size();
+    }
+
+    Doubt doubtOf(const Reference &reference, qsizetype start, QStringView digits) const
+    {
+        const Doubt byContext =
+            doubtByWhatFollows(m_line.mid(start + digits.size()), digits.size(), m_french);
+        if (byContext != Doubt::None)
+            return byContext;
+        if (start > reference.position)
+            return Doubt::BlanksBefore;
+        if (digits.startsWith(u'0'))
+            return Doubt::LeadingZero;
+        return reference.number == valueOf(digits) ? Doubt::None : Doubt::DigitsBehind;
+    }
+
+    void findUnread(qsizetype from, qsizetype to)
+    {
+        for (qsizetype at = from; at < to;) {
+            const QStringView digits = digitsAt(m_line, at);
+            if (digits.isEmpty()) {
+                ++at;
+                continue;
+            }
+            if (const std::optional<ReferenceMark> mark = unread(at, digits))
+                if (m_marks.isEmpty() ||
+                    mark->position >= m_marks.last().position + m_marks.last().length)
+                    m_marks.append(*mark);
+            at += digits.size();
+        }
+    }
+
+    std::optional<ReferenceMark> unread(qsizetype at, QStringView digits) const
+    {
+        constexpr qsizetype most = 4;
+        const int seen = valueOf(digits);
+        if (digits.size() > most || seen < 1 || seen > Variables::LastParagraph)
+            return std::nullopt;
+        const QStringView behind = m_line.mid(at + digits.size());
+        const std::optional<Unread> found = unreadByContext(before(at), behind, m_phrase);
+        if (!found || doubtByWhatFollows(behind, digits.size(), m_french) != Doubt::None)
+            return std::nullopt;
+        const qsizetype start = std::max(at - found->before, qsizetype{0});
+        return ReferenceMark{start, at + digits.size() - start, at, seen, 0, found->doubt};
+    }
+
+    // What stands before the number, as far as it counts, the end of the line before included.
+    QString before(qsizetype at) const
+    {
+        const qsizetype start = std::max(at - LookAlikeContext, qsizetype{0});
+        QString context = m_line.mid(start, at - start).toString();
+        if (start == 0 && !m_previousEnd.isEmpty())
+            context.prepend(m_previousEnd.toString() + u'\n');
+        return context;
+    }
+
+    QStringView m_line;
+    QStringView m_previousEnd;
+    const QString &m_phrase;
+    bool m_french;
+    QList<ReferenceMark> m_marks;
+};
+} // namespace
+
+void LineReferences::read(const QString &line, const QString &previous, const QString &phrase)
+{
+    const QString previousEnd = previous.right(LookAlikeContext);
+    LineMarks marks(line, previousEnd, phrase);
+    if (phrase != m_phrase)
+        m_marks = marks.find();
+    else
+        m_marks =
+            marks.findAgain(m_marks, changeBetween(m_line, line, previousEnd != m_previousEnd));
+    m_line = line;
+    m_previousEnd = previousEnd;
+    m_phrase = phrase;
+}
+
+QList<ReferenceMark> referenceMarks(QStringView text, const QString &phrase)
+{
+    QList<ReferenceMark> marks;
+    QStringView previousEnd;
+    for (qsizetype start = 0; start < text.size();) {
+        const qsizetype found = text.indexOf(u"\r\n", start);
+        const qsizetype end = found < 0 ? text.size() : found;
+        const QStringView line = text.mid(start, end - start);
+        for (ReferenceMark mark : LineMarks(line, previousEnd, phrase).find()) {
+            mark.position += start;
+            mark.digits += start;
+            marks.append(mark);
+        }
+        previousEnd = line.right(LookAlikeContext);
+        start = end + 2;
+    }
+    return marks;
+}

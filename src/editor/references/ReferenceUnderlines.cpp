@@ -1,0 +1,221 @@
+#include "editor/references/ReferenceUnderlines.h"
+
+#include "editor/RtfBox.h"
+#include "store/AdventureEvents.h"
+#include "store/Variables.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScrollBar>
+#include <QTextDocument>
+#include <QTextLayout>
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+// What was read of a line, and from what. It goes with the line.
+struct ReadLine : QTextBlockUserData {
+    LineReferences references;
+    QString phrase;
+    int revision = -1;
+    int previousRevision = -1;
+    int previousLength = -1;
+};
+
+constexpr double faint = 0.45; // of the text's colour
+
+QColor shade(const QPalette &palette, double share)
+{
+    QColor colour = palette.color(QPalette::Text);
+    colour.setAlphaF(static_cast<float>(share));
+    return colour;
+}
+
+QColor doubtColour(const QPalette &palette)
+{
+    const bool dark = palette.color(QPalette::Base).lightness() < 128;
+    return dark ? QColor(0xff, 0xa8, 0x40) : QColor(0xc2, 0x5a, 0x00);
+}
+
+constexpr QSizeF WaveSize(6, 4); // one wave and the room that it takes
+
+// One wave to be laid side by side, for drawing each would take long on a page full of them.
+QPixmap wave(const QColor &colour, double pixelRatio)
+{
+    QPixmap pixmap((WaveSize * pixelRatio).toSize());
+    pixmap.setDevicePixelRatio(pixelRatio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1.1));
+    const double middle = WaveSize.height() / 2;
+    const double quarter = WaveSize.width() / 4;
+    QPainterPath path(QPointF(-quarter, middle - 1));
+    for (double x = quarter, side = 1; x <= WaveSize.width() + quarter;
+         x += 2 * quarter, side = -side)
+        path.lineTo(x, middle + side);
+    painter.drawPath(path);
+    return pixmap;
+}
+} // namespace
+
+ReferenceUnderlines::ReferenceUnderlines(const Variables &variables, RtfBox &box)
+    : QObject(&box), m_variables(variables), m_box(box)
+{
+    const AdventureEvents *events = variables.Events.get();
+    const auto update = [this] { m_box.viewport()->update(); };
+    connect(events, &AdventureEvents::paragraphSaved, this, update);
+    connect(events, &AdventureEvents::textsChanged, this, update);
+    connect(events, &AdventureEvents::adventureReplaced, this, update);
+    connect(&box, &RtfBox::painted, this, &ReferenceUnderlines::paint);
+    connect(box.document(), &QTextDocument::contentsChange, this,
+            [this](int position, int, int added) { updateBehind(position + added); });
+}
+
+void ReferenceUnderlines::setShown(bool shown)
+{
+    m_shown = shown;
+    m_box.viewport()->update();
+}
+
+void ReferenceUnderlines::followPhrase()
+{
+    if (m_phrase != m_variables.TargetPhrase)
+        m_box.viewport()->update();
+    m_phrase = m_variables.TargetPhrase;
+}
+
+// The box repaints a line that has changed, but the one behind it depends on it too.
+void ReferenceUnderlines::updateBehind(int position) const
+{
+    const QTextBlock next = m_box.document()->findBlock(position).next();
+    if (m_shown && next.isValid())
+        m_box.viewport()->update(rectOf(next).toAlignedRect());
+}
+
+const QList<ReferenceMark> &ReferenceUnderlines::marksOf(const QTextBlock &block) const
+{
+    QTextBlock line = block;
+    auto *read = dynamic_cast<ReadLine *>(line.userData());
+    if (read == nullptr) {
+        read = new ReadLine;
+        line.setUserData(read); // which owns it
+    }
+    const QTextBlock previous = block.previous();
+    const int previousRevision = previous.isValid() ? previous.revision() : -1;
+    if (read->revision != block.revision() || read->previousRevision != previousRevision ||
+        read->previousLength != previous.length() || read->phrase != m_variables.TargetPhrase) {
+        read->phrase = m_variables.TargetPhrase;
+        read->references.read(block.text(), previous.text(), read->phrase);
+        read->revision = block.revision();
+        read->previousRevision = previousRevision;
+        read->previousLength = previous.length();
+    }
+    return read->references.marks();
+}
+
+// In the viewport's coordinates.
+QRectF ReferenceUnderlines::rectOf(const QTextBlock &block) const
+{
+    return m_box.document()->documentLayout()->blockBoundingRect(block).translated(
+        -m_box.horizontalScrollBar()->value(), -m_box.verticalScrollBar()->value());
+}
+
+// The parts of marks on the lines of the screen that reach into an area.
+void ReferenceUnderlines::forEachPiece(const QTextBlock &block, const QRectF &area,
+                                       const Piece &piece) const
+{
+    const QList<ReferenceMark> &marks = marksOf(block);
+    if (marks.isEmpty())
+        return;
+    const QTextLayout &layout = *block.layout();
+    const QPointF origin = rectOf(block).topLeft();
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        const QRectF rect = line.rect().translated(origin);
+        if (rect.bottom() < area.top())
+            continue;
+        if (rect.top() > area.bottom())
+            return;
+        const int start = line.textStart();
+        const int end = start + line.textLength();
+        auto mark = std::partition_point(marks.begin(), marks.end(), [start](const auto &m) {
+            return m.position + m.length <= start;
+        });
+        for (; mark != marks.end() && mark->position < end; ++mark) {
+            const auto from = static_cast<int>(std::max<qsizetype>(mark->position, start));
+            const auto to =
+                static_cast<int>(std::min<qsizetype>(mark->position + mark->length, end));
+            const double left = origin.x() + line.cursorToX(from);
+            const double right = origin.x() + line.cursorToX(to);
+            piece(*mark, QRectF(std::min(left, right), rect.top(), std::abs(right - left),
+                                line.ascent() + line.descent()));
+        }
+    }
+}
+
+void ReferenceUnderlines::paint(QPainter &painter, const QRect &area) const
+{
+    if (!m_shown || !m_variables.AdventureOpen)
+        return;
+    const QPixmap waves = wave(doubtColour(m_box.palette()), m_box.devicePixelRatioF());
+    QTextBlock block = m_box.cursorForPosition({0, area.top()}).block();
+    for (; block.isValid() && rectOf(block).top() <= area.bottom(); block = block.next())
+        forEachPiece(block, area, [&](const ReferenceMark &mark, const QRectF &line) {
+            if (mark.doubt == Doubt::None)
+                paintLine(painter, mark.read, line);
+            else
+                painter.drawTiledPixmap(
+                    QRectF(line.left(), std::floor(line.bottom()) - WaveSize.height() / 2 - 1,
+                           line.width(), WaveSize.height()),
+                    waves);
+        });
+}
+
+void ReferenceUnderlines::paintLine(QPainter &painter, int target, const QRectF &line) const
+{
+    const bool written = m_variables.Written.at(target) == 1;
+    painter.setPen(QPen(shade(m_box.palette(), written ? faint : 2 * faint), 1,
+                        written ? Qt::SolidLine : Qt::DotLine));
+    const double y = std::floor(line.bottom()) - 1.5;
+    painter.drawLine(QPointF(line.left(), y), QPointF(line.right(), y));
+}
+
+std::optional<ReferenceUnderlines::Place> ReferenceUnderlines::under(const QPoint &point) const
+{
+    std::optional<Place> found;
+    if (!m_shown || !m_variables.AdventureOpen)
+        return found;
+    const QTextBlock block = m_box.cursorForPosition(point).block();
+    forEachPiece(block, QRectF(point, QSizeF(1, 1)),
+                 [&](const ReferenceMark &mark, const QRectF &line) {
+                     if (line.contains(point))
+                         found = Place{block, mark};
+                 });
+    return found;
+}
+
+std::optional<ReferenceUnderlines::Place> ReferenceUnderlines::at(int position) const
+{
+    const QTextBlock block = m_box.document()->findBlock(position);
+    if (!m_shown || !m_variables.AdventureOpen || !block.isValid())
+        return std::nullopt;
+    const int inLine = position - block.position();
+    for (const ReferenceMark &mark : marksOf(block))
+        if (mark.position <= inLine && inLine <= mark.position + mark.length)
+            return Place{block, mark};
+    return std::nullopt;
+}
+
+QRect ReferenceUnderlines::rectOf(const Place &place) const
+{
+    QRectF rect;
+    forEachPiece(place.block, QRectF(m_box.viewport()->rect()),
+                 [&](const ReferenceMark &mark, const QRectF &line) {
+                     if (mark.position == place.mark.position)
+                         rect |= line;
+                 });
+    return rect.toAlignedRect();
+}

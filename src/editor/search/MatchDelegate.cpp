@@ -1,0 +1,63 @@
+#include "editor/search/MatchDelegate.h"
+
+#include "editor/search/MatchModel.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QTextLayout>
+
+namespace
+{
+constexpr int Gap = 8; // pixels
+
+void paintWords(QPainter &painter, const QRect &room, const QFont &font, const MatchLine &line)
+{
+    QTextLayout layout(line.words, font);
+    QTextLayout::FormatRange bold;
+    bold.start = line.boldStart;
+    bold.length = line.boldLength;
+    bold.format.setFontWeight(QFont::Bold);
+    layout.setFormats({bold});
+    layout.beginLayout();
+    QTextLine words = layout.createLine();
+    words.setNumColumns(static_cast<int>(line.words.size()));
+    layout.endLayout();
+    painter.setClipRect(room);
+    layout.draw(&painter, QPointF(room.x(), room.y() + (room.height() - words.height()) / 2));
+}
+} // namespace
+
+MatchDelegate::MatchDelegate(const MatchModel &model, QObject *parent)
+    : QStyledItemDelegate(parent), m_model(model)
+{
+}
+
+void MatchDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const
+{
+    QStyleOptionViewItem panel = option;
+    const QStyle *style = option.widget != nullptr ? option.widget->style() : QApplication::style();
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &panel, painter, option.widget);
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    const bool active = option.state.testFlag(QStyle::State_Active);
+    const MatchLine &line = m_model.line(index.row());
+    painter->save();
+    painter->setFont(option.font);
+    painter->setPen(option.palette.color(active ? QPalette::Active : QPalette::Inactive,
+                                         selected ? QPalette::HighlightedText : QPalette::Text));
+    QRect room = option.rect.adjusted(Gap, 0, -Gap, 0);
+    for (const int value : {line.match.paragraph, line.match.position}) {
+        const int column = option.fontMetrics.horizontalAdvance(QStringLiteral("00000"));
+        painter->drawText(QRect(room.x(), room.y(), column, room.height()),
+                          Qt::AlignRight | Qt::AlignVCenter, QString::number(value));
+        room.setLeft(room.x() + column + Gap);
+    }
+    room.setLeft(room.x() + Gap);
+    paintWords(*painter, room, option.font, line);
+    painter->restore();
+}
+
+QSize MatchDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
+{
+    return {0, option.fontMetrics.height() + Gap};
+}

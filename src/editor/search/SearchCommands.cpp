@@ -1,0 +1,212 @@
+#include "editor/search/SearchCommands.h"
+
+#include "editor/ParagraphSearch.h"
+#include "editor/search/MatchFinder.h"
+#include "editor/search/TextReplacing.h"
+#include "platform/Failures.h"
+#include "richtext/RtfPlainText.h"
+#include "store/AdventureCommands.h"
+#include "store/LongWork.h"
+#include "store/ParagraphStore.h"
+
+#include <algorithm>
+#include <map>
+
+namespace
+{
+constexpr int WordsBefore = 30; // characters
+constexpr int WordsBehind = 80;
+constexpr int MostBold = 200;
+
+QString onOneLine(QString text)
+{
+    return text.replace(QLatin1String("\r\n"), QLatin1String(" "));
+}
+
+// What stands before a match in its line: whole words, if any fit.
+QString wordsBefore(const QString &text, qsizetype position)
+{
+    if (position <= WordsBefore)
+        return onOneLine(text.left(position));
+    const QString before = onOneLine(text.mid(position - WordsBefore, WordsBefore));
+    const qsizetype blank = before.indexOf(u' ');
+    return QStringLiteral("...") + (blank < before.size() - 1 ? before.mid(blank + 1) : before);
+}
+
+MatchLine lineOf(int n, const QString &text, const Replacement &match)
+{
+    const QString found = text.mid(match.position, match.length);
+    const QString before = wordsBefore(text, match.position);
+    const QString bold = onOneLine(found).left(MostBold);
+    const QString behind = onOneLine(text.mid(match.position + match.length, WordsBehind));
+    return {{n, static_cast<int>(match.position), found},
+            before + bold + behind,
+            static_cast<int>(before.size()),
+            static_cast<int>(bold.size())};
+}
+} // namespace
+
+SearchCommands::SearchCommands(Variables &variables, Prompts &prompts, AdventureView &view,
+                               WorkReport &report)
+    : m_variables(variables), m_prompts(prompts), m_view(view), m_report(report)
+{
+}
+
+bool SearchCommands::isGiven(const QString &text)
+{
+    if (text.isEmpty())
+        m_prompts.message(tr("Vous devez chercher pour quelque chose."), tr("Tsé"),
+                          Prompts::Buttons::Ok);
+    return !text.isEmpty();
+}
+
+QString SearchCommands::textOf(int n) const
+{
+    try {
+        return rtfToPlainText(GetParagraphRtf(m_variables, n));
+    } catch (const UsmiraError &) {
+        return {};
+    }
+}
+
+std::optional<FoundMatch> SearchCommands::firstMatch(const SearchFor &what, int low, int high) const
+{
+    for (int n = low; n <= high; ++n) {
+        if (m_variables.Written.at(n) == 0)
+            continue;
+        const qsizetype found = findText(textOf(n), what.text, 0, what.options);
+        if (found >= 0)
+            return FoundMatch{n, static_cast<int>(found)};
+    }
+    return std::nullopt;
+}
+
+std::optional<FoundMatch> SearchCommands::searchFollowing(const SearchFor &what)
+{
+    int from = m_variables.CurrentParagraph + 1;
+    for (;;) {
+        if (const auto match = firstMatch(what, from, m_variables.HighestWritten))
+            return match;
+        const QString question = tr("Dernier paragraphe atteint. Poursuivre au premier ?");
+        if (m_prompts.message(question, tr("Fin de l'aventure"), Prompts::Buttons::YesNo) !=
+            Prompts::Answer::Yes)
+            return std::nullopt;
+        from = m_variables.LowestWritten;
+    }
+}
+
+QList<FoundMatch> SearchCommands::all(const SearchFor &what)
+{
+    QList<FoundMatch> matches;
+    if (!isGiven(what.text))
+        return matches;
+    const QList<int> numbers = writtenParagraphs(m_variables);
+    for (const int n : numbers) {
+        const QString text = textOf(n);
+        qsizetype at = 0;
+        while ((at = findText(text, what.text, at, what.options)) >= 0) {
+            matches.append({n, static_cast<int>(at)});
+            at += what.text.size();
+        }
+    }
+    return matches;
+}
+
+bool SearchCommands::mayErase(const QString &question)
+{
+    return m_prompts.message(question, tr("Attention"), Prompts::Buttons::OkCancel) ==
+           Prompts::Answer::Ok;
+}
+
+std::optional<int> SearchCommands::replaceAll(const SearchFor &what, const QString &by, Where where)
+{
+    const auto mayEraseAll = [this] {
+        return mayErase(tr("La case Remplacer est vide. Cette opération effacera le texte cherché "
+                           "partout où il se trouve. Continuer ?"));
+    };
+    if (!isGiven(what.text) || (by.isEmpty() && !mayEraseAll()))
+        return std::nullopt;
+    int count = 0;
+    const bool done = reportingFailures(m_prompts, [&] {
+        SaveCurParg(m_variables, m_view.editingBox(), m_prompts);
+        LongWork work(m_report, tr("Remplacement..."));
+        const int current = m_variables.CurrentParagraph;
+        QList<int> numbers = writtenParagraphs(m_variables);
+        if (where == Where::CurrentParagraph)
+            numbers = numbers.contains(current) ? QList<int>{current} : QList<int>{};
+        count = replaceInParagraphs(
+            m_variables, m_view.editingBox(), numbers,
+            [&](int, const QString &text) {
+                return replacementsOfAll(text, what.text, by, what.options);
+            },
+            work.progress());
+        return true;
+    });
+    return done ? std::optional(count) : std::nullopt;
+}
+
+QString SearchCommands::replacedText(int count)
+{
+    return tr("Remplacements effectués : %1.").arg(count);
+}
+
+QList<MatchLine> SearchCommands::lines(const MatchFinder &finder, int n) const
+{
+    QList<MatchLine> lines;
+    if (m_variables.Written.at(n) == 0)
+        return lines;
+    const QString text = textOf(n);
+    const QList<Replacement> matches = finder.replacements(text, {});
+    for (const Replacement &match : matches)
+        lines.append(lineOf(n, text, match));
+    return lines;
+}
+
+void SearchCommands::tellTooCostly(int n)
+{
+    m_prompts.message(tr("Cette expression régulière demande trop de travail au paragraphe %1. "
+                         "Simplifiez-la.")
+                          .arg(n),
+                      tr("Zut"), Prompts::Buttons::Ok);
+}
+
+void SearchCommands::replaceListed(const MatchFinder &finder, const QString &by,
+                                   const QList<ListedMatch> &matches)
+{
+    if (by.isEmpty() && !mayErase(tr("La case Remplacer est vide. Cette opération effacera les "
+                                     "occurrences choisies. Continuer ?")))
+        return;
+    reportingFailures(m_prompts, [&] {
+        const int replaced = replaceStored(finder, by, matches);
+        const auto gone = matches.size() - replaced;
+        QString text = replacedText(replaced);
+        if (gone > 0)
+            text += u' ' + tr("Occurrences que le texte n'a plus : %1.").arg(gone);
+        m_prompts.message(text, tr("Remplacer la sélection"), Prompts::Buttons::Ok);
+        return true;
+    });
+}
+
+// A match is still there when the same search finds the same text at the same place.
+int SearchCommands::replaceStored(const MatchFinder &finder, const QString &by,
+                                  const QList<ListedMatch> &matches)
+{
+    std::map<int, std::map<qsizetype, QString>> listed;
+    for (const ListedMatch &match : matches)
+        listed[match.paragraph][match.position] = match.text;
+    QList<int> numbers = writtenParagraphs(m_variables);
+    numbers.removeIf([&](int n) { return listed.count(n) == 0; });
+    LongWork work(m_report, tr("Remplacement..."));
+    return replaceInParagraphs(
+        m_variables, m_view.editingBox(), numbers,
+        [&](int n, const QString &text) {
+            QList<Replacement> found = finder.replacements(text, by);
+            found.removeIf([&](const Replacement &match) {
+                const auto chosen = listed[n].find(match.position);
+                return chosen == listed[n].end() ||
+                       chosen->second != text.mid(match.position, match.length);
+            });
+            return found;
+        },
+        work.progress());
+}

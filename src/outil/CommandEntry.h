@@ -1,0 +1,49 @@
+#pragma once
+
+#include "convert/ExportCommand.h"
+#include "editor/search/SearchCommands.h"
+#include "outil/HeadlessView.h"
+#include "renumber/RenumberCommands.h"
+#include "store/AdventureCommands.h"
+
+#include <QByteArray>
+#include <QStringList>
+#include <vector>
+
+// What the commands of a script work with: the open adventure, and the classes that the windows
+// use.
+struct CommandServices {
+    CommandServices(Variables &state, Prompts &answers);
+
+    // The paragraph that has the current number now comes onto the screen that nobody sees, when
+    // something was done. Gives no output.
+    QByteArray shownAgain(bool done);
+
+    Variables &variables;
+    Prompts &prompts;
+    HeadlessView view;
+    AdventureCommands adventure;
+    RenumberCommands renumber;
+    SearchCommands search;
+    ExportCommand exports;
+};
+
+// One command. How many arguments it takes is read off its form; those in brackets may be left out,
+// and those with dots be given again. It returns what goes to standard output, and throws
+// UsageError on a wrong argument.
+struct CommandEntry {
+    const char *name; // all three in UTF-8
+    const char *form;
+    const char *purpose; // to be translated
+    bool needsAdventure;
+    QByteArray (*run)(CommandServices &, const QStringList &);
+};
+
+// Of the number n alone.
+QByteArray numberLine(int n);
+
+std::vector<CommandEntry> adventureEntries();
+std::vector<CommandEntry> paragraphEntries();
+std::vector<CommandEntry> renumberEntries();
+std::vector<CommandEntry> textEntries();
+std::vector<CommandEntry> publishEntries();
