@@ -17,44 +17,44 @@ constexpr std::array Reasons{
                                                 "une renumérotation l'écrirait de travers.")},
     Reason{Doubt::LeadingZero,
            QT_TRANSLATE_NOOP(
-               "ReferenceMarks",
+               "ReferenceDoubts",
                "Il y a un zéro devant le numéro : une renumérotation l'écrirait de travers.")},
     Reason{Doubt::DigitsBehind,
            QT_TRANSLATE_NOOP("ReferenceDoubts",
                              "D'autres chiffres suivent le numéro : le renvoi est lu « %2 », "
                              "et une renumérotation l'écrirait de travers.")},
     Reason{Doubt::DigitsJoined,
-           QT_TRANSLATE_NOOP("ReferenceMarks",
+           QT_TRANSLATE_NOOP("ReferenceDoubts",
                              "Ce renvoi n'est pas reconnu : d'autres chiffres suivent le numéro.")},
     Reason{
         Doubt::TooManyBlanks,
-        QT_TRANSLATE_NOOP("ReferenceMarks",
+        QT_TRANSLATE_NOOP("ReferenceDoubts",
                           "Ce renvoi n'est pas reconnu : il y a trop d'espaces avant le numéro.")},
     Reason{Doubt::NoBlank,
            QT_TRANSLATE_NOOP(
-               "ReferenceMarks",
+               "ReferenceDoubts",
                "Ce renvoi n'est pas reconnu : il faut une espace avant et après « %1 ».")},
     Reason{Doubt::NoBreakSpace,
            QT_TRANSLATE_NOOP(
-               "ReferenceMarks",
+               "ReferenceDoubts",
                "Ce renvoi n'est pas reconnu : l'espace avant ou après « %1 » est insécable.")},
     Reason{Doubt::LineBreak,
            QT_TRANSLATE_NOOP(
-               "ReferenceMarks",
+               "ReferenceDoubts",
                "Ce renvoi n'est pas reconnu : une fin de ligne sépare « %1 » du numéro.")},
     Reason{
         Doubt::WordBetween,
         QT_TRANSLATE_NOOP("ReferenceDoubts",
                           "Ce renvoi n'est pas reconnu : quelque chose sépare « %1 » du numéro.")},
     Reason{Doubt::PhraseMissing,
-           QT_TRANSLATE_NOOP("ReferenceMarks",
+           QT_TRANSLATE_NOOP("ReferenceDoubts",
                              "Ce renvoi n'est pas reconnu : il manque « %1 » devant le numéro.")},
     Reason{
         Doubt::NumbersAlone,
-        QT_TRANSLATE_NOOP("ReferenceMarks",
+        QT_TRANSLATE_NOOP("ReferenceDoubts",
                           "Des numéros seuls sur leur ligne ne sont pas reconnus comme renvois.")},
     Reason{Doubt::Telephone,
-           QT_TRANSLATE_NOOP("ReferenceMarks",
+           QT_TRANSLATE_NOOP("ReferenceDoubts",
                              "Sans doute un numéro de téléphone, mais lu comme le renvoi « %2 ».")},
     Reason{Doubt::Date, QT_TRANSLATE_NOOP("ReferenceDoubts",
                                           "Sans doute une date, mais lue comme le renvoi « %2 ».")},
@@ -66,7 +66,7 @@ constexpr std::array Reasons{
                              "Sans doute une quantité, mais lue comme le renvoi « %2 ».")},
     Reason{Doubt::OtherBook,
            QT_TRANSLATE_NOOP(
-               "ReferenceMarks",
+               "ReferenceDoubts",
                "Sans doute le paragraphe d'un autre livre, mais lu comme le renvoi « %2 ».")},
 };
 } // namespace
