@@ -44,9 +44,10 @@ QList<Replacement> replacementsOfAll(const QString &text, const QString &needle,
 void replaceInBox(RichTextBox &box, const QList<Replacement> &replacements)
 {
     const RichTextBox::EditStep step(box);
-    for (auto it = replacements.crbegin(); it != replacements.crend(); ++it) {
-        box.select(static_cast<int>(it->position), static_cast<int>(it->length));
-        box.setSelText(it->text);
+    for (qsizetype i = replacements.size() - 1; i >= 0; --i) {
+        const Replacement &replacement = replacements.at(i);
+        box.select(static_cast<int>(replacement.position), static_cast<int>(replacement.length));
+        box.setSelText(replacement.text);
     }
 }
 
