@@ -23,7 +23,8 @@ QString targetTip(const Variables &variables, int n)
 
 ReferencePointer::ReferencePointer(const Variables &variables, RtfBox &box,
                                    const ReferenceUnderlines &underlines)
-    : QObject(&box), m_variables(variables), m_box(box), m_underlines(underlines)
+    : QObject(&box), m_variables(variables), m_box(box), m_viewport(*box.viewport()),
+      m_underlines(underlines)
 {
     box.installEventFilter(this);
     box.viewport()->installEventFilter(this);
@@ -31,7 +32,7 @@ ReferencePointer::ReferencePointer(const Variables &variables, RtfBox &box,
 
 bool ReferencePointer::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_box.viewport()) {
+    if (watched == &m_viewport) {
         if (event->type() == QEvent::ToolTip)
             return showTip(*static_cast<QHelpEvent *>(event));
         if (event->type() == QEvent::MouseMove) {
@@ -52,9 +53,8 @@ void ReferencePointer::handleKey(QEvent &event)
     if (event.type() == QEvent::FocusOut)
         showHand({}, false);
     else if ((press || event.type() == QEvent::KeyRelease) &&
-             static_cast<QKeyEvent &>(event).key() == Qt::Key_Control &&
-             m_box.viewport()->underMouse())
-        showHand(m_box.viewport()->mapFromGlobal(QCursor::pos()), press);
+             static_cast<QKeyEvent &>(event).key() == Qt::Key_Control && m_viewport.underMouse())
+        showHand(m_viewport.mapFromGlobal(QCursor::pos()), press);
 }
 
 // A click follows the digits alone, wherever what is doubtful begins.
@@ -66,7 +66,7 @@ void ReferencePointer::showHand(const QPoint &point, bool ctrl)
             hand = m_box.cursorForPosition(point).position() >=
                    place->block.position() + place->mark.digits;
     if (hand != m_hand)
-        m_box.viewport()->setCursor(hand ? Qt::PointingHandCursor : Qt::IBeamCursor);
+        m_viewport.setCursor(hand ? Qt::PointingHandCursor : Qt::IBeamCursor);
     m_hand = hand;
 }
 
@@ -83,6 +83,6 @@ bool ReferencePointer::showTip(const QHelpEvent &event) const
                              : doubtReason(mark.doubt, mark.read, m_variables.TargetPhrase);
     // The words are the author's and may look like markup.
     QToolTip::showText(event.globalPos(), QStringLiteral("<qt>") + text.toHtmlEscaped(),
-                       m_box.viewport(), m_underlines.rectOf(*place));
+                       &m_viewport, m_underlines.rectOf(*place));
     return true;
 }

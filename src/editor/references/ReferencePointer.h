@@ -29,6 +29,7 @@ private:
 
     const Variables &m_variables;
     RtfBox &m_box;
+    QWidget &m_viewport; // events still come while the box is being destroyed
     const ReferenceUnderlines &m_underlines;
     bool m_hand = false;
 };
