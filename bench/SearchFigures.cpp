@@ -38,9 +38,10 @@ void printList(const char *name, const BenchEditor &editor, const SearchCommands
                const ListQuery &query)
 {
     const MatchFinder finder(query);
+    QList<int> unreadable;
     const auto list = [&] {
         for (int n = 1; n <= editor.variables.HighestWritten; ++n)
-            search.lines(finder, n);
+            search.lines(finder, n, unreadable);
     };
     printFigureOf(
         name, [] {}, list);

@@ -213,7 +213,7 @@ void FormattingBar::applyFontName()
 
 void FormattingBar::applyFontSize()
 {
-    const double size = lenientNumber(m_ui->comboSizes->currentText());
+    const double size = lenientMeasure(m_ui->comboSizes->currentText());
     if (size > 0 && m_box->selFontSize() != size)
         m_box->setSelFontSize(size);
     done();

@@ -45,12 +45,6 @@ double asTyped(double centimetres)
     return centimetres;
 }
 
-// Authors write the comma of their language.
-double numberOf(QString text)
-{
-    return lenientNumber(text.replace(u',', u'.'));
-}
-
 // Unlike a paragraph number, an indent may be negative: a first line that hangs. Text that is no
 // number is an indent of 0: required. Only the mark of several indents, also while it is being
 // typed over, is none.
@@ -59,7 +53,7 @@ std::optional<double> indentOf(const QString &text)
     const QString number = text.trimmed();
     if (number.startsWith(u'('))
         return std::nullopt;
-    return number.startsWith(u'-') ? -numberOf(number.mid(1)) : numberOf(number);
+    return number.startsWith(u'-') ? -lenientMeasure(number.mid(1)) : lenientMeasure(number);
 }
 
 void showIndent(QLineEdit &field, std::optional<double> value)
@@ -137,7 +131,7 @@ bool TabPanel::eventFilter(QObject *watched, QEvent *event)
 
 void TabPanel::addTab()
 {
-    const QString tab = asCentimetres(numberOf(m_ui->txtNewTab->text()));
+    const QString tab = asCentimetres(lenientMeasure(m_ui->txtNewTab->text()));
     const double twips = tab.toDouble() * Twips::PerCentimetre;
     if (twips <= 0 || twips > ParagraphState::MaxTwips) {
         m_ui->txtNewTab->selectAll();

@@ -14,7 +14,7 @@ std::optional<double> typedFontSize(const QString &size)
 {
     constexpr double least = 1;
     constexpr double most = 1638;
-    const double points = lenientNumber(size);
+    const double points = lenientMeasure(size);
     if (points < least || points > most)
         return std::nullopt;
     return qRound(points * 2) / 2.0;

@@ -20,8 +20,6 @@ uniformFormat::uniformFormat(Variables &variables, Prompts &prompts, WorkReport 
     connect(m_ui->comboSizes, &QComboBox::textActivated, this, &uniformFormat::comboSizes_Click);
     connect(m_ui->comboSizes->lineEdit(), &QLineEdit::textEdited, this,
             &uniformFormat::comboSizes_Click);
-    connect(m_ui->comboSizes->lineEdit(), &QLineEdit::editingFinished, this,
-            &uniformFormat::checkSize);
     connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
                    [this] { OKButton_Click(); });
     connect(m_ui->CancelButton, &QPushButton::clicked, this, &QDialog::reject);
@@ -50,18 +48,23 @@ void uniformFormat::comboSizes_Click()
     m_ui->chSizes->setChecked(true);
 }
 
-// A size that no text can have gives way to the one before.
-void uniformFormat::checkSize()
+// A size that no text can have gives way to the one before. False: it has.
+bool uniformFormat::checkSize()
 {
-    if (typedFontSize(m_ui->comboSizes->currentText()))
+    const bool possible = typedFontSize(m_ui->comboSizes->currentText()).has_value();
+    if (possible)
         m_size = m_ui->comboSizes->currentText();
     else
         m_ui->comboSizes->setCurrentText(m_size);
+    return possible;
 }
 
 void uniformFormat::OKButton_Click()
 {
-    checkSize();
+    if (!checkSize() && m_ui->chSizes->isChecked()) {
+        m_prompts.beep(); // the author has not meant the size that is there again
+        return;
+    }
     UniformFormatting formatting;
     if (m_ui->chFonts->isChecked())
         formatting.fontName = m_ui->comboFonts->currentText();

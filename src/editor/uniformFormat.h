@@ -23,7 +23,7 @@ private:
     void Form_Load();
     void comboFonts_Click();
     void comboSizes_Click();
-    void checkSize();
+    bool checkSize();
     void OKButton_Click();
 
     Variables &m_variables;

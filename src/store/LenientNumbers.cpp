@@ -91,6 +91,11 @@ double lenientNumber(QStringView text)
     return ok ? value : 0.0;
 }
 
+double lenientMeasure(QString text)
+{
+    return lenientNumber(text.replace(u',', u'.'));
+}
+
 int roundHalfEven(double value)
 {
     const double below = std::floor(value);

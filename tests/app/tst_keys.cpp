@@ -1,6 +1,7 @@
 #include "WindowFixture.h"
 
 #include <QKeySequence>
+#include <QMenu>
 
 class tst_keys : public QObject
 {

@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QMenu>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QWheelEvent>

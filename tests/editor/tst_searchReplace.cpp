@@ -133,7 +133,7 @@ private Q_SLOTS:
                               "Zut");
         search.press("listAll");
         auto &count = child<QLabel>(*search.window, "count");
-        QTRY_COMPARE(count.text(), "Occurrences jusqu'au paragraphe 5 : 0");
+        QTRY_COMPARE(count.text(), "Occurrences jusqu'au paragraphe 5 : 0 (liste arrêtée là)");
     }
 
     void listsAllMatchesAndReplacesTheChosen()
@@ -162,6 +162,13 @@ private Q_SLOTS:
         QCOMPARE(search.box().text(), "Va au loup, chat ou au 9.");
         QCOMPARE(textOf(search.variables, 9), "chats");
         QCOMPARE(count.text(), "Occurrences : 3");
+        search.window->LoadParg(40); // behind the last one so far
+        search.type("loup");
+        search.window->SaveCurParg();
+        QCOMPARE(count.text(), "Occurrences : 4");
+        search.tick("ch1P");
+        search.press("listAll");
+        QTRY_COMPARE(count.text(), "Occurrences : 1");
     }
 
     void replacesNoListedMatchThatHasGone()

@@ -53,10 +53,14 @@ private Q_SLOTS:
         QCOMPARE(GetParagraphRtf(fixture.variables, 5), uniform);
         QCOMPARE(fixture.variables.Extracted.at(5), 0);
         QCOMPARE(fixture.variables.Extracted.at(9), 1);
-        apply("chSizes", "comboSizes", "0");
-        box.setRtf(GetParagraphRtf(fixture.variables, 2));
-        box.select(0, box.textLength());
-        QCOMPARE(box.selFontSize().value_or(0), double(fixture.variables.defaultFontSize));
+        const std::pair<QString, double> sizes[] = {{"0", 0}, {"1639", 0}, {"14,5", 14.5}};
+        for (const auto &[typed, size] : sizes) {
+            apply("chSizes", "comboSizes", typed);
+            box.setRtf(GetParagraphRtf(fixture.variables, 2));
+            box.select(0, box.textLength());
+            QCOMPARE(box.selFontSize().value_or(0), size);
+        }
+        QCOMPARE(fixture.prompts.beeps(), 2); // and the dialog stayed
     }
 };
 

@@ -11,7 +11,7 @@ void setDefaultFont(Variables &variables, const QString &name, const QString &si
     const QString font = cleanedFontName(name).trimmed();
     if (!font.isEmpty())
         variables.defaultFontName = font;
-    const int points = roundHalfEven(lenientNumber(size));
+    const int points = roundHalfEven(lenientMeasure(size));
     if (points >= 1 && points <= largest)
         variables.defaultFontSize = static_cast<qint16>(points);
 }

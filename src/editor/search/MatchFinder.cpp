@@ -4,7 +4,7 @@ namespace
 {
 // Bounds the steps at each place of a text: sensible expressions take a few, and some would take
 // longer than anybody lives. Matches without a character are not looked for.
-const QString before = QStringLiteral("(*LIMIT_MATCH=100000)(*NOTEMPTY)");
+const QString before = QStringLiteral("(*LIMIT_MATCH=20000)(*NOTEMPTY)");
 
 QChar withoutAccent(QChar c)
 {

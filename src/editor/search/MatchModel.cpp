@@ -19,7 +19,10 @@ void MatchModel::insert(int row, const QList<MatchLine> &lines)
     if (lines.isEmpty())
         return;
     beginInsertRows({}, row, row + static_cast<int>(lines.size()) - 1);
-    m_lines = m_lines.mid(0, row) + lines + m_lines.mid(row);
+    if (row == count())
+        m_lines += lines;
+    else
+        m_lines = m_lines.mid(0, row) + lines + m_lines.mid(row);
     endInsertRows();
 }
 

@@ -1,6 +1,7 @@
 #include "editor/search/MatchWindow.h"
 
 #include "editor/search/MatchDelegate.h"
+#include "platform/Failures.h"
 #include "store/AdventureEvents.h"
 #include "ui_MatchWindow.h"
 
@@ -11,9 +12,9 @@
 
 namespace
 {
-constexpr qint64 AtATime = 20;   // milliseconds of filling between two looks at the keyboard
-constexpr int MostLines = 20000; // more than anybody reads
-constexpr int FewTexts = 50;     // to list again one by one
+constexpr qint64 AtATime = 20;    // milliseconds of filling between two looks at the keyboard
+constexpr int MostLines = 100000; // more than anybody reads
+constexpr int FewTexts = 50;      // to list again one by one
 } // namespace
 
 MatchWindow::MatchWindow(const Variables &variables, SearchCommands &commands, QWidget *parent)
@@ -51,9 +52,10 @@ void MatchWindow::follow()
     connect(events, &AdventureEvents::adventureReplaced, this, &QWidget::hide);
 }
 
-void MatchWindow::list(const MatchFinder &finder)
+void MatchWindow::list(const MatchFinder &finder, std::optional<int> paragraph)
 {
     m_finder = finder;
+    m_only = paragraph;
     fill();
     if (!isVisible())
         moveAside();
@@ -66,7 +68,8 @@ void MatchWindow::list(const MatchFinder &finder)
 void MatchWindow::fill()
 {
     m_model.clear();
-    m_next = m_variables.LowestWritten;
+    m_unreadable.clear();
+    m_next = m_only.value_or(m_variables.LowestWritten);
     m_filling.start();
     showCount();
 }
@@ -86,15 +89,18 @@ void MatchWindow::fillSome()
     timer.start();
     QList<MatchLine> lines;
     bool tooCostly = false;
-    while (!tooCostly && m_next <= m_variables.HighestWritten && timer.elapsed() < AtATime) {
+    while (!tooCostly && m_next <= lastToFill() && timer.elapsed() < AtATime) {
         try {
-            lines += m_commands.lines(*m_finder, m_next++);
+            lines += m_commands.lines(*m_finder, m_next++, m_unreadable);
         } catch (const PatternTooCostly &) {
             tooCostly = true;
         }
     }
     append(lines);
-    if (tooCostly || m_next > m_variables.HighestWritten || m_model.count() >= MostLines)
+    const bool whole = m_next > lastToFill();
+    if (whole)
+        m_next = Variables::LastParagraph + 1; // paragraphs that are written later belong to it too
+    if (tooCostly || whole || m_model.count() >= MostLines)
         m_filling.stop();
     showCount();
     if (tooCostly)
@@ -112,10 +118,11 @@ void MatchWindow::append(const QList<MatchLine> &lines)
 
 void MatchWindow::relist(int n)
 {
-    if (!m_finder || n >= m_next)
+    if (!m_finder || n >= m_next || n != m_only.value_or(n))
         return;
+    m_unreadable.removeAll(n);
     try {
-        m_model.replaceParagraph(n, m_commands.lines(*m_finder, n));
+        m_model.replaceParagraph(n, m_commands.lines(*m_finder, n, m_unreadable));
     } catch (const PatternTooCostly &) {
         m_model.replaceParagraph(n, {});
     }
@@ -124,10 +131,15 @@ void MatchWindow::relist(int n)
 
 void MatchWindow::showCount()
 {
-    const bool whole = m_next > m_variables.HighestWritten;
-    m_ui->count->setText(
-        whole ? tr("Occurrences : %1").arg(m_model.count())
-              : tr("Occurrences jusqu'au paragraphe %1 : %2").arg(m_next - 1).arg(m_model.count()));
+    const int count = m_model.count();
+    QString text = tr("Occurrences : %1").arg(count);
+    if (m_next <= lastToFill())
+        text = tr("Occurrences jusqu'au paragraphe %1 : %2").arg(m_next - 1).arg(count);
+    if (m_next <= lastToFill() && !m_filling.isActive())
+        text = tr("%1 (liste arrêtée là)").arg(text);
+    if (!m_unreadable.isEmpty())
+        text = tr("%1. Paragraphes illisibles : %2").arg(text, paragraphNames(m_unreadable));
+    m_ui->count->setText(text);
     m_ui->replaceChosen->setEnabled(m_ui->matches->selectionModel()->hasSelection());
 }
 

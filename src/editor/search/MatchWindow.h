@@ -23,8 +23,9 @@ public:
     MatchWindow(const Variables &variables, SearchCommands &commands, QWidget *parent);
     ~MatchWindow() override;
 
-    // Comes to the front and begins to list what the finder finds.
-    void list(const MatchFinder &finder);
+    // Comes to the front and begins to list what the finder finds, in one paragraph alone or in all
+    // of them.
+    void list(const MatchFinder &finder, std::optional<int> paragraph);
 
     // Of the list that is shown.
     const MatchFinder &finder() const { return *m_finder; }
@@ -46,6 +47,7 @@ private:
     void follow();
     void moveAside();
     void fill();
+    int lastToFill() const { return m_only.value_or(m_variables.HighestWritten); }
     void fillSome();
     void append(const QList<MatchLine> &lines);
     void relist(int n);
@@ -56,6 +58,8 @@ private:
     std::unique_ptr<Ui::MatchWindow> m_ui;
     MatchModel m_model;
     std::optional<MatchFinder> m_finder; // while there is a list
-    int m_next = 0;                      // the paragraph that the filling has come to
+    std::optional<int> m_only;           // the paragraph that is listed alone
+    int m_next = 0;                      // the one that the filling has come to
+    QList<int> m_unreadable;             // of the paragraphs listed so far
     QTimer m_filling;
 };

@@ -6,6 +6,7 @@
 #include "platform/Failures.h"
 #include "richtext/RtfPlainText.h"
 #include "store/AdventureCommands.h"
+#include "store/DamagedTexts.h"
 #include "store/LongWork.h"
 #include "store/ParagraphStore.h"
 
@@ -150,12 +151,16 @@ QString SearchCommands::replacedText(int count)
     return tr("Remplacements effectués : %1.").arg(count);
 }
 
-QList<MatchLine> SearchCommands::lines(const MatchFinder &finder, int n) const
+QList<MatchLine> SearchCommands::lines(const MatchFinder &finder, int n,
+                                       QList<int> &unreadable) const
 {
     QList<MatchLine> lines;
     if (m_variables.Written.at(n) == 0)
         return lines;
-    const QString text = textOf(n);
+    const std::optional<QByteArray> rtf = readableText(m_variables, n, unreadable);
+    if (!rtf)
+        return lines;
+    const QString text = rtfToPlainText(*rtf);
     const QList<Replacement> matches = finder.replacements(text, {});
     for (const Replacement &match : matches)
         lines.append(lineOf(n, text, match));

@@ -67,8 +67,9 @@ public:
     // What the author is told of it.
     static QString replacedText(int count);
 
-    // The list's lines of paragraph n. Throws PatternTooCostly.
-    QList<MatchLine> lines(const MatchFinder &finder, int n) const;
+    // The list's lines of paragraph n; one that cannot be read has none, and its number is noted.
+    // Throws PatternTooCostly.
+    QList<MatchLine> lines(const MatchFinder &finder, int n, QList<int> &unreadable) const;
     void tellTooCostly(int n);
 
     // Replaces the listed matches that are still where they were, and tells how many there were and

@@ -20,6 +20,12 @@ std::unique_ptr<Ui::searchReplace> setUp(searchReplace &window)
     ui->setupUi(&window);
     return ui;
 }
+// As texts have them: what is pasted into a field has others.
+QString withLineEnds(QString text)
+{
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+        .replace(u'\n', QStringLiteral("\r\n"));
+}
 } // namespace
 
 searchReplace::searchReplace(Variables &variables, Prompts &prompts, WorkReport &report,
@@ -50,8 +56,12 @@ void searchReplace::connectControls()
     connect(&m_list, &MatchWindow::left, this, &searchReplace::left);
     connect(&m_list, &MatchWindow::wanted, this, &searchReplace::showListed);
     connect(&m_list, &MatchWindow::replaceWanted, this, &searchReplace::replaceListed);
-    const auto *again = new QShortcut(QKeySequence(Qt::Key_F3), this);
-    connect(again, &QShortcut::activated, this, [this] { run(&searchReplace::Suivant_Click); });
+    for (QWidget *window : {static_cast<QWidget *>(this), static_cast<QWidget *>(&m_list)}) {
+        const auto *again = new QShortcut(QKeySequence(Qt::Key_F3), window);
+        connect(again, &QShortcut::activated, this, &searchReplace::searchAgain);
+    }
+    const auto *back = new QShortcut(QKeySequence::Find, &m_list);
+    connect(back, &QShortcut::activated, this, &searchReplace::Form_Activate);
 }
 
 // The focus that a command gives to the box is that of the main window, which stays behind.
@@ -108,7 +118,8 @@ void searchReplace::setFound(int position)
 
 SearchFor searchReplace::wanted() const
 {
-    return {m_ui->txtSearch->text(), {m_ui->chWW->isChecked(), m_ui->chMM->isChecked()}};
+    return {withLineEnds(m_ui->txtSearch->text()),
+            {m_ui->chWW->isChecked(), m_ui->chMM->isChecked()}};
 }
 
 bool searchReplace::matchIsSelected() const
@@ -206,8 +217,11 @@ void searchReplace::listAll_Click()
         return;
     m_editor.view.keepingPlace([this] { m_editor.view.SaveCurParg(); });
     try {
-        m_list.list(MatchFinder({what.text, what.options, m_ui->regularExpression->isChecked(),
-                                 m_ui->ignoreAccents->isChecked()}));
+        const bool expression = m_ui->regularExpression->isChecked();
+        const std::optional<int> current = m_variables.CurrentParagraph;
+        m_list.list(MatchFinder({expression ? m_ui->txtSearch->text() : what.text, what.options,
+                                 expression, m_ui->ignoreAccents->isChecked()}),
+                    m_ui->ch1P->isChecked() ? current : std::nullopt);
     } catch (const PatternError &error) {
         m_prompts.message(tr("Cette expression régulière n'est pas valable, à partir du "
                              "caractère %1.")
