@@ -35,7 +35,8 @@ private Q_SLOTS:
 
     void theMenuMendsWhatIsDoubtful()
     {
-        const WindowFixture fixture(AdventureBuilder({"1: Va au 7 ou au  9."}));
+        const WindowFixture fixture(
+            AdventureBuilder({"1: ."}).rawText(1, "{\\rtf1 Va au 7 ou au  {\\b 09}.}"));
         RtfBox &box = fixture.box();
         const auto menuAt = [&](int position) {
             box.select(position, 0);
@@ -49,9 +50,10 @@ private Q_SLOTS:
         QVERIFY(menu->actions().size() > 4); // the ordinary ones are there
         menu->actions().at(1)->trigger();
         QCOMPARE(box.text(), "Va au 7 ou au 9.");
+        QVERIFY2(box.rtf().contains("\\b 9"), box.rtf());
         QVERIFY(fixture.variables.ParagraphDirty);
         box.undo();
-        QCOMPARE(box.text(), "Va au 7 ou au  9.");
+        QCOMPARE(box.text(), "Va au 7 ou au  09.");
         QVERIFY(!box.document()->isUndoAvailable());
         menu->close();
     }

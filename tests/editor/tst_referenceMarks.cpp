@@ -46,6 +46,12 @@ private Q_SLOTS:
              {"half read", "Va au 144 150 livres", "1441: au 144 150", int(Doubt::DigitsBehind)},
              {"thousands", "Va au 1 250", "1250: au 1 250", int(Doubt::DigitsBehind)},
              {"beyond 2000", "Va au 300 3 gardes", "0: au 300", int(Doubt::DigitsJoined)},
+             {"tab behind", "Va au\t9 gardes. Va au 45", "0: au\t9", int(Doubt::NoBlank)},
+             {"tab before", "Oui\tau 12", "0: au 12", int(Doubt::NoBlank)},
+             {"tab at the start", "\tAu 12 si 3", "0: Au 12", int(Doubt::NoBlank)},
+             {"zero apart", "Va au 0 26.", "26: au 0 26", int(Doubt::LeadingZero)},
+             {"zero and digits", "Va au 026 3 ou", "263: au 026 3", int(Doubt::DigitsBehind)},
+             {"exponent", "Va au 1e2", "100: au 1", int(Doubt::Measure)},
              {"far away", "Va au      12", "0: au      12", int(Doubt::TooManyBlanks)},
              {"text's start", "Au 146, tout va", "0: Au 146", int(Doubt::NoBlank)},
              {"bracket", "Fuir (au 13)", "0: au 13", int(Doubt::NoBlank)},
@@ -89,11 +95,38 @@ private Q_SLOTS:
              mendsOf(mark, line, text.left(start).chopped(start > 0 ? 2 : 0), Phrase)) {
             QString document = QString(text).replace("\r\n", "\n");
             const qsizetype lineStart = document.lastIndexOf('\n') + 1;
-            document.replace(lineStart + mend.position, mend.length, mend.text);
+            QVERIFY(!mend.replacements.isEmpty());
+            for (auto part = mend.replacements.crbegin(); part != mend.replacements.crend(); ++part)
+                document.replace(lineStart + part->position, part->length, part->text);
             const QString mended = doubts(document.replace("\n", "\r\n"), Phrase);
             QVERIFY2(mended.count('|') < doubts(text, Phrase).count('|') || mended.isEmpty(),
                      qPrintable(document + ": " + mended));
             QVERIFY(!mend.caption.contains('%') && !mend.caption.isEmpty());
+        }
+    }
+
+    // Only what differs is replaced, as the rest may have its own formatting.
+    void mendsTouchNoMoreThanTheyHaveTo()
+    {
+        const Table<QString, QString> table{
+            {"zero", "Va au 026", "Va au [0>]26"},
+            {"zero apart", "Va au 0 26", "Va au [0 >]26"},
+            {"blank", "Va au  185", "Va au [ >]185"},
+            {"word", "Va au paragraphe 12", "Va au [paragraphe >]12"},
+            {"plural", "Va aux numéros 012", "Va au[x numéros>] [0>]12"},
+            {"both sides", "Va\u00a0au\u00a012", "Va[\u00a0> ]au[\u00a0> ]12"},
+            {"tab before", "Oui\tau 12", "Oui\t[> ]au 12"},
+            {"tab behind", "Va au\t9 gardes. Au 45", "Va au[\t> ]9 gardes. Au 45"},
+            {"digits behind", "Va au 13. 3 orcs", "Va au 13.[ >\u00a0]3 orcs"},
+            {"another word", "Rendez-vous à 17", "Rendez-vous [à>au] 17"}};
+        for (const auto &[name, line, expected] : table) {
+            const ReferenceMark mark = referenceMarks(line, Phrase).first();
+            QString mended = line;
+            const Mend mend = mendsOf(mark, line, {}, Phrase).first();
+            for (auto part = mend.replacements.crbegin(); part != mend.replacements.crend(); ++part)
+                mended.insert(part->position + part->length, u'>' + part->text + u']')
+                    .insert(part->position, u'[');
+            QCOMPARE(mended, expected);
         }
     }
 

@@ -1,5 +1,7 @@
 #include "editor/references/ReferenceLookAlikes.h"
 
+#include "platform/Ascii.h"
+
 #include <QRegularExpression>
 #include <algorithm>
 #include <vector>
@@ -35,7 +37,7 @@ QRegularExpression pattern(const char *text)
 const std::vector<Follower> &followers()
 {
     static const std::vector<Follower> table{
-        {Doubt::Measure, false, pattern("^\\s?(?:[%‰°€$]|/\\s?\\d)")},
+        {Doubt::Measure, false, pattern("^\\s?(?:[%‰°€$]|/\\s?\\d)|^e[+-]?\\d")},
         {Doubt::Date, true,
          words("(?:er)?\\s+(?:janvier|février|fevrier|mars|avril|mai|juin|juillet|août|aout|"
                "septembre|octobre|novembre|décembre|decembre)")},
@@ -85,9 +87,14 @@ const std::vector<Leader> &leaders()
     return table;
 }
 
-bool isSpace(QChar c)
+bool isBlank(QChar c)
 {
     return c == u' ' || c == u'\t';
+}
+
+bool isOddSpace(QChar c)
+{
+    return c.isSpace() && !isBlank(c) && c != u'\n';
 }
 
 bool isWordCharacter(QChar c)
@@ -95,9 +102,11 @@ bool isWordCharacter(QChar c)
     return c.isLetterOrNumber() || c == u'_';
 }
 
-// The phrase's words stand before the number, but not as the phrase has them.
-std::optional<Unread> misspelt(QStringView before, QStringView core)
+// The phrase's words stand before the number, but not as the phrase has them, or digits behind the
+// number are read with it and make it too large.
+std::optional<Unread> misspelt(QStringView before, QStringView behind, const QString &phrase)
 {
+    const QString core = phrase.trimmed();
     qsizetype end = before.size();
     while (end > 0 && before.at(end - 1).isSpace())
         --end;
@@ -107,15 +116,19 @@ std::optional<Unread> misspelt(QStringView before, QStringView core)
     const QChar leading = start > 0 ? before.at(start - 1) : QChar(u'\n');
     if (isWordCharacter(leading) && isWordCharacter(core.front()))
         return std::nullopt;
-    const QStringView gap = before.mid(end);
-    Doubt doubt = gap.size() > 1 ? Doubt::TooManyBlanks : Doubt::DigitsJoined;
+    const qsizetype blanks = phrase.size() - phrase.indexOf(core) - core.size();
+    const bool isPhrase =
+        before.first(std::min(end + blanks, before.size())).endsWith(phrase, Qt::CaseInsensitive);
+    const QStringView gap = before.mid(isPhrase ? end + blanks : end);
+    Doubt doubt = Doubt::NoBlank;
     if (gap.contains(u'\n'))
         doubt = Doubt::LineBreak;
-    else if ((leading.isSpace() && leading != u'\n' && !isSpace(leading)) ||
-             !std::all_of(gap.begin(), gap.end(), [](QChar c) { return isSpace(c); }))
+    else if ((!isPhrase && isOddSpace(leading)) || std::any_of(gap.begin(), gap.end(), isOddSpace))
         doubt = Doubt::NoBreakSpace;
-    else if (gap.isEmpty() || !isSpace(leading))
-        doubt = Doubt::NoBlank;
+    else if (isPhrase && !gap.isEmpty())
+        doubt = Doubt::TooManyBlanks;
+    else if (isPhrase && joinedDigits(behind)) // or its first blank is that of another phrase
+        doubt = Doubt::DigitsJoined;
     return Unread{doubt, before.size() - start};
 }
 } // namespace
@@ -125,6 +138,15 @@ bool isFrenchPhrase(QStringView phrase)
     const QStringView core = phrase.trimmed();
     return core.startsWith(u"au", Qt::CaseInsensitive) &&
            (core.size() == 2 || core.at(2).isSpace());
+}
+
+std::optional<qsizetype> joinedDigits(QStringView behind)
+{
+    const auto next = std::find_if_not(behind.begin(), behind.end(),
+                                       [](QChar c) { return isBlank(c) || c == u'.'; });
+    if (next == behind.end() || !isAsciiDigit(*next))
+        return std::nullopt;
+    return next - behind.begin();
 }
 
 Doubt doubtByWhatFollows(QStringView behind, qsizetype digits, bool french)
@@ -147,10 +169,9 @@ Doubt doubtByWhatFollows(QStringView behind, qsizetype digits, bool french)
 std::optional<Unread> unreadByContext(const QString &before, QStringView behind,
                                       const QString &phrase)
 {
-    const QStringView core = QStringView(phrase).trimmed();
-    if (core.isEmpty())
+    if (QStringView(phrase).trimmed().isEmpty())
         return std::nullopt;
-    if (const std::optional<Unread> found = misspelt(before, core)) {
+    if (const std::optional<Unread> found = misspelt(before, behind, phrase)) {
         // "au 900 000" is no paragraph at all.
         static const QRegularExpression thousands = pattern("^\\s\\d{3}(?!\\d)");
         if (found->doubt == Doubt::DigitsJoined &&

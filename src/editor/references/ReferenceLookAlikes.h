@@ -14,6 +14,9 @@ constexpr qsizetype LookAlikeContext = 48;
 // Whether the words of the table that are French hold with this phrase.
 bool isFrenchPhrase(QStringView phrase);
 
+// A number is read on over blanks and a stop: where the next digits begin in the text behind it.
+std::optional<qsizetype> joinedDigits(QStringView behind);
+
 // Whether a number before this text is probably no reference, and why; Doubt::None otherwise.
 // digits is the number of digits that it has.
 Doubt doubtByWhatFollows(QStringView behind, qsizetype digits, bool french);

@@ -143,17 +143,30 @@ private:
         qsizetype start = reference.position;
         while (start < m_line.size() && !isAsciiDigit(m_line.at(start)))
             ++start;
-        const QStringView digits = digitsAt(m_line, start);
-        const qsizetype end = start + digits.size();
+        const qsizetype number = behindZeros(start);
+        const QStringView digits = digitsAt(m_line, number);
+        const qsizetype end = number + digits.size();
         const int seen = valueOf(digits);
         const int read = roundHalfEven(reference.number);
-        const Doubt doubt = doubtOf(reference, start, digits);
+        const Doubt doubt = doubtOf(reference, start, number);
         if (doubt == Doubt::None)
             return {start, digits.size(), start, seen, read, doubt};
         const qsizetype from = startOfPhrase(reference.position);
         return {from,  (doubt == Doubt::DigitsBehind ? endOfDigits(end) : end) - from,
                 start, seen,
                 read,  doubt};
+    }
+
+    // Behind zeros that stand apart before a number, since it is read over blanks.
+    qsizetype behindZeros(qsizetype at) const
+    {
+        const QStringView digits = digitsAt(m_line, at);
+        if (digits.isEmpty() || digits.count(u'0') < digits.size())
+            return at;
+        at += digits.size();
+        while (at < m_line.size() && (m_line.at(at) == u' ' || m_line.at(at) == u'\t'))
+            ++at;
+        return behindZeros(at);
     }
 
     // Where the phrase's words begin, behind its blanks.
@@ -168,23 +181,25 @@ private:
     // Behind the digits that the number is read from although they stand apart.
     qsizetype endOfDigits(qsizetype end) const
     {
-        qsizetype at = end;
-        while (at < m_line.size() && !isAsciiDigit(m_line.at(at)))
-            ++at;
-        return at + digitsAt(m_line, at).size();
+        const QStringView behind = m_line.mid(end);
+        const qsizetype apart = joinedDigits(behind).value_or(0);
+        return end + apart + digitsAt(behind, apart).size();
     }
 
-    Doubt doubtOf(const Reference &reference, qsizetype start, QStringView digits) const
+    // start is where the first digit stands, number where it does that is no zero apart.
+    Doubt doubtOf(const Reference &reference, qsizetype start, qsizetype number) const
     {
+        const QStringView digits = digitsAt(m_line, number);
         const Doubt byContext =
-            doubtByWhatFollows(m_line.mid(start + digits.size()), digits.size(), m_french);
+            doubtByWhatFollows(m_line.mid(number + digits.size()), digits.size(), m_french);
         if (byContext != Doubt::None)
             return byContext;
         if (start > reference.position)
             return Doubt::BlanksBefore;
-        if (digits.startsWith(u'0'))
+        const bool asSeen = reference.number == valueOf(digits);
+        if (number > start || (asSeen && digits.startsWith(u'0')))
             return Doubt::LeadingZero;
-        return reference.number == valueOf(digits) ? Doubt::None : Doubt::DigitsBehind;
+        return asSeen ? Doubt::None : Doubt::DigitsBehind;
     }
 
     void findUnread(qsizetype from, qsizetype to)

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "editor/references/ReferenceMarks.h"
+#include "editor/search/TextReplacing.h"
 
-// What mends a doubtful reference: some characters of its line replaced by others.
+// What mends a doubtful reference: some characters of its line replaced by others, and no more of
+// them than has to be. The positions are in the line, ascending; -1 is the break before it, -2 the
+// character before that. The texts are without breaks.
 struct Mend {
-    QString caption;    // French, for a menu
-    qsizetype position; // in the line; -1 is the break before it, -2 the character before that
-    qsizetype length;
-    QString text; // without breaks
+    QString caption; // French, for a menu
+    QList<Replacement> replacements;
 };
 
 // None for a mark that is not doubtful, and where only the author can tell what is to be done.

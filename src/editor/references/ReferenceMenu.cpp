@@ -60,10 +60,14 @@ bool ReferenceMenu::show(const QContextMenuEvent &event)
 
 void ReferenceMenu::mend(int lineStart, const Mend &mend)
 {
-    const int from = lineStart + static_cast<int>(mend.position);
-    const int to = from + static_cast<int>(mend.length);
-    const int start = TextPositions::toText(*m_box.document(), from);
-    const int end = TextPositions::toText(*m_box.document(), to);
-    m_box.select(start, end - start);
-    m_box.setSelText(mend.text);
+    const auto inText = [&](qsizetype inLine) {
+        return TextPositions::toText(*m_box.document(), lineStart + static_cast<int>(inLine));
+    };
+    QList<Replacement> replacements = mend.replacements;
+    for (Replacement &replacement : replacements) {
+        const int end = inText(replacement.position + replacement.length);
+        replacement.position = inText(replacement.position);
+        replacement.length = end - replacement.position;
+    }
+    replaceInBox(m_box, replacements);
 }
