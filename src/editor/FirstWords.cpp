@@ -3,6 +3,7 @@
 #include "richtext/RtfPlainText.h"
 #include "store/ParagraphTexts.h"
 
+#include <QCoreApplication>
 #include <exception>
 
 QString firstWords(const Variables &variables, int n)
@@ -16,6 +17,6 @@ QString firstWords(const Variables &variables, int n)
         const qsizetype end = text.lastIndexOf(u' ', longest);
         return text.left(end > 0 ? end : longest) + QStringLiteral(" …");
     } catch (const std::exception &) {
-        return {};
+        return QCoreApplication::translate("FirstWords", "illisible");
     }
 }

@@ -22,10 +22,9 @@ QByteArray doubtfulLines(const QString &text, int n, const QString &phrase)
 }
 } // namespace
 
-QByteArray doubtfulList(const Variables &variables)
+QByteArray doubtfulList(const Variables &variables, QList<int> &unreadable)
 {
     QByteArray lines;
-    QList<int> unreadable;
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
         try {
             if (variables.Written.at(n) == 1)
@@ -35,7 +34,5 @@ QByteArray doubtfulList(const Variables &variables)
             unreadable.append(n);
         }
     }
-    if (!unreadable.isEmpty())
-        throw UnreadableTexts(unreadable);
     return lines;
 }

@@ -3,6 +3,8 @@
 #include "outil/Commands.h"
 #include "outil/DoubtfulList.h"
 #include "outil/Script.h"
+#include "platform/Errors.h"
+#include "platform/Failures.h"
 #include "richtext/RtfPlainText.h"
 #include "store/AdventureChanges.h"
 #include "store/ParagraphStore.h"
@@ -78,7 +80,11 @@ QByteArray mene(CommandServices &script, const QStringList &arguments)
 
 QByteArray douteux(CommandServices &script, const QStringList & /*arguments*/)
 {
-    return doubtfulList(script.variables);
+    QList<int> unreadable;
+    const QByteArray lines = doubtfulList(script.variables, unreadable);
+    if (!unreadable.isEmpty())
+        reportFailure(script.prompts, UnreadableTexts(unreadable));
+    return lines;
 }
 
 QByteArray libre(CommandServices &script, const QStringList &arguments)

@@ -95,6 +95,9 @@ private Q_SLOTS:
         QCOMPARE(shapeAt(6, Qt::ControlModifier), Qt::PointingHandCursor);
         QCOMPARE(shapeAt(6, {}), Qt::IBeamCursor);
         QCOMPARE(shapeAt(1, Qt::ControlModifier), Qt::IBeamCursor);
+        shapeAt(6, Qt::ControlModifier);
+        box.setText("Là");
+        QCOMPARE(box.viewport()->cursor().shape(), Qt::IBeamCursor);
     }
 
     void ctrlSpaceListsTheParagraphs()
@@ -131,6 +134,14 @@ private Q_SLOTS:
         QTest::keyClick(digits, Qt::Key_Down);
         QTest::keyClick(digits, Qt::Key_Enter);
         QCOMPARE(box.text(), "Va au 4. Ou au 21");
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        box.select(16, 0); // within the number
+        QTest::keyClick(fixture.window.get(), Qt::Key_Space, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+        list = box.findChild<ReferenceList *>();
+        QVERIFY(list != nullptr);
+        QTest::keyClick(list->findChild<QLineEdit *>(), Qt::Key_Enter);
+        QCOMPARE(box.text(), "Va au 4. Ou au 2");
     }
 
     void marksFollowTheText()

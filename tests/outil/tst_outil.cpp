@@ -123,12 +123,16 @@ melanger 4 9
     void doubtfulReferencesAreListed()
     {
         TestAdventure adventure;
-        const QString path = adventure.file(
-            QStringLiteral("a.usm"),
-            AdventureBuilder({QStringLiteral("1: Va au 4"), QStringLiteral("4: Va au 09")})
-                .bytes());
+        const QString path =
+            adventure.file(QStringLiteral("a.usm"),
+                           AdventureBuilder({QStringLiteral("1: Va au 4"), QStringLiteral("2: Zut"),
+                                             QStringLiteral("4: Va au 09")})
+                               .rawText(2, "zut")
+                               .bytes());
         const Outcome outcome = run(adventure, {}, "ouvrir '" + path.toUtf8() + "'\ndouteux\n");
-        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains(QStringLiteral("illisibles : 2.")),
+                 qPrintable(outcome.errors));
         const QByteArray expected = "4\t3\tau 09\tIl y a un zéro";
         QCOMPARE(outcome.output.left(expected.size()), expected);
         QCOMPARE(outcome.output.count('\n'), 1);

@@ -10,6 +10,7 @@
 #include "store/Variables.h"
 
 #include <QTextBlock>
+#include <algorithm>
 
 namespace
 {
@@ -22,11 +23,21 @@ qsizetype digitsBefore(const QString &text)
     return digits;
 }
 
-QString lineBeforeCaret(const RtfBox &box)
+qsizetype digitsFrom(const QString &text)
 {
-    const QTextCursor caret = box.textCursor();
-    return caret.block().text().left(caret.positionInBlock());
+    return std::find_if_not(text.begin(), text.end(), isAsciiDigit) - text.begin();
 }
+
+// The line that the caret stands in.
+struct CaretLine {
+    explicit CaretLine(const QTextCursor &caret)
+        : before(caret.block().text().left(caret.positionInBlock())),
+          behind(caret.block().text().mid(caret.positionInBlock()))
+    {
+    }
+    QString before;
+    QString behind;
+};
 } // namespace
 
 ReferenceAids::ReferenceAids(const Variables &variables, Prompts &prompts, RtfBox &box)
@@ -49,7 +60,7 @@ void ReferenceAids::follow()
 
 bool ReferenceAids::openList()
 {
-    const QString before = lineBeforeCaret(m_box);
+    const QString before = CaretLine(m_box.textCursor()).before;
     const qsizetype digits = digitsBefore(before);
     const QString &phrase = m_variables.TargetPhrase;
     if (m_box.isReadOnly() || m_box.textCursor().hasSelection() || phrase.isEmpty() ||
@@ -68,12 +79,13 @@ bool ReferenceAids::openList()
     return true;
 }
 
-// In the place of what of a number stands there already.
+// In the place of the digits that stand there already, on both sides of the caret.
 void ReferenceAids::insert(int n)
 {
-    const QString before = lineBeforeCaret(m_box);
-    const auto digits = static_cast<int>(digitsBefore(before));
-    if (digits > 0)
-        m_box.select(m_box.selStart() - digits, digits);
+    const CaretLine line(m_box.textCursor());
+    const auto before = static_cast<int>(digitsBefore(line.before));
+    const auto behind = static_cast<int>(digitsFrom(line.behind));
+    if (before + behind > 0)
+        m_box.select(m_box.selStart() - before, before + behind);
     m_box.setSelText(QString::number(n));
 }

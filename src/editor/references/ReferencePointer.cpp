@@ -28,6 +28,8 @@ ReferencePointer::ReferencePointer(const Variables &variables, RtfBox &box,
 {
     box.installEventFilter(this);
     box.viewport()->installEventFilter(this);
+    // A click may have led to another text.
+    connect(&box, &RtfBox::textChanged, this, [this] { showHand({}, false); });
 }
 
 bool ReferencePointer::eventFilter(QObject *watched, QEvent *event)
