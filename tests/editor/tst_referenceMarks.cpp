@@ -96,8 +96,10 @@ private Q_SLOTS:
             QString document = QString(text).replace("\r\n", "\n");
             const qsizetype lineStart = document.lastIndexOf('\n') + 1;
             QVERIFY(!mend.replacements.isEmpty());
-            for (auto part = mend.replacements.crbegin(); part != mend.replacements.crend(); ++part)
-                document.replace(lineStart + part->position, part->length, part->text);
+            for (qsizetype i = mend.replacements.size() - 1; i >= 0; --i) {
+                const Replacement &part = mend.replacements.at(i);
+                document.replace(lineStart + part.position, part.length, part.text);
+            }
             const QString mended = doubts(document.replace("\n", "\r\n"), Phrase);
             QVERIFY2(mended.count('|') < doubts(text, Phrase).count('|') || mended.isEmpty(),
                      qPrintable(document + ": " + mended));
@@ -123,9 +125,11 @@ private Q_SLOTS:
             const ReferenceMark mark = referenceMarks(line, Phrase).first();
             QString mended = line;
             const Mend mend = mendsOf(mark, line, {}, Phrase).first();
-            for (auto part = mend.replacements.crbegin(); part != mend.replacements.crend(); ++part)
-                mended.insert(part->position + part->length, u'>' + part->text + u']')
-                    .insert(part->position, u'[');
+            for (qsizetype i = mend.replacements.size() - 1; i >= 0; --i) {
+                const Replacement &part = mend.replacements.at(i);
+                mended.insert(part.position + part.length, u'>' + part.text + u']')
+                    .insert(part.position, u'[');
+            }
             QCOMPARE(mended, expected);
         }
     }
