@@ -2,20 +2,8 @@
 
 #include "platform/Errors.h"
 #include "richtext/HiddenBox.h"
-#include "store/ParagraphTexts.h"
+#include "store/DamagedTexts.h"
 #include "store/ParagraphTransaction.h"
-
-namespace
-{
-std::optional<QByteArray> readText(const Variables &variables, int n)
-{
-    try {
-        return GetParagraphRtf(variables, n);
-    } catch (const UsmiraError &) {
-        return std::nullopt;
-    }
-}
-} // namespace
 
 void rewriteParagraphs(Variables &variables, const QList<int> &numbers, const Rewrite &rewrite,
                        const Progress &progress)
@@ -26,11 +14,9 @@ void rewriteParagraphs(Variables &variables, const QList<int> &numbers, const Re
     QList<int> unreadable;
     int done = 0;
     for (const int n : numbers) {
-        const std::optional<QByteArray> rtf = readText(variables, n);
-        if (!rtf)
-            unreadable.append(n);
-        else if (const std::optional<QString> references = rewrite(n, *rtf, box))
-            transaction.change({n, n, box.rtf(), *references, variables.Unmixable.at(n) == 1});
+        if (const std::optional<QByteArray> rtf = readableText(variables, n, unreadable))
+            if (const std::optional<QString> references = rewrite(n, *rtf, box))
+                transaction.change({n, n, box.rtf(), *references, variables.Unmixable.at(n) == 1});
         progress(++done, static_cast<int>(numbers.size()));
     }
     if (!unreadable.isEmpty())

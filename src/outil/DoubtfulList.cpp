@@ -1,9 +1,7 @@
 #include "outil/DoubtfulList.h"
 
 #include "editor/references/ReferenceMarks.h"
-#include "platform/Errors.h"
-#include "richtext/RtfPlainText.h"
-#include "store/ParagraphTexts.h"
+#include "store/DamagedTexts.h"
 
 namespace
 {
@@ -26,13 +24,10 @@ QByteArray doubtfulList(const Variables &variables, QList<int> &unreadable)
 {
     QByteArray lines;
     for (int n = variables.LowestWritten; n <= variables.HighestWritten; ++n) {
-        try {
-            if (variables.Written.at(n) == 1)
-                lines += doubtfulLines(rtfToPlainText(GetParagraphRtf(variables, n)), n,
-                                       variables.TargetPhrase);
-        } catch (const UsmiraError &) {
-            unreadable.append(n);
-        }
+        if (variables.Written.at(n) == 0)
+            continue;
+        if (const auto text = readablePlainText(variables, n, unreadable))
+            lines += doubtfulLines(*text, n, variables.TargetPhrase);
     }
     return lines;
 }

@@ -4,6 +4,7 @@
 #include "platform/OpenedFile.h"
 #include "platform/SafeFile.h"
 #include "platform/SameFile.h"
+#include "richtext/RtfPlainText.h"
 #include "richtext/TextLimit.h"
 #include "store/ParagraphTexts.h"
 #include "store/WorkingFiles.h"
@@ -111,6 +112,16 @@ std::optional<QByteArray> readableText(const Variables &variables, int n, QList<
 {
     try {
         return GetParagraphRtf(variables, n);
+    } catch (const UsmiraError &) {
+        unreadable.append(n);
+        return std::nullopt;
+    }
+}
+
+std::optional<QString> readablePlainText(const Variables &variables, int n, QList<int> &unreadable)
+{
+    try {
+        return rtfToPlainText(GetParagraphRtf(variables, n));
     } catch (const UsmiraError &) {
         unreadable.append(n);
         return std::nullopt;

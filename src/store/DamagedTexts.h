@@ -22,6 +22,9 @@ QByteArray textToShow(Variables &variables, int n, Prompts &prompts);
 // The text of a written paragraph; nothing, and its number noted, when it cannot be read.
 std::optional<QByteArray> readableText(const Variables &variables, int n, QList<int> &unreadable);
 
+// The same as plain text. A text whose RTF is malformed cannot be read either.
+std::optional<QString> readablePlainText(const Variables &variables, int n, QList<int> &unreadable);
+
 // Tells the author that these paragraphs are unreadable, if there are any.
 void tellUnreadable(const QList<int> &paragraphs, Prompts &prompts);
 

@@ -169,6 +169,9 @@ private Q_SLOTS:
         search.tick("ch1P");
         search.press("listAll");
         QTRY_COMPARE(count.text(), "Occurrences : 1");
+        search.adventure.file("Dossier Usmira/LL-0040.rtf", "no RTF");
+        search.press("listAll");
+        QTRY_COMPARE(count.text(), "Occurrences : 0. Paragraphes illisibles : 40.");
     }
 
     void replacesNoListedMatchThatHasGone()

@@ -4,7 +4,6 @@
 #include "editor/search/MatchFinder.h"
 #include "editor/search/TextReplacing.h"
 #include "platform/Failures.h"
-#include "richtext/RtfPlainText.h"
 #include "store/AdventureCommands.h"
 #include "store/DamagedTexts.h"
 #include "store/LongWork.h"
@@ -63,11 +62,8 @@ bool SearchCommands::isGiven(const QString &text)
 
 QString SearchCommands::textOf(int n) const
 {
-    try {
-        return rtfToPlainText(GetParagraphRtf(m_variables, n));
-    } catch (const UsmiraError &) {
-        return {};
-    }
+    QList<int> unreadable;
+    return readablePlainText(m_variables, n, unreadable).value_or(QString());
 }
 
 std::optional<FoundMatch> SearchCommands::firstMatch(const SearchFor &what, int low, int high) const
@@ -157,13 +153,12 @@ QList<MatchLine> SearchCommands::lines(const MatchFinder &finder, int n,
     QList<MatchLine> lines;
     if (m_variables.Written.at(n) == 0)
         return lines;
-    const std::optional<QByteArray> rtf = readableText(m_variables, n, unreadable);
-    if (!rtf)
+    const std::optional<QString> text = readablePlainText(m_variables, n, unreadable);
+    if (!text)
         return lines;
-    const QString text = rtfToPlainText(*rtf);
-    const QList<Replacement> matches = finder.replacements(text, {});
+    const QList<Replacement> matches = finder.replacements(*text, {});
     for (const Replacement &match : matches)
-        lines.append(lineOf(n, text, match));
+        lines.append(lineOf(n, *text, match));
     return lines;
 }
 
