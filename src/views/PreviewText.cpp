@@ -1,0 +1,15 @@
+#include "views/PreviewText.h"
+
+#include "store/DamagedTexts.h"
+
+#include <QCoreApplication>
+
+QString previewText(const Variables &variables, int n)
+{
+    QList<int> unreadable;
+    const std::optional<QString> text = readablePlainText(variables, n, unreadable);
+    if (!text)
+        return QCoreApplication::translate("PreviewText",
+                                           "Le texte de ce paragraphe est illisible.");
+    return text->isEmpty() ? QCoreApplication::translate("PreviewText", "(Vide)") : *text;
+}
