@@ -1,0 +1,112 @@
+#include "views/graph/GraphNodes.h"
+
+#include "views/ParagraphStatuses.h"
+
+#include <cmath>
+#include <limits>
+#include <tuple>
+
+namespace
+{
+// Of those offered, the one with the least cost; the first one offered when nothing else is.
+class Nearest
+{
+public:
+    explicit Nearest(int otherwise) : m_node(otherwise) {}
+    void offer(int node, double cost)
+    {
+        if (cost < m_cost)
+            std::tie(m_node, m_cost) = {node, cost};
+    }
+    int node() const { return m_node; }
+
+private:
+    int m_node;
+    double m_cost = std::numeric_limits<double>::infinity();
+};
+
+double across(const GraphDrawing &drawing, int node)
+{
+    const QPointF &centre = drawing.nodes.at(node).centre;
+    return drawing.flow == GraphDrawing::Flow::LeftToRight ? centre.y() : centre.x();
+}
+
+int besideOf(const GraphDrawing &drawing, int node, int sign)
+{
+    Nearest nearest(node);
+    for (int i = 0; i < drawing.nodes.size(); ++i) {
+        const double distance = sign * (across(drawing, i) - across(drawing, node));
+        if (drawing.nodes.at(i).layer == drawing.nodes.at(node).layer && distance > 0)
+            nearest.offer(i, distance);
+    }
+    return nearest.node();
+}
+
+int alongOf(const GraphDrawing &drawing, int node, int sign)
+{
+    constexpr double farAway = 1e9; // more than any picture is high
+    Nearest nearest(node);
+    const int layer = drawing.nodes.at(node).layer;
+    for (const GraphEdge &edge : drawing.edges) {
+        if (edge.from != node && edge.to != node)
+            continue;
+        const int other = edge.from == node ? edge.to : edge.from;
+        const int layers = sign * (drawing.nodes.at(other).layer - layer);
+        if (layers > 0)
+            nearest.offer(other, (layers - 1) * farAway +
+                                     std::abs(across(drawing, other) - across(drawing, node)));
+    }
+    return nearest.node();
+}
+} // namespace
+
+void describeNodes(GraphDrawing &drawing, const Variables &variables)
+{
+    const ParagraphStatuses statuses = classifyParagraphs(variables);
+    for (GraphNode &node : drawing.nodes) {
+        node.status = statuses.status.at(node.number);
+        node.fixed = variables.Unmixable.at(node.number) == 1;
+        node.current = node.number == variables.CurrentParagraph;
+    }
+}
+
+QRectF roomOf(const GraphNode &node)
+{
+    QRectF room(0, 0, GraphSize::NodeWidth, GraphSize::NodeHeight);
+    room.moveCenter(node.centre);
+    return room;
+}
+
+int nodeAt(const GraphDrawing &drawing, const QPointF &point)
+{
+    for (int i = 0; i < drawing.nodes.size(); ++i)
+        if (roomOf(drawing.nodes.at(i)).contains(point))
+            return i;
+    return -1;
+}
+
+int nodeOf(const GraphDrawing &drawing, int number, const QPointF &nearTo)
+{
+    Nearest nearest(-1);
+    for (int i = 0; i < drawing.nodes.size(); ++i) {
+        if (drawing.nodes.at(i).number != number)
+            continue;
+        const QPointF away = drawing.nodes.at(i).centre - nearTo;
+        nearest.offer(i, std::hypot(away.x(), away.y()));
+    }
+    return nearest.node();
+}
+
+int neighbour(const GraphDrawing &drawing, int node, GraphStep step)
+{
+    switch (step) {
+    case GraphStep::Upstream:
+        return alongOf(drawing, node, -1);
+    case GraphStep::Downstream:
+        return alongOf(drawing, node, 1);
+    case GraphStep::Before:
+        return besideOf(drawing, node, -1);
+    default:
+        return besideOf(drawing, node, 1);
+    }
+}
