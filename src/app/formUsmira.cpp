@@ -53,6 +53,7 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_adventure(variables, prompts, m_page, m_work), m_navigation(variables, prompts, m_page),
       m_searchReplace(variables, prompts, m_work, {m_page, m_navigation, m_runner}, this),
       m_functions(variables, prompts, m_work, *this),
+      m_views(variables, prompts, {m_navigation, m_runner}, *this),
       m_conversions(variables, prompts, m_page, m_work, *this), m_info(variables, prompts, m_page)
 {
     resize(DesignSize);
@@ -202,6 +203,7 @@ void formUsmira::connectMenus()
                               *m_ui->menuComPackHoles, *m_ui->menuComTarget, *m_ui->menuComUniform,
                               *m_ui->menuComCount},
                              m_runner);
+    m_views.connectItems({*m_ui->menuComProxScan});
     m_menuStates.watch(*m_ui->menuCommands);
     connect(m_ui->menuCommands, &QMenu::aboutToShow, this, [this] { m_functions.showSwapKey(); });
     m_conversions.connectItems({*m_ui->menuConvRTF, *m_ui->menuConvSave1, *m_ui->menuConvLoad1,

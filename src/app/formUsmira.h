@@ -3,6 +3,7 @@
 #include "app/ConversionsMenu.h"
 #include "app/FunctionsMenu.h"
 #include "app/InfoMenu.h"
+#include "app/ViewsMenu.h"
 #include "app/WorkDisplay.h"
 #include "editor/CommandRunner.h"
 #include "editor/MenuStates.h"
@@ -91,6 +92,7 @@ private:
     Navigation m_navigation;
     searchReplace m_searchReplace;
     FunctionsMenu m_functions;
+    ViewsMenu m_views;
     ConversionsMenu m_conversions;
     InfoMenu m_info;
     bool m_closed = false; // the window is going, and saves nothing any more

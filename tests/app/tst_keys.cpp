@@ -77,7 +77,8 @@ private Q_SLOTS:
             const std::pair<const char *, const char *> fixed[] = {
                 {"menuComMasterMix", "Ctrl+M"}, {"menuComBlockMove", "Ctrl+L"},
                 {"menuComPackHoles", "Ctrl+H"}, {"menuComCount", "Ctrl+K"},
-                {"menuComTarget", "Ctrl+T"},    {"menuComOptions", "Ctrl+J"}};
+                {"menuComTarget", "Ctrl+T"},    {"menuComOptions", "Ctrl+J"},
+                {"menuComProxScan", "Ctrl+P"}};
             for (const auto &[item, key] : fixed)
                 QCOMPARE(fixture.control<QAction>(item).shortcut().toString(), key);
         }

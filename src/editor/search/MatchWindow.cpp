@@ -4,11 +4,10 @@
 #include "platform/Failures.h"
 #include "store/AdventureEvents.h"
 #include "ui_MatchWindow.h"
+#include "widgets/ToolWindow.h"
 
 #include <QElapsedTimer>
 #include <QHideEvent>
-#include <QScreen>
-#include <algorithm>
 
 namespace
 {
@@ -57,11 +56,7 @@ void MatchWindow::list(const MatchFinder &finder, std::optional<int> paragraph)
     m_finder = finder;
     m_only = paragraph;
     fill();
-    if (!isVisible())
-        moveAside();
-    show();
-    raise();
-    activateWindow();
+    showAside(*this);
     m_ui->matches->setFocus();
 }
 
@@ -72,15 +67,6 @@ void MatchWindow::fill()
     m_next = m_only.value_or(m_variables.LowestWritten);
     m_filling.start();
     showCount();
-}
-
-// To the lower right of the main window, where it covers least of the text and of the dialog.
-void MatchWindow::moveAside()
-{
-    const QRect room = screen()->availableGeometry();
-    const QPoint wished = parentWidget()->frameGeometry().bottomRight() - rect().bottomRight();
-    move(std::clamp(wished.x(), room.left(), std::max(room.left(), room.right() - width())),
-         std::clamp(wished.y(), room.top(), std::max(room.top(), room.bottom() - height())));
 }
 
 void MatchWindow::fillSome()

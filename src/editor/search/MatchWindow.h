@@ -45,7 +45,6 @@ protected:
 
 private:
     void follow();
-    void moveAside();
     void fill();
     int lastToFill() const { return m_only.value_or(m_variables.HighestWritten); }
     void fillSome();

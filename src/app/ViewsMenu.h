@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/Prompts.h"
+#include "store/Variables.h"
+
+#include <memory>
+
+class CommandRunner;
+class Navigation;
+class QAction;
+class QWidget;
+class proximityScan;
+
+// The commands of the menu "Fonctions" that show the adventure as a whole, in windows that stay
+// open beside the editing box. It owns these windows; each is made when it is first wanted.
+class ViewsMenu
+{
+public:
+    struct Editor {
+        Navigation &navigation;
+        CommandRunner &runner;
+    };
+    // window is the one that they stand beside; all of these must outlive it.
+    ViewsMenu(const Variables &variables, Prompts &prompts, const Editor &editor, QWidget &window);
+    ~ViewsMenu();
+
+    struct Items {
+        QAction &proxScan;
+    };
+    void connectItems(const Items &items);
+
+private:
+    // Made as Window(variables, prompts, parent). What it says is wanted is shown in the editing
+    // box.
+    template <typename Window> Window &made(std::unique_ptr<Window> &window);
+    void goTo(int n);
+    void menuComProxScan_Click();
+
+    const Variables &m_variables;
+    Prompts &m_prompts;
+    Editor m_editor;
+    QWidget &m_window;
+    std::unique_ptr<proximityScan> m_proximityScan;
+};

@@ -1,0 +1,9 @@
+#pragma once
+
+class QWidget;
+
+// What the windows have in common that stay open beside the main window, their parent.
+
+// Shows the tool window and brings it to the front. It comes to the lower right of the main window,
+// where it covers least of the text, unless it is open already; never beyond the screen.
+void showAside(QWidget &tool);
