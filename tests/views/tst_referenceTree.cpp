@@ -1,5 +1,6 @@
 #include "store/ReferenceIndex.h"
 #include "store/Variables.h"
+#include "support/References.h"
 #include "support/TestTable.h"
 #include "views/graph/GraphNodes.h"
 #include "views/graph/ReferenceTree.h"
@@ -14,20 +15,6 @@
 namespace
 {
 using Way = TreeRequest::Way;
-
-// From lines such as "1: 2 3"; all that begin a line are written.
-Variables adventure(const QString &lines)
-{
-    Variables variables;
-    for (const QString &line : lines.split(u'\n')) {
-        const int n = line.section(u':', 0, 0).toInt();
-        variables.Written.at(n) = 1;
-        for (const QString &to : line.section(u':', 1).split(u' ', Qt::SkipEmptyParts))
-            variables.refIndex.at(n) += to.rightJustified(4, u'0') + u'/';
-    }
-    RecomputeWrittenRange(variables);
-    return variables;
-}
 
 // "1(2 3(2=))": "=" is shown elsewhere, "!" a stop, "~" cut.
 QString described(const QList<TreeNode> &tree, int at = 0)
@@ -45,13 +32,9 @@ QList<TreeNode> bigTree(quint32 seed, int nodes, int width, Way way)
 {
     Variables variables;
     QRandomGenerator random(seed);
-    const auto refer = [&](int from, int to) {
-        variables.Written.at(from) = 1;
-        variables.refIndex.at(from) += fourDigits(to) + u'/';
-    };
     for (int n = 2; n <= nodes; ++n) {
-        refer(std::max(1, n - 1 - int(random.bounded(width))), n);
-        refer(n, 1 + int(random.bounded(nodes)));
+        refer(variables, std::max(1, n - 1 - int(random.bounded(width))), n);
+        refer(variables, n, 1 + int(random.bounded(nodes)));
     }
     RecomputeWrittenRange(variables);
     return referenceTree(ReferenceWeb(variables), {1, way, TreeRequest::MostDepth, {}});
@@ -85,7 +68,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, book);
         QFETCH(TreeRequest, request);
-        const Variables variables = adventure(book);
+        const Variables variables = referring(book);
         QTEST(described(referenceTree(ReferenceWeb(variables), request)), "tree");
     }
 
@@ -117,7 +100,7 @@ private Q_SLOTS:
 
     void keysMoveAlongReferences()
     {
-        const Variables variables = adventure("1: 2 3\n2: 4 5\n3: 6");
+        const Variables variables = referring("1: 2 3\n2: 4 5\n3: 6");
         const GraphDrawing drawing = layOutTree(
             referenceTree(ReferenceWeb(variables), {1, Way::Forward, 25, {}}), Way::Forward);
         const auto step = [&](int number, GraphStep to) {
