@@ -1,9 +1,9 @@
 #include "convert/AdventureCopy.h"
 
-#include "convert/ExportTarget.h"
 #include "platform/Failures.h"
 #include "store/AdventureFile.h"
 #include "store/DamagedTexts.h"
+#include "store/ExportTarget.h"
 #include "store/LongWork.h"
 #include "store/Variables.h"
 

@@ -1,7 +1,7 @@
 #include "convert/ExportCommand.h"
 
-#include "convert/ExportTarget.h"
 #include "platform/Failures.h"
+#include "store/ExportTarget.h"
 #include "store/LongWork.h"
 
 ExportCommand::ExportCommand(const Variables &variables, Prompts &prompts, WorkReport &report)

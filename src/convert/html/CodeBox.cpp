@@ -1,7 +1,7 @@
 #include "convert/html/CodeBox.h"
 
-#include "convert/ExportTarget.h"
 #include "platform/Guarded.h"
+#include "store/ExportTarget.h"
 
 #include <QFileInfo>
 #include <QPushButton>

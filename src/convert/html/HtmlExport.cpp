@@ -1,6 +1,5 @@
 #include "convert/html/HtmlExport.h"
 
-#include "convert/ExportTarget.h"
 #include "convert/html/HtmlCharset.h"
 #include "convert/html/HtmlLosses.h"
 #include "convert/html/RtfToHtml.h"
@@ -8,6 +7,7 @@
 #include "platform/FileBatch.h"
 #include "platform/SafeFile.h"
 #include "richtext/HiddenBox.h"
+#include "store/ExportTarget.h"
 #include "store/ParagraphTexts.h"
 
 #include <QDir>

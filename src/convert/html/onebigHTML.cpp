@@ -1,8 +1,8 @@
 #include "convert/html/onebigHTML.h"
 
-#include "convert/ExportTarget.h"
 #include "convert/html/HtmlCommands.h"
 #include "platform/Guarded.h"
+#include "store/ExportTarget.h"
 #include "store/LenientNumbers.h"
 #include "store/WorkingFiles.h"
 #include "ui_onebigHTML.h"

@@ -1,9 +1,9 @@
 #include "convert/rtf/SingleParagraph.h"
 
-#include "convert/ExportTarget.h"
 #include "platform/Failures.h"
 #include "richtext/RichTextBox.h"
 #include "store/AdventureCommands.h"
+#include "store/ExportTarget.h"
 #include "store/ParagraphStore.h"
 #include "store/WorkReport.h"
 

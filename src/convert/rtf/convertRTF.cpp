@@ -1,8 +1,8 @@
 #include "convert/rtf/convertRTF.h"
 
-#include "convert/ExportTarget.h"
 #include "convert/rtf/CompileCommand.h"
 #include "platform/Guarded.h"
+#include "store/ExportTarget.h"
 #include "store/LenientNumbers.h"
 #include "store/Variables.h"
 #include "ui_convertRTF.h"

@@ -1,4 +1,4 @@
-#include "convert/ExportTarget.h"
+#include "store/ExportTarget.h"
 
 #include "platform/Errors.h"
 #include "platform/OpenedFile.h"
