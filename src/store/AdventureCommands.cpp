@@ -1,7 +1,6 @@
 #include "store/AdventureCommands.h"
 
 #include "platform/Failures.h"
-#include "platform/OpenedFile.h"
 #include "platform/SafeFile.h"
 #include "richtext/RichTextBox.h"
 #include "store/AdventureChanges.h"
@@ -33,17 +32,6 @@ QList<int> changedNumbers(const Variables &variables)
             changed.append(n);
     }
     return changed;
-}
-
-// A file of another form is named to the author like one that cannot be read.
-AdventureContents readNamed(const QString &path)
-{
-    try {
-        return readAdventure(std::make_shared<OpenedFile>(path));
-    } catch (const FormatError &error) {
-        throw FileError(FileError::Operation::Read, path, QString::fromUtf8(error.what()),
-                        std::errc::illegal_byte_sequence);
-    }
 }
 
 // A placeholder claims the name of a new adventure. A file that is there already stays until the
@@ -105,7 +93,7 @@ void AdventureCommands::discardChanges()
     const bool neverSaved = !m_variables.AdventureFile;
     try {
         if (!neverSaved)
-            saved = readAdventure(std::make_shared<OpenedFile>(m_variables.AdventurePath));
+            saved = readAdventure(m_variables.AdventurePath);
     } catch (const UsmiraError &) {
         keepUnsaved();
         return;
@@ -196,7 +184,7 @@ bool AdventureCommands::OpenAdventure(const QString &path)
 {
     return reportingFailures(m_prompts, [&] {
         Variables opened = m_variables;
-        takeOver(opened, readNamed(path));
+        takeOver(opened, readAdventure(path));
         try {
             if (!opened.CurrentFormat)
                 rebuildIndex(opened);

@@ -46,6 +46,12 @@ inline constexpr qsizetype LongestPhrase = 32767;
 // or FormatError on an end before "DONE", a length beyond the end, a 2-byte number of 32768 or more
 // and a section above 2000.
 AdventureContents readAdventure(const std::shared_ptr<OpenedFile> &file);
+// The same of the file at path; what is wrong with its bytes is a FileError too, which names it.
+AdventureContents readAdventure(const QString &path);
+
+// The version that the file at path says, without reading the rest of it. Throws FileError when it
+// cannot be opened or says none.
+int readVersion(const QString &path);
 
 // Makes the contents the adventure's state: all arrays fresh, no working file, nothing modified.
 // Path, name and prefix stay as they are.

@@ -1,10 +1,13 @@
 #include "platform/Errors.h"
 #include "platform/OpenedFile.h"
+#include "platform/SafeFile.h"
+#include "platform/SystemFiles.h"
 #include "richtext/CodePage.h"
 #include "richtext/RtfReader.h"
 #include "richtext/TextLimit.h"
 #include "store/AdventureFile.h"
 
+#include <QFile>
 #include <QtEndian>
 #include <algorithm>
 #include <limits>
@@ -214,6 +217,31 @@ AdventureContents readAdventure(const std::shared_ptr<OpenedFile> &file)
     repairRange(contents);
     contents.file = file;
     return contents;
+}
+
+AdventureContents readAdventure(const QString &path)
+{
+    try {
+        return readAdventure(std::make_shared<OpenedFile>(path));
+    } catch (const FormatError &error) {
+        throw FileError(FileError::Operation::Read, path, QString::fromUtf8(error.what()),
+                        std::errc::illegal_byte_sequence);
+    }
+}
+
+int readVersion(const QString &path)
+{
+    QFile file(path);
+    openRegular(file, QIODevice::ReadOnly);
+    const QByteArray bytes = file.read(sizeof(quint16));
+    if (file.error() != QFileDevice::NoError)
+        throw FileError(FileError::Operation::Read, path, failureOf(file));
+    const int version =
+        bytes.size() == sizeof(quint16) ? qFromBigEndian<quint16>(bytes.constData()) : -1;
+    if (version < 0 || version > LargestShort)
+        throw FileError(FileError::Operation::Read, path, QStringLiteral("no version"),
+                        std::errc::illegal_byte_sequence);
+    return version;
 }
 
 void takeOver(Variables &variables, AdventureContents contents)

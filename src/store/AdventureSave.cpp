@@ -81,7 +81,7 @@ bool AdventureSave::swap()
         }
         KeptBytes kept(m_variables, m_leftOut, m_otherVersion);
         moveIntoPlace(m_temporary, m_variables.AdventurePath);
-        noteKept(kept);
+        m_whereKept = kept.whereKept();
         kept.textsAreReplaced();
     } catch (const FileError &error) {
         swapFailed(failureText(words, error));
@@ -114,19 +114,6 @@ bool AdventureSave::mayReplace()
     copyFile(path, backup);
     m_otherVersion = KeptBytes::WholeFile::IsKept;
     return true;
-}
-
-void AdventureSave::noteKept(const KeptBytes &kept)
-{
-    if (kept.isBesideAdventure())
-        m_whereKept +=
-            u' ' + QCoreApplication::translate("AdventureSave",
-                                               "Leurs octets sont gardés à côté de l'aventure.");
-    if (!kept.folder().isEmpty())
-        m_whereKept +=
-            u' ' + QCoreApplication::translate(
-                       "AdventureSave", "Leurs fichiers de travail sont rangés dans le dossier %1.")
-                       .arg(kept.folder());
 }
 
 void AdventureSave::swapFailed(const QString &text)

@@ -39,7 +39,6 @@ private:
     QString adventureFolder() const;
     bool swap();
     bool mayReplace();
-    void noteKept(const KeptBytes &kept);
     void swapFailed(const QString &text);
     void takeOverSaved();
     void announce() const;

@@ -189,6 +189,20 @@ bool KeptBytes::moveAside(const Variables &variables, int n)
     return true;
 }
 
+QString KeptBytes::whereKept() const
+{
+    QString where;
+    if (m_beside)
+        where += u' ' + QCoreApplication::translate(
+                            "DamagedTexts", "Leurs octets sont gardés à côté de l'aventure.");
+    if (!m_folder.isEmpty())
+        where +=
+            u' ' + QCoreApplication::translate(
+                       "DamagedTexts", "Leurs fichiers de travail sont rangés dans le dossier %1.")
+                       .arg(m_folder);
+    return where;
+}
+
 void KeptBytes::textsAreReplaced()
 {
     m_paths.clear();

@@ -44,10 +44,10 @@ public:
 
     void textsAreReplaced();
 
-    // Whether anything is kept beside the adventure, and the folder that working files were moved
-    // to, empty when there is none.
-    bool isBesideAdventure() const { return m_beside; }
+    // The folder that working files were moved to, empty when there is none.
     const QString &folder() const { return m_folder; }
+    // Where all is kept, in sentences for the author that are put behind another.
+    QString whereKept() const;
 
 private:
     struct Moved {
