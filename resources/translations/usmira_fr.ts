@@ -2,6 +2,26 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="fr_FR">
 <context>
+    <name>AdventureMerge</name>
+    <message numerus="yes">
+        <source>%n paragraphe(s) importé(s) : %1</source>
+        <translation>
+            <numerusform>%n paragraphe importé : %1</numerusform>
+            <numerusform>%n paragraphes importés : %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AdventureSplit</name>
+    <message numerus="yes">
+        <source>%n paragraphe(s) exporté(s) : %1</source>
+        <translation>
+            <numerusform>%n paragraphe exporté : %1</numerusform>
+            <numerusform>%n paragraphes exportés : %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ExportCommand</name>
     <message numerus="yes">
         <source>%n paragraphe(s) écrit(s) : %1</source>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/AdventuresMenu.h"
 #include "app/ConversionsMenu.h"
 #include "app/FunctionsMenu.h"
 #include "app/InfoMenu.h"
@@ -89,6 +90,7 @@ private:
     MenuStates m_menuStates;
     CommandRunner m_runner;
     AdventureCommands m_adventure;
+    AdventuresMenu m_adventures;
     Navigation m_navigation;
     searchReplace m_searchReplace;
     FunctionsMenu m_functions;

@@ -7,6 +7,8 @@
 #include "support/TestTable.h"
 #include "widgets/NumberBox.h"
 
+#include <QCheckBox>
+
 namespace
 {
 const QString RangeOf = "Vous devez spécifier des paragraphes entre 1 et 2000.|Zut";
@@ -186,6 +188,43 @@ private Q_SLOTS:
         QVERIFY(variables.AdventureModified);
         QVERIFY(fixture.box().isVisible());
         QVERIFY(fixture.editorHasFocus());
+    }
+
+    // Its item has no key.
+    void splitAsksForARangeAndAFile()
+    {
+        WindowFixture fixture(fourParagraphs());
+        const auto splitting = [&](const std::function<void(QDialog &)> &work) {
+            return fixture.inDialog([&] { fixture.trigger("menuAvExport"); }, work);
+        };
+        const QString target = fixture.adventure.path("part.usm");
+        const QString name = splitting([&](const QDialog &dialog) {
+            QCOMPARE(dialog.windowTitle(), "File Split");
+            QCOMPARE(textsOf(dialog), "3|12");
+            QTest::keyClick(boxesOf(dialog).first(), Qt::Key_Return);
+            QCOMPARE(fixture.prompts.beeps(), 1);
+            fill(dialog, "6|7");
+            fixture.prompts.expect("Tous les paragraphes dans cet intervalle sont vides.", "Zut");
+            click(dialog, "OKButton");
+            fill(dialog, "5|9");
+            for (const QString &chosen : {QString(), target}) {
+                QVERIFY(dialog.isVisible());
+                fixture.prompts.expectFileDialog("Nouvelle Aventure", chosen);
+                child<QCheckBox>(dialog, "Murder").setChecked(true);
+                click(dialog, "OKButton");
+            }
+            QCOMPARE(fixture.prompts.fileKind(), "Fichiers Usmira (*.usm)|*.usm;usm");
+            QVERIFY(!dialog.isVisible());
+        });
+        QCOMPARE(name, "splitFile");
+        QCOMPARE(written(fixture.variables), "3 Trois. 12 Douze.");
+        QVERIFY(fixture.box().text().isEmpty() && fixture.current() == 5);
+
+        fixture.prompts.expectFileDialog("Choisir une Aventure", target);
+        fixture.trigger("menuAvImport");
+        QCOMPARE(fixture.box().text(), "Cinq.");
+        QCOMPARE(written(fixture.variables), written(WindowFixture(fourParagraphs()).variables));
+        QVERIFY(fixture.box().isVisible() && fixture.editorHasFocus());
     }
 
     void eachClickDrawsFromTheTimeOfDay()

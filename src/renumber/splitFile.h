@@ -1,0 +1,31 @@
+#pragma once
+
+#include "widgets/NumberDialog.h"
+
+#include <memory>
+
+class AdventureSplit;
+struct Variables;
+
+namespace Ui
+{
+class splitFile;
+}
+
+// Asks for the range that goes into an adventure of its own, and whether it leaves the open one.
+class splitFile : public NumberDialog
+{
+    Q_OBJECT
+
+public:
+    splitFile(const Variables &variables, Prompts &prompts, AdventureSplit &split, QWidget *parent);
+    ~splitFile() override;
+
+private:
+    void Form_Load();
+    void OKButton_Click();
+
+    const Variables &m_variables;
+    AdventureSplit &m_split;
+    std::unique_ptr<Ui::splitFile> m_ui;
+};

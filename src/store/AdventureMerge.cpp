@@ -1,0 +1,200 @@
+#include "store/AdventureMerge.h"
+
+#include "platform/Failures.h"
+#include "richtext/HiddenBox.h"
+#include "store/AdventureFile.h"
+#include "store/DamagedTexts.h"
+#include "store/LongWork.h"
+#include "store/ParagraphStore.h"
+#include "store/ParagraphTransaction.h"
+#include "store/ReferenceIndex.h"
+
+#include <QDir>
+
+namespace
+{
+Variables readOther(const QString &path)
+{
+    Variables other;
+    takeOver(other, readAdventure(path));
+    other.AdventurePath = path;
+    return other;
+}
+
+// The paragraphs of another adventure on their way into the open one.
+class Incoming
+{
+public:
+    Incoming(Variables &variables, const Variables &other)
+        : m_variables(variables), m_other(other), m_transaction(variables)
+    {
+        m_box.setBaseFont(variables.defaultFontName, variables.defaultFontSize);
+    }
+
+    // Throws FileError (Write) when it cannot be written, UnreadableTexts when it cannot be read.
+    void take(int n)
+    {
+        const std::optional<ParagraphTransaction::Change> change = readableChange(n);
+        if (!change)
+            return;
+        m_transaction.change(*change);
+        ++m_taken;
+        if (m_variables.Written.at(n) == 1)
+            static_cast<void>(readableText(m_variables, n, m_lost));
+    }
+
+    // What the author had and what can no longer be read is kept before it is replaced.
+    void commit()
+    {
+        KeptBytes kept(m_variables, m_lost);
+        m_transaction.commit();
+        kept.textsAreReplaced();
+        m_whereKept = kept.whereKept();
+    }
+
+    int taken() const { return m_taken; }
+
+    void tellLost(Prompts &prompts) const
+    {
+        if (!m_lost.isEmpty())
+            prompts.notice(QCoreApplication::translate("AdventureMerge",
+                                                       "Paragraphes illisibles, remplacés : %1")
+                                   .arg(paragraphNames(m_lost)) +
+                               m_whereKept,
+                           QStringLiteral("BUG"));
+    }
+
+private:
+    // Nothing for an empty text.
+    std::optional<ParagraphTransaction::Change> readableChange(int n)
+    {
+        try {
+            return changeOf(n);
+        } catch (const UsmiraError &) {
+            throw UnreadableTexts({n});
+        }
+    }
+
+    std::optional<ParagraphTransaction::Change> changeOf(int n)
+    {
+        m_box.setRtf(GetParagraphRtf(m_other, n));
+        const QString text = m_box.text();
+        if (text.isEmpty())
+            return std::nullopt;
+        return ParagraphTransaction::Change{n, n, rtfToSave(m_box),
+                                            referenceEntry(text, m_variables.TargetPhrase),
+                                            m_other.Unmixable.at(n) == 1};
+    }
+
+    Variables &m_variables;
+    const Variables &m_other;
+    ParagraphTransaction m_transaction;
+    HiddenBox m_box;
+    QList<int> m_lost; // what stood at these numbers cannot be read
+    QString m_whereKept;
+    int m_taken = 0;
+};
+
+void takeAll(Incoming &incoming, const QList<int> &numbers, const Progress &progress)
+{
+    int done = 0;
+    for (const int n : numbers) {
+        incoming.take(n);
+        progress(++done, static_cast<int>(numbers.size()));
+    }
+}
+} // namespace
+
+AdventureMerge::AdventureMerge(Variables &variables, Prompts &prompts, WorkReport &report)
+    : m_variables(variables), m_prompts(prompts), m_report(report)
+{
+}
+
+void AdventureMerge::Import()
+{
+    const QString path =
+        m_prompts.openName(tr("Choisir une Aventure"), tr("Fichiers Usmira (*.usm)|*.usm"));
+    if (!path.isEmpty())
+        ImportFrom(path);
+}
+
+void AdventureMerge::ImportFrom(const QString &path)
+{
+    try {
+        readVersion(path);
+    } catch (const FileError &error) {
+        tell(failureText(tr("Fichier invalide. Opération annulée."), error), tr("BUG"));
+        return;
+    }
+    reportingFailures(m_prompts, [&] {
+        const Variables other = readOther(path);
+        if (const std::optional<Collisions> collisions = askToReplace(other))
+            importAll(other, *collisions);
+        return true;
+    });
+}
+
+// Nothing: the author, or an adventure without a paragraph, has ended the command.
+std::optional<AdventureMerge::Collisions> AdventureMerge::askToReplace(const Variables &other)
+{
+    int sections = 0;
+    int collisions = 0;
+    for (int n = 0; n <= Variables::LastParagraph; ++n) {
+        sections += other.Written.at(n);
+        collisions += other.Written.at(n) == 1 && m_variables.Written.at(n) == 1 ? 1 : 0;
+    }
+    if (sections == 0) {
+        tell(tr("Cette aventure ne contient aucun paragraphe."), tr("Niouf"));
+        return std::nullopt;
+    }
+    if (collisions == 0)
+        return Collisions::Kept;
+    switch (m_prompts.message(
+        tr("ATTENTION : %1 paragraphes du fichier à importer ont les mêmes numéros que ceux du "
+           "fichier actuel. Voulez-vous REMPLACER les paragraphes de l'aventure actuelle par ceux "
+           "de l'aventure importée ?")
+            .arg(collisions),
+        tr("Attention !"), Prompts::Buttons::YesNoCancel)) {
+    case Prompts::Answer::Yes:
+        return Collisions::Replaced;
+    case Prompts::Answer::No:
+        return Collisions::Kept;
+    default:
+        return std::nullopt;
+    }
+}
+
+void AdventureMerge::importAll(const Variables &other, Collisions collisions)
+{
+    QList<int> numbers;
+    for (int n = 0; n <= Variables::LastParagraph; ++n) {
+        const bool free = m_variables.Written.at(n) == 0;
+        if (other.Written.at(n) == 1 && (free || collisions == Collisions::Replaced))
+            numbers.append(n);
+    }
+    Incoming incoming(m_variables, other);
+    QList<int> unreadable; // the one that ended the import
+    {
+        LongWork work(m_report, tr("Importing..."));
+        try {
+            takeAll(incoming, numbers, work.progress());
+        } catch (const UnreadableTexts &error) {
+            unreadable = error.paragraphs();
+        }
+        incoming.commit();
+    }
+    m_report.announce(
+        tr("%n paragraphe(s) importé(s) : %1", nullptr, incoming.taken()).arg(other.AdventurePath));
+    incoming.tellLost(m_prompts);
+    if (!unreadable.isEmpty())
+        tell(tr("Erreur lors de l'importation des paragraphes.") + u'\n' +
+                 tr("%1 : le paragraphe %2 est illisible.")
+                     .arg(QDir::toNativeSeparators(other.AdventurePath),
+                          QString::number(unreadable.first())),
+             tr("BUG"));
+}
+
+void AdventureMerge::tell(const QString &text, const QString &title)
+{
+    m_prompts.message(text, title, Prompts::Buttons::Ok);
+}
