@@ -2,22 +2,28 @@
 #include "editor/TargetPhrase.h"
 #include "outil/CommandEntry.h"
 #include "outil/Commands.h"
+#include "outil/Script.h"
 #include "outil/StateReport.h"
+#include "store/LenientNumbers.h"
 
 #include <QFileInfo>
 
 namespace
 {
+// What the dialog for a new file asks.
+bool mayReplace(CommandServices &script, const QString &path)
+{
+    const QString question =
+        Commands::tr("%1 existe déjà. Voulez-vous le remplacer ?").arg(QFileInfo(path).fileName());
+    return !QFileInfo::exists(path) ||
+           script.prompts.message(question, Commands::tr("Nouvelle Aventure"),
+                                  Prompts::Buttons::YesNo) == Prompts::Answer::Yes;
+}
+
 QByteArray nouvelle(CommandServices &script, const QStringList &arguments)
 {
     const QString &path = arguments.first();
-    if (!script.adventure.LeaveAdventure())
-        return {};
-    const QString question =
-        Commands::tr("%1 existe déjà. Voulez-vous le remplacer ?").arg(QFileInfo(path).fileName());
-    if (!QFileInfo::exists(path) ||
-        script.prompts.message(question, Commands::tr("Nouvelle Aventure"),
-                               Prompts::Buttons::YesNo) == Prompts::Answer::Yes)
+    if (script.adventure.LeaveAdventure() && mayReplace(script, path))
         script.adventure.NewAdventure(path);
     return {};
 }
@@ -33,6 +39,24 @@ QByteArray enregistrer(CommandServices &script, const QStringList & /*arguments*
 {
     script.adventure.Save();
     return {};
+}
+
+QByteArray fusionner(CommandServices &script, const QStringList &arguments)
+{
+    script.merge.ImportFrom(arguments.first());
+    return script.shownAgain(true);
+}
+
+QByteArray scinder(CommandServices &script, const QStringList &arguments)
+{
+    const QString murder = arguments.value(3);
+    if (!murder.isEmpty() && murder != QStringLiteral("effacer"))
+        throw UsageError(Commands::tr("effacer attendu : %1").arg(murder));
+    const SplitRequest request{lenientNumber(arguments.at(0)), lenientNumber(arguments.at(1)),
+                               !murder.isEmpty()};
+    const QString &path = arguments.at(2);
+    return script.shownAgain(
+        script.split.Export(request, [&] { return mayReplace(script, path) ? path : QString(); }));
 }
 
 QByteArray phrase(CommandServices &script, const QStringList &arguments)
@@ -62,6 +86,12 @@ std::vector<CommandEntry> adventureEntries()
         {"ouvrir", "FICHIER", QT_TRANSLATE_NOOP("Commands", "ouvre une aventure"), false, &ouvrir},
         {"enregistrer", "", QT_TRANSLATE_NOOP("Commands", "enregistre l'aventure ouverte"), true,
          &enregistrer},
+        {"fusionner", "FICHIER",
+         QT_TRANSLATE_NOOP("Commands", "ajoute les paragraphes d'une autre aventure"), true,
+         &fusionner},
+        {"scinder", "BAS HAUT FICHIER [effacer]",
+         QT_TRANSLATE_NOOP("Commands", "copie BAS à HAUT dans une aventure nouvelle"), true,
+         &scinder},
         {"phrase", "TEXTE",
          QT_TRANSLATE_NOOP("Commands", "change la phrase cible ; _ y est un espace"), true,
          &phrase},

@@ -3,8 +3,10 @@
 #include "convert/ExportCommand.h"
 #include "editor/search/SearchCommands.h"
 #include "outil/HeadlessView.h"
+#include "renumber/AdventureSplit.h"
 #include "renumber/RenumberCommands.h"
 #include "store/AdventureCommands.h"
+#include "store/AdventureMerge.h"
 
 #include <QByteArray>
 #include <QStringList>
@@ -23,6 +25,8 @@ struct CommandServices {
     Prompts &prompts;
     HeadlessView view;
     AdventureCommands adventure;
+    AdventureMerge merge;
+    AdventureSplit split;
     RenumberCommands renumber;
     SearchCommands search;
     ExportCommand exports;

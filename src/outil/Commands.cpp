@@ -30,8 +30,8 @@ bool fits(const CommandEntry &entry, qsizetype arguments)
 
 CommandServices::CommandServices(Variables &state, Prompts &answers)
     : variables(state), prompts(answers), view(state), adventure(state, answers, view, view),
-      renumber(state, answers, view), search(state, answers, view, view),
-      exports(state, answers, view)
+      merge(state, answers, view), split(state, answers, view), renumber(state, answers, view),
+      search(state, answers, view, view), exports(state, answers, view)
 {
 }
 
