@@ -3,6 +3,7 @@
 #include "BigAdventure.h"
 #include "CompilationFigures.h"
 #include "ConvertFigures.h"
+#include "MergeFigures.h"
 #include "ReferenceFigures.h"
 #include "RenumberFigures.h"
 #include "SearchFigures.h"
@@ -31,6 +32,7 @@ int main(int argc, char *argv[])
     BigAdventure::make(path);
     printCompilationFigures(path, folder.path());
     printRenumberFigures(path, folder.path());
+    printMergeFigures(path, folder.path());
     printSearchFigures(path, folder.path());
     printStoreFigures(path, folder.path());
     printConvertFigures(path, folder.path());
