@@ -3,6 +3,7 @@
 #include "editor/CommandRunner.h"
 #include "editor/Navigation.h"
 #include "renumber/proximityScan.h"
+#include "views/grid/paraGrid.h"
 #include "widgets/ToolWindow.h"
 
 ViewsMenu::ViewsMenu(const Variables &variables, Prompts &prompts, const Editor &editor,
@@ -16,13 +17,15 @@ ViewsMenu::~ViewsMenu() = default;
 void ViewsMenu::connectItems(const Items &items)
 {
     using Kind = CommandRunner::Kind;
+    m_editor.runner.add(items.grid, Kind::Saved, [this] { menuComGrid_Click(); });
     m_editor.runner.add(items.proxScan, Kind::Saved, [this] { menuComProxScan_Click(); });
 }
 
-template <typename Window> Window &ViewsMenu::made(std::unique_ptr<Window> &window)
+template <typename Window, typename... Arguments>
+Window &ViewsMenu::made(std::unique_ptr<Window> &window, Arguments &...arguments)
 {
     if (!window) {
-        window = std::make_unique<Window>(m_variables, m_prompts, &m_window);
+        window = std::make_unique<Window>(arguments..., &m_window);
         QObject::connect(window.get(), &Window::wanted, window.get(), [this](int n) { goTo(n); });
     }
     return *window;
@@ -33,9 +36,22 @@ void ViewsMenu::goTo(int n)
     m_editor.runner.run(CommandRunner::Kind::Adventure, [this, n] { m_editor.navigation.goTo(n); });
 }
 
+void ViewsMenu::followEditor()
+{
+    if (m_grid)
+        m_grid->followEditor();
+}
+
+void ViewsMenu::menuComGrid_Click()
+{
+    paraGrid &window = made(m_grid, m_variables);
+    showAside(window);
+    window.focusGrid();
+}
+
 void ViewsMenu::menuComProxScan_Click()
 {
-    proximityScan &window = made(m_proximityScan);
+    proximityScan &window = made(m_proximityScan, m_variables, m_prompts);
     showAside(window);
     window.focusNumber();
 }

@@ -9,6 +9,7 @@ class CommandRunner;
 class Navigation;
 class QAction;
 class QWidget;
+class paraGrid;
 class proximityScan;
 
 // The commands of the menu "Fonctions" that show the adventure as a whole, in windows that stay
@@ -25,20 +26,27 @@ public:
     ~ViewsMenu();
 
     struct Items {
+        QAction &grid;
         QAction &proxScan;
     };
     void connectItems(const Items &items);
 
+    // The editing box may show another paragraph.
+    void followEditor();
+
 private:
-    // Made as Window(variables, prompts, parent). What it says is wanted is shown in the editing
+    // Made of the arguments beside the main window. What it says is wanted is shown in the editing
     // box.
-    template <typename Window> Window &made(std::unique_ptr<Window> &window);
+    template <typename Window, typename... Arguments>
+    Window &made(std::unique_ptr<Window> &window, Arguments &...arguments);
     void goTo(int n);
+    void menuComGrid_Click();
     void menuComProxScan_Click();
 
     const Variables &m_variables;
     Prompts &m_prompts;
     Editor m_editor;
     QWidget &m_window;
+    std::unique_ptr<paraGrid> m_grid;
     std::unique_ptr<proximityScan> m_proximityScan;
 };

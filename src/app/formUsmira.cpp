@@ -203,7 +203,8 @@ void formUsmira::connectMenus()
                               *m_ui->menuComPackHoles, *m_ui->menuComTarget, *m_ui->menuComUniform,
                               *m_ui->menuComCount},
                              m_runner);
-    m_views.connectItems({*m_ui->menuComProxScan});
+    m_views.connectItems({*m_ui->menuComGrid, *m_ui->menuComProxScan});
+    connect(&m_page, &ParagraphPage::changed, this, [this] { m_views.followEditor(); });
     m_menuStates.watch(*m_ui->menuCommands);
     connect(m_ui->menuCommands, &QMenu::aboutToShow, this, [this] { m_functions.showSwapKey(); });
     m_conversions.connectItems({*m_ui->menuConvRTF, *m_ui->menuConvSave1, *m_ui->menuConvLoad1,

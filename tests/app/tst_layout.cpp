@@ -139,7 +139,7 @@ private Q_SLOTS:
         QVERIFY(menus.size() >= 6);
         // Keys of commands of the editing box, and of those of the functions menu that come later.
         QSet<QString> shortcuts;
-        for (const QChar key : QString("BIU3GD"))
+        for (const QChar key : QString("BIU3G"))
             shortcuts.insert(QString("Ctrl+") + key);
         const QRegularExpression mnemonic("^(?:[^&]|&&)*&([^&])");
         for (const QList<QAction *> &menu : std::as_const(menus)) {

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "store/Variables.h"
+#include "views/ParagraphStatuses.h"
+
+#include <QFont>
+#include <QRectF>
+#include <QString>
+
+class QPainter;
+
+// What a cell of the grid shows.
+struct GridCell {
+    int number = 0; // 0: none, as in the legend
+    quint8 status = Empty;
+    bool fixed = false;
+    bool current = false;
+};
+
+// Of number n, 1..2000.
+GridCell gridCell(const Variables &variables, const ParagraphStatuses &statuses, int n);
+
+// "26 : Tapé, Fixe, Actuel".
+QString cellWords(const GridCell &cell);
+
+// Paints cells in the prescribed colours, which are the same on light and dark windows.
+class CellPainter
+{
+public:
+    // font is the one of the window; its letters are made small enough for the cells.
+    CellPainter(QPainter &painter, const QFont &font);
+
+    // origin in twips, on a painter whose units are Qt's pixels.
+    void paint(const GridCell &cell, const QPoint &origin) const;
+
+    // The frame around the cell that keys act on.
+    void paintFocus(const QPoint &origin, const QColor &colour) const;
+
+private:
+    void fillBox(const QRectF &box, const QColor &colour) const;
+
+    QPainter &m_painter;
+    QFont m_numberFont;
+    QFont m_letterFont;
+};
