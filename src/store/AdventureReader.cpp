@@ -124,18 +124,33 @@ void readSection(ByteReader &reader, AdventureContents &contents)
     contents.written.at(n) = 1;
 }
 
+// The four letters of a tag as one number: of a file full of unknown tags there are millions.
+constexpr quint32 tag(const char (&letters)[5])
+{
+    quint32 number = 0;
+    for (int i = 0; i < 4; ++i)
+        number = number << 8 | static_cast<uchar>(letters[i]);
+    return number;
+}
+
 void readSections(ByteReader &reader, AdventureContents &contents)
 {
     for (;;) {
-        const QByteArrayView tag = reader.take(4);
-        if (tag == "DONE")
+        switch (reader.takeLong()) {
+        case tag("DONE"):
             return;
-        if (tag == "TARG")
+        case tag("TARG"):
             contents.targetPhrase = fromWindows1252(reader.take(reader.takeShort()));
-        else if (tag == "UNMX")
+            break;
+        case tag("UNMX"):
             readFlags(reader, contents);
-        else if (tag == "SECT")
+            break;
+        case tag("SECT"):
             readSection(reader, contents);
+            break;
+        default:
+            break; // passed over
+        }
     }
 }
 
