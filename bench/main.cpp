@@ -9,6 +9,7 @@
 #include "SearchFigures.h"
 #include "StoreFigures.h"
 #include "TypingFigures.h"
+#include "ViewsFigures.h"
 #include "WindowFigures.h"
 #include "app/Desktop.h"
 
@@ -38,6 +39,7 @@ int main(int argc, char *argv[])
     printConvertFigures(path, folder.path());
     printTypingFigures(path, folder.path());
     printReferenceFigures(path, folder.path());
+    printViewsFigures(path, folder.path());
     printWindowFigures(path, folder.path());
     return 0;
 }

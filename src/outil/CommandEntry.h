@@ -50,4 +50,5 @@ std::vector<CommandEntry> adventureEntries();
 std::vector<CommandEntry> paragraphEntries();
 std::vector<CommandEntry> renumberEntries();
 std::vector<CommandEntry> textEntries();
+std::vector<CommandEntry> viewsEntries();
 std::vector<CommandEntry> publishEntries();

@@ -12,7 +12,7 @@ const std::vector<CommandEntry> &entries()
     static const std::vector<CommandEntry> table = [] {
         std::vector<CommandEntry> all;
         for (const auto &group : {adventureEntries(), paragraphEntries(), renumberEntries(),
-                                  textEntries(), publishEntries()})
+                                  textEntries(), viewsEntries(), publishEntries()})
             all.insert(all.end(), group.begin(), group.end());
         return all;
     }();

@@ -8,37 +8,44 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
-#include <set>
 #include <utility>
 #include <vector>
 
 namespace
 {
 // The references of one paragraph that have been passed, found by their numbers: looking through
-// all of them for each reference would take minutes in a text of nothing but references.
+// all of them for each reference would take minutes in texts of nothing but references.
 class PassedReferences
 {
 public:
     // The numbers within proximity of number, in the order of the text.
     std::vector<int> near(int number, double proximity) const
     {
-        std::vector<std::pair<int, int>> found; // place in the text, number
-        const double lowest = std::ceil(number - proximity);
-        auto passed =
-            lowest > 0 ? m_passed.lower_bound({static_cast<int>(lowest), 0}) : m_passed.begin();
-        for (; passed != m_passed.end() && passed->first <= number + proximity; ++passed)
-            found.emplace_back(passed->second, passed->first);
+        const int lowest = static_cast<int>(std::ceil(std::max(number - proximity, 0.0)));
+        std::vector<std::pair<int, int>> found; // place, number
+        for (int n = lowest; n < m_places.count() && n <= number + proximity; ++n)
+            for (const int place : m_places.at(n))
+                found.emplace_back(place, n);
         std::sort(found.begin(), found.end());
         std::vector<int> numbers;
-        for (const auto &[place, passedNumber] : found)
-            numbers.push_back(passedNumber);
+        numbers.reserve(found.size());
+        for (const auto &[place, passed] : found)
+            numbers.push_back(passed);
         return numbers;
     }
 
-    void pass(int number) { m_passed.emplace(number, static_cast<int>(m_passed.size())); }
+    void pass(int number) { m_places.at(number).push_back(m_count++); }
+
+    // Before another paragraph; numbers are those that were passed.
+    void forget(const QList<int> &numbers)
+    {
+        for (const int number : numbers)
+            m_places.at(number).clear();
+    }
 
 private:
-    std::set<std::pair<int, int>> m_passed; // number, place in the text
+    ParagraphArray<std::vector<int>, 2001> m_places; // in the text, of each number
+    int m_count = 0;
 };
 
 class Scan
@@ -48,29 +55,35 @@ public:
 
     void scan(int paragraph, const QString &indexEntry)
     {
-        PassedReferences passed;
-        for (const int number : referredParagraphs(indexEntry)) {
+        const QList<int> numbers = referredParagraphs(indexEntry);
+        for (const int number : numbers) {
             if (std::abs(number - paragraph) <= m_proximity)
                 add(m_leadsTo.arg(paragraph).arg(number));
-            for (const int other : passed.near(number, m_proximity))
+            for (const int other : m_passed.near(number, m_proximity))
                 add(m_andTo.arg(paragraph).arg(number).arg(other));
-            passed.pass(number);
-            if (!m_found.whole)
+            m_passed.pass(number);
+            if (isCut())
                 return;
         }
+        m_passed.forget(numbers);
     }
 
     ProximityLines &found() { return m_found; }
+    bool isCut() const { return !m_found.cut.isEmpty(); }
 
 private:
     void add(const QString &line)
     {
-        m_found.whole = m_found.whole && m_found.lines.size() < MostProximityLines;
-        if (m_found.whole)
+        if (m_found.lines.size() < MostProximityLines)
             m_found.lines.append(line);
+        else
+            m_found.cut =
+                QCoreApplication::translate("ProximityLines", "La liste s'arrête après %1 lignes.")
+                    .arg(MostProximityLines);
     }
 
     double m_proximity;
+    PassedReferences m_passed;
     ProximityLines m_found;
     const QString m_leadsTo = QCoreApplication::translate("ProximityLines", "%1 mène au %2");
     const QString m_andTo = QCoreApplication::translate("ProximityLines", "%1 mène au %2 et au %3");
@@ -87,7 +100,7 @@ std::optional<ProximityLines> ProximityScan(const Variables &variables, double p
         return std::nullopt;
     }
     Scan scan(proximity);
-    for (int n = variables.LowestWritten; n <= variables.HighestWritten && scan.found().whole; ++n)
+    for (int n = variables.LowestWritten; n <= variables.HighestWritten && !scan.isCut(); ++n)
         if (variables.Written.at(n) == 1)
             scan.scan(n, variables.refIndex.at(n));
     if (scan.found().lines.isEmpty())

@@ -12,9 +12,9 @@ struct ProximityLines {
     // "25 mène au 26" or "25 mène au 40 et au 41", in the order of the paragraphs and of their
     // texts; "Aucun Problème !" alone when there is none.
     QStringList lines;
-    // Whether these are all: a list that nobody could read through ends after the first
-    // MostProximityLines.
-    bool whole = true;
+    // A list that nobody could read through ends after the first MostProximityLines, and this says
+    // so, in French. Empty when the list is whole.
+    QString cut;
 };
 constexpr qsizetype MostProximityLines = 100000;
 

@@ -66,8 +66,7 @@ void proximityScan::btnCompute_Click()
     if (!found)
         return;
     m_ui->theList->addItems(found->lines);
-    if (!found->whole)
-        m_ui->lblEnd->setText(tr("La liste s'arrête après %1 lignes.").arg(found->lines.size()));
+    m_ui->lblEnd->setText(found->cut);
     m_ui->btnCompute->setText(tr("Redétecter"));
 }
 

@@ -47,5 +47,5 @@ StatusLegend::StatusLegend(QWidget *parent) : QWidget(parent)
         const bool current = status == Current;
         add({0, current ? quint8{Empty} : status, false, current}, statusName(status));
     }
-    add({0, Empty, true, false}, tr("Fixe"));
+    add({0, Empty, true, false}, fixedName());
 }

@@ -157,6 +157,26 @@ melanger 4 9
         QCOMPARE(outcome.output.count('\n'), 1);
     }
 
+    void theWholeIsListed()
+    {
+        TestAdventure adventure;
+        const QString path = adventure.file(
+            QStringLiteral("a.usm"),
+            AdventureBuilder({QStringLiteral("2!: Va au 4"), QStringLiteral("3: Va au 2 ou au 3")})
+                .list(2, "0004/")
+                .list(3, "0002/0003/")
+                .bytes());
+        const Outcome outcome =
+            run(adventure, {}, "ouvrir '" + path.toUtf8() + "'\ngrille\nproximite 1.5\n");
+        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(QString::fromUtf8(outcome.output),
+                 QStringLiteral("1\t0\tVide\n2\t1\tTapé\tFixe\n3\t1\tTapé\n4\t3\tRéservé\n"
+                                "3 mène au 2\n3 mène au 3\n3 mène au 3 et au 2\n"));
+        const Outcome refused = run(adventure, {}, "ouvrir '" + path.toUtf8() + "'\nproximite x\n");
+        QCOMPARE(refused.status, 1);
+        QVERIFY(refused.errors.contains(QStringLiteral("ne fait aucun sens.")));
+    }
+
     void textsAreSearchedReplacedAndFormatted()
     {
         TestAdventure adventure;

@@ -34,11 +34,16 @@ GridCell gridCell(const Variables &variables, const ParagraphStatuses &statuses,
             n == variables.CurrentParagraph};
 }
 
+QString fixedName()
+{
+    return QCoreApplication::translate("GridCell", "Fixe");
+}
+
 QString cellWords(const GridCell &cell)
 {
     QStringList words{statusName(cell.status)};
     if (cell.fixed)
-        words.append(QCoreApplication::translate("GridCell", "Fixe"));
+        words.append(fixedName());
     if (cell.current)
         words.append(statusName(Current));
     return QCoreApplication::translate("GridCell", "%1 : %2")
