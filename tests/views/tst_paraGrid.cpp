@@ -114,6 +114,35 @@ private Q_SLOTS:
         QCOMPARE(fixture.preview(), "(Vide)");
     }
 
+    void followsWhatChangesTheAdventure()
+    {
+        const GridFixture fixture(oneOfEach());
+        fixture.clickCell(3);
+        fixture.inDialog([&] { fixture.trigger("menuComSwap"); },
+                         [](QDialog &swap) {
+                             typeOver(child<QLineEdit>(swap, "txtOne"), "3");
+                             typeOver(child<QLineEdit>(swap, "txtTwo"), "5");
+                             ::click(swap, "OKButton");
+                         });
+        QCOMPARE(fixture.label("lblPreview"), "Aperçu du 5");
+        QCOMPARE(fixture.preview(), "Fin.");
+        QCOMPARE(fixture.colourAt(5, 210, 75), QColor(0, 0xFF, 0));
+        QCOMPARE(fixture.colourAt(3, 210, 75), QColor(Qt::white));
+        fixture.click("btnUnmixable");
+        QCOMPARE(fixture.colourAt(2, 210, 285), QColor(Qt::black));
+    }
+
+    void nothingMovesWhenTheTextCannotBeSaved()
+    {
+        GridFixture fixture(oneOfEach());
+        fixture.type(" Du neuf.");
+        fixture.variables.WorkingFolder = fixture.adventure.file("fichier", {}) + '/';
+        fixture.prompts.expect("Erreur pendant l'écriture du fichier.", "BUG");
+        fixture.clickCell(3, Qt::ShiftModifier);
+        QCOMPARE(fixture.current(), 2);
+        QCOMPARE(fixture.colourAt(2, 0, 75), QColor(0xFF, 0xFF, 0));
+    }
+
     void keysMoveOverTheCells()
     {
         const GridFixture fixture(AdventureBuilder({"1: Va au 1000."}).list(1, "1000/").current(1));

@@ -39,6 +39,7 @@ void paraGrid::followAdventure()
             });
     connect(events, &AdventureEvents::adventureReplaced, this, [this] {
         previewNothing();
+        m_current = -1; // the next one shown is another, whatever its number
         m_ui->vGridScroll->setValue(0);
         refresh();
     });
