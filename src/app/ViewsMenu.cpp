@@ -3,6 +3,7 @@
 #include "editor/CommandRunner.h"
 #include "editor/Navigation.h"
 #include "renumber/proximityScan.h"
+#include "views/graph/paraGraphs.h"
 #include "views/grid/paraGrid.h"
 #include "widgets/ToolWindow.h"
 
@@ -17,6 +18,7 @@ ViewsMenu::~ViewsMenu() = default;
 void ViewsMenu::connectItems(const Items &items)
 {
     using Kind = CommandRunner::Kind;
+    m_editor.runner.add(items.graphs, Kind::Saved, [this] { menuComGraphs_Click(); });
     m_editor.runner.add(items.grid, Kind::Saved, [this] { menuComGrid_Click(); });
     m_editor.runner.add(items.proxScan, Kind::Saved, [this] { menuComProxScan_Click(); });
 }
@@ -40,6 +42,28 @@ void ViewsMenu::followEditor()
 {
     if (m_grid)
         m_grid->followEditor();
+    if (m_graphs)
+        m_graphs->followEditor();
+}
+
+void ViewsMenu::close()
+{
+    if (m_graphs)
+        m_graphs->close();
+}
+
+// It may cover the main window, which comes to the front for what is wanted of it.
+void ViewsMenu::menuComGraphs_Click()
+{
+    if (!m_graphs) {
+        m_graphs = std::make_unique<paraGraphs>(m_variables, m_prompts);
+        QObject::connect(m_graphs.get(), &paraGraphs::wanted, m_graphs.get(), [this](int n) {
+            m_window.raise();
+            m_window.activateWindow();
+            goTo(n);
+        });
+    }
+    m_graphs->showCurrent();
 }
 
 void ViewsMenu::menuComGrid_Click()

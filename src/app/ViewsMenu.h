@@ -9,6 +9,7 @@ class CommandRunner;
 class Navigation;
 class QAction;
 class QWidget;
+class paraGraphs;
 class paraGrid;
 class proximityScan;
 
@@ -26,6 +27,7 @@ public:
     ~ViewsMenu();
 
     struct Items {
+        QAction &graphs;
         QAction &grid;
         QAction &proxScan;
     };
@@ -34,12 +36,16 @@ public:
     // The editing box may show another paragraph.
     void followEditor();
 
+    // Those windows go that stand on none.
+    void close();
+
 private:
     // Made of the arguments beside the main window. What it says is wanted is shown in the editing
     // box.
     template <typename Window, typename... Arguments>
     Window &made(std::unique_ptr<Window> &window, Arguments &...arguments);
     void goTo(int n);
+    void menuComGraphs_Click();
     void menuComGrid_Click();
     void menuComProxScan_Click();
 
@@ -47,6 +53,7 @@ private:
     Prompts &m_prompts;
     Editor m_editor;
     QWidget &m_window;
+    std::unique_ptr<paraGraphs> m_graphs;
     std::unique_ptr<paraGrid> m_grid;
     std::unique_ptr<proximityScan> m_proximityScan;
 };

@@ -203,7 +203,7 @@ void formUsmira::connectMenus()
                               *m_ui->menuComPackHoles, *m_ui->menuComTarget, *m_ui->menuComUniform,
                               *m_ui->menuComCount},
                              m_runner);
-    m_views.connectItems({*m_ui->menuComGrid, *m_ui->menuComProxScan});
+    m_views.connectItems({*m_ui->menuComGraphs, *m_ui->menuComGrid, *m_ui->menuComProxScan});
     connect(&m_page, &ParagraphPage::changed, this, [this] { m_views.followEditor(); });
     m_menuStates.watch(*m_ui->menuCommands);
     connect(m_ui->menuCommands, &QMenu::aboutToShow, this, [this] { m_functions.showSwapKey(); });
@@ -291,8 +291,10 @@ void formUsmira::closeEvent(QCloseEvent *event)
         // The next start has the settings of before.
     }
     m_comfort.save();
-    if (leaves)
+    if (leaves) {
         m_info.closeHelp();
+        m_views.close();
+    }
     event->setAccepted(leaves);
 }
 

@@ -78,7 +78,8 @@ private Q_SLOTS:
                 {"menuComMasterMix", "Ctrl+M"}, {"menuComBlockMove", "Ctrl+L"},
                 {"menuComPackHoles", "Ctrl+H"}, {"menuComCount", "Ctrl+K"},
                 {"menuComTarget", "Ctrl+T"},    {"menuComOptions", "Ctrl+J"},
-                {"menuComProxScan", "Ctrl+P"},  {"menuComGrid", "Ctrl+D"}};
+                {"menuComProxScan", "Ctrl+P"},  {"menuComGrid", "Ctrl+D"},
+                {"menuComGraphs", "Ctrl+G"}};
             for (const auto &[item, key] : fixed)
                 QCOMPARE(fixture.control<QAction>(item).shortcut().toString(), key);
         }

@@ -104,7 +104,7 @@ private Q_SLOTS:
         const GraphDrawing drawing = layOutTree(
             referenceTree(ReferenceWeb(variables), {1, Way::Forward, 25, {}}), Way::Forward);
         const auto step = [&](int number, GraphStep to) {
-            return drawing.nodes.at(neighbour(drawing, nodeOf(drawing, number, {}), to)).number;
+            return drawing.nodes.at(neighbour(drawing, nodeOf(drawing, number), to)).number;
         };
         QCOMPARE(step(1, GraphStep::Downstream), 2);
         QCOMPARE(step(2, GraphStep::After), 3);

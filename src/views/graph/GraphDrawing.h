@@ -23,6 +23,8 @@ struct GraphNode {
     quint8 status = 0; // see ParagraphStatus
     bool fixed = false;
     bool current = false; // it is the one in the editing box
+
+    bool operator==(const GraphNode &) const = default;
 };
 
 // A reference, or several that are alike: the text of the paragraph at from names the one at to.
@@ -30,12 +32,16 @@ struct GraphNode {
 struct GraphEdge {
     int from = 0;
     int to = 0;
+
+    bool operator==(const GraphEdge &) const = default;
 };
 
 // A caption of a part of the picture, such as a layer.
 struct GraphLabel {
     QString text;
     QRectF room; // the text stands in the middle of it
+
+    bool operator==(const GraphLabel &) const = default;
 };
 
 struct GraphDrawing {
@@ -46,11 +52,13 @@ struct GraphDrawing {
     QList<GraphLabel> labels;
     QRectF bounds; // holds all nodes and labels, with a margin
     Flow flow = Flow::LeftToRight;
+
+    bool operator==(const GraphDrawing &) const = default;
 };
 
 namespace GraphSize
 {
-constexpr double NodeWidth = 54.0;
+constexpr double NodeWidth = 60.0;
 constexpr double NodeHeight = 22.0;
 constexpr double Margin = 24.0; // around the whole picture
 } // namespace GraphSize

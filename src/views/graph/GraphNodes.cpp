@@ -2,12 +2,16 @@
 
 #include "views/ParagraphStatuses.h"
 
+#include <QCoreApplication>
+#include <QStringList>
 #include <cmath>
 #include <limits>
 #include <tuple>
 
 namespace
 {
+constexpr double FarAway = 1e9; // more than any picture is high
+
 // Of those offered, the one with the least cost; the first one offered when nothing else is.
 class Nearest
 {
@@ -24,6 +28,16 @@ private:
     int m_node;
     double m_cost = std::numeric_limits<double>::infinity();
 };
+
+double distance(const QPointF &one, const QPointF &other)
+{
+    return std::hypot(one.x() - other.x(), one.y() - other.y());
+}
+
+bool isShownElsewhere(const GraphNode &node)
+{
+    return node.kind == GraphNode::Kind::Shown;
+}
 
 double across(const GraphDrawing &drawing, int node)
 {
@@ -44,7 +58,6 @@ int besideOf(const GraphDrawing &drawing, int node, int sign)
 
 int alongOf(const GraphDrawing &drawing, int node, int sign)
 {
-    constexpr double farAway = 1e9; // more than any picture is high
     Nearest nearest(node);
     const int layer = drawing.nodes.at(node).layer;
     for (const GraphEdge &edge : drawing.edges) {
@@ -53,7 +66,7 @@ int alongOf(const GraphDrawing &drawing, int node, int sign)
         const int other = edge.from == node ? edge.to : edge.from;
         const int layers = sign * (drawing.nodes.at(other).layer - layer);
         if (layers > 0)
-            nearest.offer(other, (layers - 1) * farAway +
+            nearest.offer(other, (layers - 1) * FarAway +
                                      std::abs(across(drawing, other) - across(drawing, node)));
     }
     return nearest.node();
@@ -85,16 +98,60 @@ int nodeAt(const GraphDrawing &drawing, const QPointF &point)
     return -1;
 }
 
-int nodeOf(const GraphDrawing &drawing, int number, const QPointF &nearTo)
+int nodeOf(const GraphDrawing &drawing, int number)
+{
+    for (int i = 0; i < drawing.nodes.size(); ++i)
+        if (drawing.nodes.at(i).number == number && !isShownElsewhere(drawing.nodes.at(i)))
+            return i;
+    return -1;
+}
+
+int nodeLike(const GraphDrawing &drawing, const GraphNode &node)
 {
     Nearest nearest(-1);
     for (int i = 0; i < drawing.nodes.size(); ++i) {
-        if (drawing.nodes.at(i).number != number)
-            continue;
-        const QPointF away = drawing.nodes.at(i).centre - nearTo;
-        nearest.offer(i, std::hypot(away.x(), away.y()));
+        const GraphNode &other = drawing.nodes.at(i);
+        const bool alike = isShownElsewhere(other) == isShownElsewhere(node);
+        if (other.number == node.number)
+            nearest.offer(i, distance(other.centre, node.centre) + (alike ? 0 : FarAway));
     }
     return nearest.node();
+}
+
+int nodeNearest(const GraphDrawing &drawing, const QPointF &point)
+{
+    Nearest nearest(-1);
+    for (int i = 0; i < drawing.nodes.size(); ++i)
+        nearest.offer(i, distance(drawing.nodes.at(i).centre, point));
+    return nearest.node();
+}
+
+QString kindName(GraphNode::Kind kind)
+{
+    switch (kind) {
+    case GraphNode::Kind::Shown:
+        return QCoreApplication::translate("GraphNodes", "déjà montré ailleurs");
+    case GraphNode::Kind::Stopped:
+        return QCoreApplication::translate("GraphNodes", "point d'arrêt");
+    case GraphNode::Kind::Cut:
+        return QCoreApplication::translate("GraphNodes", "suite au-delà de la profondeur");
+    default:
+        return {};
+    }
+}
+
+QString nodeTip(const GraphNode &node)
+{
+    QStringList words{statusName(node.status)};
+    if (node.current)
+        words.append(QCoreApplication::translate("GraphNodes", "actuel"));
+    if (node.fixed)
+        words.append(QCoreApplication::translate("GraphNodes", "fixe"));
+    if (node.kind != GraphNode::Kind::Whole)
+        words.append(kindName(node.kind));
+    return QCoreApplication::translate("GraphNodes", "%1 : %2")
+        .arg(node.number)
+        .arg(words.join(QStringLiteral(", ")));
 }
 
 int neighbour(const GraphDrawing &drawing, int node, GraphStep step)

@@ -5,7 +5,8 @@
 
 namespace
 {
-constexpr double ColumnPitch = GraphSize::NodeWidth + 76.0;
+constexpr double LeastColumnPitch = GraphSize::NodeWidth + 76.0;
+constexpr double MostColumnPitch = GraphSize::NodeWidth + 246.0;
 constexpr double SiblingPitch = GraphSize::NodeHeight + 6.0;
 constexpr double StrangerPitch = GraphSize::NodeHeight + 14.0; // of children of two parents
 
@@ -155,6 +156,14 @@ void Across::spread(int parent)
     }
 }
 
+// A high tree has room between its columns, so that curves to the highest and lowest children are
+// told apart.
+double columnPitch(const std::vector<double> &places, int columns)
+{
+    const auto [least, most] = std::minmax_element(places.begin(), places.end());
+    return std::clamp((*most - *least) / std::max(columns, 1), LeastColumnPitch, MostColumnPitch);
+}
+
 QRectF boundsOf(const QList<GraphNode> &nodes)
 {
     QRectF bounds;
@@ -170,7 +179,8 @@ GraphDrawing layOutTree(const QList<TreeNode> &tree, TreeRequest::Way way)
 {
     const bool forward = way == TreeRequest::Way::Forward;
     const std::vector<double> places = Across(tree).places();
-    const int deepest = tree.isEmpty() ? 0 : tree.last().depth;
+    const int deepest = tree.last().depth;
+    const double pitch = columnPitch(places, deepest);
     GraphDrawing drawing;
     drawing.nodes.reserve(tree.size());
     for (int i = 0; i < tree.size(); ++i) {
@@ -178,7 +188,7 @@ GraphDrawing layOutTree(const QList<TreeNode> &tree, TreeRequest::Way way)
         GraphNode drawn;
         drawn.number = node.number;
         drawn.layer = forward ? node.depth : deepest - node.depth;
-        drawn.centre = {drawn.layer * ColumnPitch, places.at(static_cast<std::size_t>(i))};
+        drawn.centre = {drawn.layer * pitch, places.at(static_cast<std::size_t>(i))};
         drawn.kind = node.kind;
         drawing.nodes.append(drawn);
         if (node.parent >= 0)

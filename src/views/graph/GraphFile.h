@@ -1,0 +1,26 @@
+#pragma once
+
+#include "views/graph/GraphDrawing.h"
+
+#include <QByteArray>
+
+struct Variables;
+
+// A picture of references as a file, dark on white, without what an author points at.
+
+// An SVG document of the picture's size.
+QByteArray graphSvg(const GraphDrawing &drawing, const QString &title);
+
+struct GraphPng {
+    QByteArray bytes;
+    double scale; // 1, or less where the image would be too large: see its bounds
+};
+constexpr int MostPixelsASide = 16000;
+constexpr double MostPixels = 40e6;
+GraphPng graphPng(const GraphDrawing &drawing);
+
+// Writes the picture as an image where the name ends in ".png", else as an SVG document, and gives
+// the scale. Throws FileError, also when the file is one of the adventure's own; what was there
+// before still is.
+double saveGraph(const Variables &variables, const GraphDrawing &drawing, const QString &path,
+                 const QString &title);

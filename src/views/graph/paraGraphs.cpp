@@ -1,0 +1,252 @@
+#include "views/graph/paraGraphs.h"
+
+#include "platform/Guarded.h"
+#include "store/AdventureEvents.h"
+#include "store/ExportTarget.h"
+#include "ui_paraGraphs.h"
+#include "views/PreviewText.h"
+#include "views/graph/GraphFile.h"
+#include "views/graph/GraphNodes.h"
+#include "views/graph/ReferenceWeb.h"
+#include "views/graph/TreeLayout.h"
+#include "views/graph/TypedNumber.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <algorithm>
+
+paraGraphs::paraGraphs(const Variables &variables, Prompts &prompts)
+    : m_variables(variables), m_prompts(prompts), m_ui(std::make_unique<Ui::paraGraphs>())
+{
+    m_ui->setupUi(this);
+    NumberBox::connectBeeps(*this, prompts);
+    m_computing.setSingleShot(true);
+    m_computing.setInterval(0);
+    connectGuarded(&m_computing, &QTimer::timeout, this, prompts, [this] { compute(); });
+    m_ui->spinDepth->setMaximum(TreeRequest::MostDepth);
+    connectControls();
+    connectGraph();
+    connectSaving();
+    follow();
+    forgetPreview();
+}
+
+paraGraphs::~paraGraphs() = default;
+
+void paraGraphs::connectControls()
+{
+    connect(m_ui->comboView, &QComboBox::currentIndexChanged, this,
+            [this] { computeSoon(GraphCanvas::Place::Begin); });
+    connect(m_ui->spinDepth, &QSpinBox::valueChanged, this,
+            [this] { computeSoon(GraphCanvas::Place::Kept); });
+    connect(m_ui->stops, &StopPanel::changed, this,
+            [this] { computeSoon(GraphCanvas::Place::Kept); });
+    connect(m_ui->txtStart, &QLineEdit::returnPressed, this, &paraGraphs::txtStart_Enter);
+    connect(m_ui->txtFind, &QLineEdit::returnPressed, this, &paraGraphs::txtFind_Enter);
+    connect(m_ui->btnClose, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void paraGraphs::connectGraph()
+{
+    GraphCanvas *graph = m_ui->graph;
+    connectGuarded(m_ui->btnFit, &QPushButton::clicked, this, m_prompts, [graph] { graph->fit(); });
+    connect(m_ui->btnZoomIn, &QPushButton::clicked, graph, &GraphCanvas::zoomIn);
+    connect(m_ui->btnZoomOut, &QPushButton::clicked, graph, &GraphCanvas::zoomOut);
+    connect(graph, &GraphCanvas::previewWanted, this, &paraGraphs::preview);
+    connect(graph, &GraphCanvas::wanted, this, &paraGraphs::wanted);
+    connect(graph, &GraphCanvas::startWanted, this, &paraGraphs::setStart);
+    connect(graph, &GraphCanvas::stopWanted, m_ui->stops, &StopPanel::toggle);
+    connect(graph, &GraphCanvas::menuWanted, this, &paraGraphs::showMenu);
+    connect(graph, &GraphCanvas::scaleChanged, this, &paraGraphs::showCount);
+}
+
+void paraGraphs::connectSaving()
+{
+    connectGuarded(m_ui->btnSvg, &QPushButton::clicked, this, m_prompts,
+                   [this] { save(QStringLiteral("svg"), tr("Dessins SVG")); });
+    connectGuarded(m_ui->btnPng, &QPushButton::clicked, this, m_prompts,
+                   [this] { save(QStringLiteral("png"), tr("Images PNG")); });
+}
+
+void paraGraphs::follow()
+{
+    m_ui->stops->follow(m_variables, m_prompts);
+    const AdventureEvents *events = m_variables.Events.get();
+    const auto again = [this] { computeSoon(GraphCanvas::Place::Kept); };
+    connect(events, &AdventureEvents::paragraphSaved, this, again);
+    connect(events, &AdventureEvents::textsChanged, this, again);
+    connect(events, &AdventureEvents::marksChanged, this, again);
+    connect(events, &AdventureEvents::targetPhraseChanged, this, again);
+    connect(events, &AdventureEvents::numbersChanged, this,
+            [this, again](const ParagraphArray<qint16, 2001> &newNumbers) {
+                m_start = newNumbers.at(m_start);
+                if (m_previewed)
+                    m_previewed = newNumbers.at(*m_previewed);
+                again();
+            });
+    connect(events, &AdventureEvents::adventureReplaced, this, [this] {
+        forgetPreview();
+        setStart(m_variables.CurrentParagraph);
+    });
+}
+
+paraGraphs::View paraGraphs::view() const
+{
+    return static_cast<View>(m_ui->comboView->currentIndex());
+}
+
+void paraGraphs::showCurrent()
+{
+    setStart(m_variables.CurrentParagraph);
+    const QWidget *asker = QApplication::activeWindow();
+    if (!isVisible() && asker != nullptr)
+        move(asker->geometry().center() - rect().center());
+    show();
+    raise();
+    activateWindow();
+    m_ui->graph->setFocus();
+}
+
+void paraGraphs::setStart(int n)
+{
+    m_start = n;
+    computeSoon(GraphCanvas::Place::Begin);
+}
+
+// A new beginning that is still to be shown is not lost to a change behind it.
+void paraGraphs::computeSoon(GraphCanvas::Place place)
+{
+    if (!m_due || place == GraphCanvas::Place::Begin)
+        m_place = place;
+    m_due = true;
+    if (isVisible())
+        m_computing.start();
+}
+
+void paraGraphs::compute()
+{
+    m_due = false;
+    m_ui->txtStart->setText(QString::number(m_start));
+    m_current = m_variables.CurrentParagraph;
+    const GraphDrawing computed = drawing();
+    if (m_place == GraphCanvas::Place::Begin || computed != m_ui->graph->drawing())
+        m_ui->graph->setDrawing(computed, m_place, m_start);
+    if (m_previewed)
+        preview(*m_previewed);
+    showCount();
+}
+
+GraphDrawing paraGraphs::drawing() const
+{
+    const ReferenceWeb web(m_variables);
+    const auto way =
+        view() == View::Forward ? TreeRequest::Way::Forward : TreeRequest::Way::Backward;
+    GraphDrawing drawing = layOutTree(
+        referenceTree(web, {m_start, way, m_ui->spinDepth->value(), m_ui->stops->stops()}), way);
+    describeNodes(drawing, m_variables);
+    return drawing;
+}
+
+void paraGraphs::showCount()
+{
+    const GraphDrawing &drawing = m_ui->graph->drawing();
+    const auto whole =
+        std::count_if(drawing.nodes.begin(), drawing.nodes.end(),
+                      [](const GraphNode &node) { return node.kind != GraphNode::Kind::Shown; });
+    m_ui->labCount->setText(tr("Paragraphes : %1   Renvois : %2   Échelle : %3 %")
+                                .arg(whole)
+                                .arg(drawing.edges.size())
+                                .arg(qRound(m_ui->graph->view().scale * 100)));
+}
+
+void paraGraphs::followEditor()
+{
+    if (m_current == m_variables.CurrentParagraph)
+        return;
+    m_current = m_variables.CurrentParagraph;
+    if (!m_due)
+        m_ui->graph->redescribe(m_variables);
+}
+
+void paraGraphs::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_due)
+        m_computing.start();
+}
+
+void paraGraphs::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void paraGraphs::txtStart_Enter()
+{
+    if (const std::optional<int> n = typedParagraph(m_ui->txtStart->text())) {
+        setStart(*n);
+    } else {
+        m_prompts.beep();
+        m_ui->txtStart->setText(QString::number(m_start));
+    }
+    m_ui->txtStart->selectAll();
+}
+
+void paraGraphs::txtFind_Enter()
+{
+    const std::optional<int> n = typedParagraph(m_ui->txtFind->text());
+    if (n && m_ui->graph->find(*n)) {
+        preview(*n);
+    } else {
+        m_prompts.beep();
+        if (n)
+            m_ui->labCount->setText(tr("Le paragraphe %1 n'est pas dans ce graphe.").arg(*n));
+    }
+    m_ui->txtFind->selectAll();
+}
+
+void paraGraphs::preview(int n)
+{
+    m_previewed = n;
+    m_ui->labPreview->setText(tr("Paragraphe %1").arg(n));
+    m_ui->txtPreview->setPlainText(previewText(m_variables, n));
+}
+
+void paraGraphs::forgetPreview()
+{
+    m_previewed.reset();
+    m_ui->labPreview->setText(tr("Aperçu"));
+    m_ui->txtPreview->setPlainText(tr("Cliquez sur un paragraphe pour lire un aperçu.\n"
+                                      "Shift-cliquez pour vous rendre à ce paragraphe.\n"
+                                      "Double-cliquez pour en faire le départ."));
+}
+
+// A key that stands behind a tabulator is shown as such; the graph answers it itself.
+void paraGraphs::showMenu(int n, const QPoint &place)
+{
+    QMenu menu;
+    const bool stopped = m_ui->stops->stops().contains(n);
+    menu.addAction(tr("&Départ ici\tEntrée"), this, [this, n] { setStart(n); });
+    menu.addAction(tr("&Aller dans l'éditeur\tMaj+Entrée"), this, [this, n] { Q_EMIT wanted(n); });
+    menu.addAction(tr("A&perçu\tEspace"), this, [this, n] { preview(n); });
+    menu.addAction(stopped ? tr("&Retirer le point d'arrêt\tA") : tr("&Point d'arrêt\tA"), this,
+                   [this, n] { m_ui->stops->toggle(n); });
+    menu.exec(place);
+}
+
+void paraGraphs::save(const QString &extension, const QString &kind)
+{
+    const QString pattern = QStringLiteral("*.") + extension;
+    const QString path = m_prompts.saveName(
+        tr("Enregistrer le Graphe"), QStringLiteral("%1 (%2)|%2").arg(kind, pattern), extension,
+        tr("%1 %2").arg(proposedName(m_variables)).arg(m_start));
+    if (path.isEmpty())
+        return;
+    const double scale = saveGraph(m_variables, m_ui->graph->drawing(), path, windowTitle());
+    m_ui->labCount->setText(
+        scale < 1 ? tr("Enregistré, réduit à %1 % : %2").arg(scale * 100, 0, 'f', 1).arg(path)
+                  : tr("Enregistré : %1").arg(path));
+}

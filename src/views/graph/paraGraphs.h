@@ -1,0 +1,74 @@
+#pragma once
+
+#include "platform/Prompts.h"
+#include "store/Variables.h"
+#include "views/graph/GraphCanvas.h"
+#include "views/graph/ReferenceTree.h"
+
+#include <QTimer>
+#include <QWidget>
+#include <memory>
+#include <optional>
+
+namespace Ui
+{
+class paraGraphs;
+}
+
+// Shows what leads where in the adventure, as a picture that the author moves about in and saves.
+// It is a window like the main one and stays open beside it. What it shows follows the adventure,
+// but is computed only while it is seen.
+class paraGraphs : public QWidget
+{
+    Q_OBJECT
+
+public:
+    paraGraphs(const Variables &variables, Prompts &prompts);
+    ~paraGraphs() override;
+
+    // Comes to the front, with the tree that begins at the current paragraph.
+    void showCurrent();
+
+    // The editing box may show another paragraph.
+    void followEditor();
+
+Q_SIGNALS:
+    // The author wants to see this paragraph in the editing box.
+    void wanted(int n);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    enum class View { Forward, Backward };
+
+    View view() const;
+    void connectControls();
+    void connectGraph();
+    void connectSaving();
+    void follow();
+
+    void computeSoon(GraphCanvas::Place place);
+    void compute();
+    GraphDrawing drawing() const;
+    void showCount();
+
+    void setStart(int n);
+    void txtStart_Enter();
+    void txtFind_Enter();
+    void preview(int n);
+    void forgetPreview();
+    void showMenu(int n, const QPoint &place);
+    void save(const QString &extension, const QString &kind);
+
+    const Variables &m_variables;
+    Prompts &m_prompts;
+    std::unique_ptr<Ui::paraGraphs> m_ui;
+    int m_start = 1;
+    int m_current = 1; // as the picture shows it
+    std::optional<int> m_previewed;
+    QTimer m_computing; // once the event loop has nothing else to do
+    bool m_due = true;
+    GraphCanvas::Place m_place = GraphCanvas::Place::Begin; // of what is computed next
+};
