@@ -6,6 +6,7 @@
 #include "views/grid/paraGrid.h"
 
 #include <QPixmap>
+#include <functional>
 
 namespace
 {

@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <optional>
 
+class QHelpEvent;
 class QScrollBar;
 
 // The cells of the grid as they are painted, pointed at and gone through with keys.
