@@ -91,6 +91,18 @@ private Q_SLOTS:
         QVERIFY(fixed.fixed && !fixed.current && graphs.canvas().drawing().nodes.at(0).current);
     }
 
+    void theBookBeginsForItself()
+    {
+        Graphs graphs(Book, 3);
+        auto &views = child<QComboBox>(*graphs.window, "comboView");
+        views.setCurrentIndex(2);
+        QCOMPARE(graphs.nodes(), "1 2 3 4 5 6");
+        graphs.enter("txtStart", "2");
+        QCOMPARE(graphs.nodes(), "2 4 5 1 6 3");
+        views.setCurrentIndex(0);
+        QCOMPARE(graphs.nodes(), "3 2 4 5");
+    }
+
     void followsTheAdventure()
     {
         Graphs graphs(Book);

@@ -45,11 +45,17 @@ double across(const GraphDrawing &drawing, int node)
     return drawing.flow == GraphDrawing::Flow::LeftToRight ? centre.y() : centre.x();
 }
 
+// A layer of several columns is gone through row by row.
 int besideOf(const GraphDrawing &drawing, int node, int sign)
 {
+    constexpr double rowsBeforeColumns = 1e6; // more than any layer is wide
+    const auto place = [&](int i) {
+        const QPointF &centre = drawing.nodes.at(i).centre;
+        return across(drawing, i) * rowsBeforeColumns + centre.x() + centre.y();
+    };
     Nearest nearest(node);
     for (int i = 0; i < drawing.nodes.size(); ++i) {
-        const double distance = sign * (across(drawing, i) - across(drawing, node));
+        const double distance = sign * (place(i) - place(node));
         if (drawing.nodes.at(i).layer == drawing.nodes.at(node).layer && distance > 0)
             nearest.offer(i, distance);
     }

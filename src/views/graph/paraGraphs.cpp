@@ -5,6 +5,7 @@
 #include "store/ExportTarget.h"
 #include "ui_paraGraphs.h"
 #include "views/PreviewText.h"
+#include "views/graph/BookLayout.h"
 #include "views/graph/GraphFile.h"
 #include "views/graph/GraphNodes.h"
 #include "views/graph/ReferenceWeb.h"
@@ -36,8 +37,7 @@ paraGraphs::~paraGraphs() = default;
 
 void paraGraphs::connectControls()
 {
-    connect(m_ui->comboView, &QComboBox::currentIndexChanged, this,
-            [this] { computeSoon(GraphCanvas::Place::Begin); });
+    connect(m_ui->comboView, &QComboBox::currentIndexChanged, this, &paraGraphs::showView);
     connect(m_ui->spinDepth, &QSpinBox::valueChanged, this,
             [this] { computeSoon(GraphCanvas::Place::Kept); });
     connect(m_ui->stops, &StopPanel::changed, this,
@@ -81,13 +81,17 @@ void paraGraphs::follow()
     connect(events, &AdventureEvents::numbersChanged, this,
             [this, again](const ParagraphArray<qint16, 2001> &newNumbers) {
                 m_start = newNumbers.at(m_start);
+                m_focus = newNumbers.at(m_focus);
+                if (m_bookStart)
+                    m_bookStart = newNumbers.at(*m_bookStart);
                 if (m_previewed)
                     m_previewed = newNumbers.at(*m_previewed);
                 again();
             });
     connect(events, &AdventureEvents::adventureReplaced, this, [this] {
         forgetPreview();
-        setStart(m_variables.CurrentParagraph);
+        m_bookStart.reset();
+        beginAtCurrent();
     });
 }
 
@@ -96,9 +100,14 @@ paraGraphs::View paraGraphs::view() const
     return static_cast<View>(m_ui->comboView->currentIndex());
 }
 
+int paraGraphs::start() const
+{
+    return view() == View::Book ? m_bookStart.value_or(m_variables.LowestWritten) : m_start;
+}
+
 void paraGraphs::showCurrent()
 {
-    setStart(m_variables.CurrentParagraph);
+    beginAtCurrent();
     const QWidget *asker = QApplication::activeWindow();
     if (!isVisible() && asker != nullptr)
         move(asker->geometry().center() - rect().center());
@@ -108,9 +117,32 @@ void paraGraphs::showCurrent()
     m_ui->graph->setFocus();
 }
 
+// A tree begins there; in the book one finds it.
+void paraGraphs::beginAtCurrent()
+{
+    m_start = m_variables.CurrentParagraph;
+    m_focus = m_start;
+    computeSoon(GraphCanvas::Place::Begin);
+}
+
 void paraGraphs::setStart(int n)
 {
-    m_start = n;
+    if (view() == View::Book)
+        m_bookStart = n;
+    else
+        m_start = n;
+    m_focus = n;
+    computeSoon(GraphCanvas::Place::Begin);
+}
+
+// The book has no depth, and stops nowhere.
+void paraGraphs::showView()
+{
+    const bool tree = view() != View::Book;
+    m_ui->spinDepth->setEnabled(tree);
+    m_ui->stops->setEnabled(tree);
+    if (tree)
+        m_focus = m_start;
     computeSoon(GraphCanvas::Place::Begin);
 }
 
@@ -127,11 +159,11 @@ void paraGraphs::computeSoon(GraphCanvas::Place place)
 void paraGraphs::compute()
 {
     m_due = false;
-    m_ui->txtStart->setText(QString::number(m_start));
+    m_ui->txtStart->setText(QString::number(start()));
     m_current = m_variables.CurrentParagraph;
     const GraphDrawing computed = drawing();
     if (m_place == GraphCanvas::Place::Begin || computed != m_ui->graph->drawing())
-        m_ui->graph->setDrawing(computed, m_place, m_start);
+        m_ui->graph->setDrawing(computed, m_place, m_focus);
     if (m_previewed)
         preview(*m_previewed);
     showCount();
@@ -140,10 +172,14 @@ void paraGraphs::compute()
 GraphDrawing paraGraphs::drawing() const
 {
     const ReferenceWeb web(m_variables);
-    const auto way =
-        view() == View::Forward ? TreeRequest::Way::Forward : TreeRequest::Way::Backward;
-    GraphDrawing drawing = layOutTree(
-        referenceTree(web, {m_start, way, m_ui->spinDepth->value(), m_ui->stops->stops()}), way);
+    const auto tree = [&](TreeRequest::Way way) {
+        return layOutTree(
+            referenceTree(web, {m_start, way, m_ui->spinDepth->value(), m_ui->stops->stops()}),
+            way);
+    };
+    GraphDrawing drawing = view() == View::Book      ? layOutBook(m_variables, web, start())
+                           : view() == View::Forward ? tree(TreeRequest::Way::Forward)
+                                                     : tree(TreeRequest::Way::Backward);
     describeNodes(drawing, m_variables);
     return drawing;
 }
@@ -190,7 +226,7 @@ void paraGraphs::txtStart_Enter()
         setStart(*n);
     } else {
         m_prompts.beep();
-        m_ui->txtStart->setText(QString::number(m_start));
+        m_ui->txtStart->setText(QString::number(start()));
     }
     m_ui->txtStart->selectAll();
 }
@@ -242,7 +278,7 @@ void paraGraphs::save(const QString &extension, const QString &kind)
     const QString pattern = QStringLiteral("*.") + extension;
     const QString path = m_prompts.saveName(
         tr("Enregistrer le Graphe"), QStringLiteral("%1 (%2)|%2").arg(kind, pattern), extension,
-        tr("%1 %2").arg(proposedName(m_variables)).arg(m_start));
+        tr("%1 %2").arg(proposedName(m_variables)).arg(start()));
     if (path.isEmpty())
         return;
     const double scale = saveGraph(m_variables, m_ui->graph->drawing(), path, windowTitle());
