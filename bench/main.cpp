@@ -3,6 +3,7 @@
 #include "BigAdventure.h"
 #include "CompilationFigures.h"
 #include "ConvertFigures.h"
+#include "GraphFigures.h"
 #include "MergeFigures.h"
 #include "ReferenceFigures.h"
 #include "RenumberFigures.h"

@@ -43,6 +43,9 @@ struct CommandEntry {
     QByteArray (*run)(CommandServices &, const QStringList &);
 };
 
+// The number 0..2000 that a word is; throws UsageError for any other word.
+int paragraphNumber(const QString &word);
+
 // Of the number n alone.
 QByteArray numberLine(int n);
 

@@ -1,5 +1,6 @@
 #include "outil/Commands.h"
 
+#include "outil/Script.h"
 #include "store/AdventureChanges.h"
 #include "store/ParagraphStore.h"
 
@@ -40,6 +41,15 @@ QByteArray CommandServices::shownAgain(bool done)
     if (done)
         view.LoadParg(variables.CurrentParagraph);
     return {};
+}
+
+int paragraphNumber(const QString &word)
+{
+    bool ok = false;
+    const int n = word.toInt(&ok);
+    if (!ok || n < 0 || n > Variables::LastParagraph)
+        throw UsageError(Commands::tr("numéro de paragraphe de 0 à 2000 attendu : %1").arg(word));
+    return n;
 }
 
 QByteArray numberLine(int n)

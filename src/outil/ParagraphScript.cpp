@@ -15,15 +15,6 @@
 
 namespace
 {
-int paragraphNumber(const QString &word)
-{
-    bool ok = false;
-    const int n = word.toInt(&ok);
-    if (!ok || n < 0 || n > Variables::LastParagraph)
-        throw UsageError(Commands::tr("numéro de paragraphe de 0 à 2000 attendu : %1").arg(word));
-    return n;
-}
-
 void replaceParagraph(CommandServices &script, int n,
                       const std::function<void(RichTextBox &)> &change)
 {

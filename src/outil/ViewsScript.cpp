@@ -1,7 +1,14 @@
 #include "outil/CommandEntry.h"
 #include "outil/Commands.h"
+#include "outil/Script.h"
 #include "renumber/ProximityLines.h"
 #include "store/LenientNumbers.h"
+#include "views/graph/GraphFile.h"
+#include "views/graph/GraphNodes.h"
+#include "views/graph/ReferenceTree.h"
+#include "views/graph/ReferenceWeb.h"
+#include "views/graph/TreeLayout.h"
+#include "views/graph/TreeLines.h"
 #include "views/grid/GridCell.h"
 
 namespace
@@ -31,6 +38,34 @@ QByteArray grille(CommandServices &script, const QStringList & /*arguments*/)
     }
     return lines;
 }
+
+TreeRequest treeRequest(const QStringList &arguments)
+{
+    TreeRequest request;
+    request.start = paragraphNumber(arguments.at(0));
+    if (arguments.at(1) == QStringLiteral("arriere"))
+        request.way = TreeRequest::Way::Backward;
+    else if (arguments.at(1) != QStringLiteral("avant"))
+        throw UsageError(Commands::tr("avant ou arriere attendu : %1").arg(arguments.at(1)));
+    bool ok = false;
+    request.depth = arguments.at(2).toInt(&ok);
+    if (!ok || request.depth < 1 || request.depth > TreeRequest::MostDepth)
+        throw UsageError(Commands::tr("profondeur de 1 à 25 attendue : %1").arg(arguments.at(2)));
+    return request;
+}
+
+QByteArray arbre(CommandServices &script, const QStringList &arguments)
+{
+    const TreeRequest request = treeRequest(arguments);
+    const QList<TreeNode> tree = referenceTree(ReferenceWeb(script.variables), request);
+    if (arguments.size() < 4)
+        return treeLines(tree, script.variables).join(u'\n').toUtf8() + '\n';
+    GraphDrawing drawing = layOutTree(tree, request.way);
+    describeNodes(drawing, script.variables);
+    saveGraph(script.variables, drawing, arguments.at(3),
+              graphName(script.variables, request.start));
+    return {};
+}
 } // namespace
 
 std::vector<CommandEntry> viewsEntries()
@@ -40,7 +75,10 @@ std::vector<CommandEntry> viewsEntries()
          QT_TRANSLATE_NOOP("Commands", "écrit ce qu'est chaque numéro : 0 à 5, en mots, et Fixe"),
          true, &grille},
         {"proximite", "P",
-         QT_TRANSLATE_NOOP("Commands", "écrit les renvois trop proches, à P numéros ou moins"), true,
-         &proximite},
+         QT_TRANSLATE_NOOP("Commands", "écrit les renvois trop proches, à P numéros ou moins"),
+         true, &proximite},
+        {"arbre", "N avant|arriere PROFONDEUR [FICHIER.svg]",
+         QT_TRANSLATE_NOOP("Commands", "écrit où mène N, ou ce qui y mène, en lignes ou en dessin"),
+         true, &arbre},
     };
 }

@@ -171,6 +171,36 @@ melanger 4 9
         QVERIFY(refused.errors.contains(QStringLiteral("ne fait aucun sens.")));
     }
 
+    void treesAreListedAndDrawn()
+    {
+        TestAdventure adventure;
+        const QByteArray open = "ouvrir '" +
+                                adventure
+                                    .file(QStringLiteral("a.usm"),
+                                          AdventureBuilder({QStringLiteral("1: Va au 2 ou au 9"),
+                                                            QStringLiteral("2: Va au 1")})
+                                              .list(1, "0002/0009/")
+                                              .list(2, "0001/")
+                                              .bytes())
+                                    .toUtf8() +
+                                "'\n";
+        const QString drawing = adventure.path(QStringLiteral("a.svg"));
+        const Outcome outcome = run(adventure, {},
+                                    open + "arbre 1 avant 3\narbre 9 arriere 1\n" +
+                                        "arbre 1 avant 3 " + drawing.toUtf8());
+        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(QString::fromUtf8(outcome.output),
+                 QStringLiteral("0\t1\tTapé\n1\t2\tTapé\n2\t1\tTapé\tdéjà montré ailleurs\n"
+                                "1\t9\tRéservé\n0\t9\tRéservé\n"
+                                "1\t1\tTapé\tsuite au-delà de la profondeur\n"));
+        QVERIFY(adventure.content(QStringLiteral("a.svg")).contains("<svg"));
+        for (const char *wrong : {"x avant 3", "1 avent 3", "1 avant 0", "1 avant 26"})
+            QCOMPARE(run(adventure, {}, open + "arbre " + wrong).status, 2);
+        QCOMPARE(
+            run(adventure, {}, open + "arbre 1 avant 3 " + adventure.path("a.usm").toUtf8()).status,
+            1);
+    }
+
     void textsAreSearchedReplacedAndFormatted()
     {
         TestAdventure adventure;

@@ -64,6 +64,11 @@ GraphPng graphPng(const GraphDrawing &drawing)
     return png;
 }
 
+QString graphName(const Variables &variables, int start)
+{
+    return proposedName(variables) + u' ' + QString::number(start);
+}
+
 double saveGraph(const Variables &variables, const GraphDrawing &drawing, const QString &path,
                  const QString &title)
 {

@@ -19,6 +19,9 @@ constexpr int MostPixelsASide = 16000;
 constexpr double MostPixels = 40e6;
 GraphPng graphPng(const GraphDrawing &drawing);
 
+// What a picture of the open adventure from a start on is called: "Le Loup 12".
+QString graphName(const Variables &variables, int start);
+
 // Writes the picture as an image where the name ends in ".png", else as an SVG document, and gives
 // the scale. Throws FileError, also when the file is one of the adventure's own; what was there
 // before still is.

@@ -2,7 +2,6 @@
 
 #include "platform/Guarded.h"
 #include "store/AdventureEvents.h"
-#include "store/ExportTarget.h"
 #include "ui_paraGraphs.h"
 #include "views/PreviewText.h"
 #include "views/graph/BookLayout.h"
@@ -276,12 +275,13 @@ void paraGraphs::showMenu(int n, const QPoint &place)
 void paraGraphs::save(const QString &extension, const QString &kind)
 {
     const QString pattern = QStringLiteral("*.") + extension;
-    const QString path = m_prompts.saveName(
-        tr("Enregistrer le Graphe"), QStringLiteral("%1 (%2)|%2").arg(kind, pattern), extension,
-        tr("%1 %2").arg(proposedName(m_variables)).arg(start()));
+    const QString path = m_prompts.saveName(tr("Enregistrer le Graphe"),
+                                            QStringLiteral("%1 (%2)|%2").arg(kind, pattern),
+                                            extension, graphName(m_variables, start()));
     if (path.isEmpty())
         return;
-    const double scale = saveGraph(m_variables, m_ui->graph->drawing(), path, windowTitle());
+    const double scale =
+        saveGraph(m_variables, m_ui->graph->drawing(), path, graphName(m_variables, start()));
     m_ui->labCount->setText(
         scale < 1 ? tr("Enregistré, réduit à %1 % : %2").arg(scale * 100, 0, 'f', 1).arg(path)
                   : tr("Enregistré : %1").arg(path));
