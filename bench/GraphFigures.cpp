@@ -9,8 +9,10 @@
 #include "views/graph/TreeLayout.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QImage>
 #include <QMouseEvent>
+#include <QTimer>
 #include <functional>
 
 namespace
@@ -52,6 +54,13 @@ void turn(GraphCanvas &canvas, int angle)
     QCoreApplication::sendEvent(&canvas, &event);
 }
 
+void letScaleSettle()
+{
+    QEventLoop loop;
+    QTimer::singleShot(200, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 void printMovements(const QString &name, const GraphDrawing &drawing)
 {
     GraphCanvas canvas;
@@ -69,6 +78,9 @@ void printMovements(const QString &name, const GraphDrawing &drawing)
                 Ms);
     printFrames(name + QStringLiteral(", a frame while zooming"), canvas,
                 [&](int frame) { turn(canvas, frame < Frames / 2 ? 30 : -30); });
+    letScaleSettle();
+    printFrames(name + QStringLiteral(", a frame while it becomes sharp again"), canvas,
+                [&](int /*frame*/) { QCoreApplication::processEvents(); });
     turn(canvas, 1200);
     QPointF at(Maximised.width() / 2.0, Maximised.height() / 2.0);
     send(canvas, QEvent::MouseButtonPress, at, Qt::LeftButton);

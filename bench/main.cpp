@@ -40,6 +40,7 @@ int main(int argc, char *argv[])
     printConvertFigures(path, folder.path());
     printTypingFigures(path, folder.path());
     printReferenceFigures(path, folder.path());
+    printGraphFigures(path, folder.path());
     printViewsFigures(path, folder.path());
     printWindowFigures(path, folder.path());
     return 0;

@@ -13,7 +13,7 @@ namespace
 constexpr double ZoomStep = 1.25;  // a key, or a notch of the wheel
 constexpr double NotchAngle = 120; // in Qt's eighths of a degree
 constexpr int Settled = 80;        // milliseconds after which the scale has come to rest
-constexpr int TilesTime = 8;       // milliseconds for tiles in each frame
+constexpr int TilesTime = 6;       // milliseconds for tiles in each frame
 constexpr int FirstTilesTime = 250;
 constexpr double LeastFitScale = 0.22; // the whole of a larger picture tells nothing at first
 constexpr double BeginScale = 0.6;     // which begins like this

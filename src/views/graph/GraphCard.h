@@ -2,8 +2,9 @@
 
 #include "views/graph/GraphDrawing.h"
 
+#include <QFont>
+
 class QPainter;
-class QPointF;
 struct GraphLook;
 
 // One node as a card: a band with the colour and the letter of its status, its number, and marks.

@@ -11,27 +11,30 @@ namespace
 constexpr QSize Largest(200, 160);
 constexpr int LeastSide = 24; // of a long thin picture: wide enough to be pointed at
 constexpr int Away = 8;       // from the edges of the view
-} // namespace
 
-QRect GraphOverview::room(const GraphDrawing &drawing, const GraphView &view,
-                          const QSize &size) const
+QRect placeOf(const GraphDrawing &drawing, const QSize &size)
 {
-    const QRectF seen = view.toPicture(QRectF(QPointF(), size));
-    if (drawing.nodes.isEmpty() || seen.contains(drawing.bounds))
-        return {};
     const QSize most = Largest.boundedTo(size / 3);
     const QSize fitting = drawing.bounds.size().scaled(most, Qt::KeepAspectRatio).toSize();
     QRect room(QPoint(), fitting.expandedTo({LeastSide, LeastSide}));
     room.moveBottomRight({size.width() - Away, size.height() - Away});
     return room;
 }
+} // namespace
 
+QRect GraphOverview::room(const GraphDrawing &drawing, const GraphView &view,
+                          const QSize &size) const
+{
+    const QRectF seen = view.toPicture(QRectF(QPointF(), size));
+    const bool all = drawing.nodes.isEmpty() || seen.contains(drawing.bounds);
+    return all ? QRect() : placeOf(drawing, size);
+}
+
+// The image is made with the first painting of the picture, and no movement has to wait for it.
 void GraphOverview::paint(QPainter &painter, const GraphPainter &graph, const GraphDrawing &drawing,
                           const GraphView &view, const QSize &size)
 {
-    const QRect place = room(drawing, view, size);
-    if (place.isEmpty())
-        return;
+    const QRect place = placeOf(drawing, size);
     const double acrossScale = place.width() / drawing.bounds.width();
     const double downScale = place.height() / drawing.bounds.height();
     const double pixelRatio = painter.device()->devicePixelRatioF();
@@ -44,6 +47,8 @@ void GraphOverview::paint(QPainter &painter, const GraphPainter &graph, const Gr
         small.translate(-drawing.bounds.topLeft());
         graph.paint(small, drawing.bounds);
     }
+    if (room(drawing, view, size).isEmpty())
+        return;
     painter.drawImage(place.topLeft(), m_image);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(graph.look().edge);

@@ -12,6 +12,7 @@ namespace
 {
 constexpr double ReadableHeight = 10.0; // of a node, in the painter's pixels
 constexpr double FineScale = 0.5;       // below it curves are hairlines
+constexpr double TinyCurve = 8.0;       // in the painter's pixels: no bend is seen in it
 constexpr double LabelPixels = 13.0;
 
 QColor mixed(const QColor &one, const QColor &other, double part)
@@ -128,9 +129,17 @@ void GraphPainter::paintEdges(QPainter &painter, const QRectF &visible, double s
     }
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
-    for (const Curve &curve : m_curves)
-        if (visible.intersects(curve.box))
+    const double tiny = TinyCurve / scale;
+    QList<QLineF> lines;
+    for (const Curve &curve : m_curves) {
+        if (!visible.intersects(curve.box))
+            continue;
+        if (curve.box.width() < tiny && curve.box.height() < tiny)
+            lines.append({curve.path.pointAtPercent(0), curve.path.currentPosition()});
+        else
             painter.drawPath(curve.path);
+    }
+    painter.drawLines(lines);
 }
 
 void GraphPainter::paintLabels(QPainter &painter, const QRectF &visible) const

@@ -8,9 +8,9 @@
 
 namespace
 {
-constexpr int Side = 256;       // pixels of the view
-constexpr int KeptAround = 2;   // tiles on each side of those in sight
-constexpr qsizetype Many = 400; // 100 MB where a pixel of the view is one of the device
+constexpr int Side = 128;        // pixels of the view
+constexpr int KeptAround = 4;    // tiles on each side of those in sight
+constexpr qsizetype Many = 1600; // 100 MB where a pixel of the view is one of the device
 
 // The view's corner in pixels, on a whole one of the device: tiles are copied and not smoothed.
 QPointF cornerOf(const GraphTiles::Frame &frame)
