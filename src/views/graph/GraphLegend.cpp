@@ -4,6 +4,7 @@
 #include "views/graph/GraphCard.h"
 #include "views/graph/GraphNodes.h"
 #include "views/graph/GraphPainter.h"
+#include "views/grid/GridCell.h"
 
 #include <QPainter>
 #include <algorithm>
@@ -85,7 +86,7 @@ QList<GraphLegend::Entry> GraphLegend::entries()
     QList<Entry> entries;
     for (const quint8 status : {Written, DeadEnd, Reserved, Orphan, Current})
         entries.append({statusName(status), statusSign(status)});
-    entries.append({tr("Fixe"), paintFixedSign});
+    entries.append({fixedName(), paintFixedSign});
     using Kind = GraphNode::Kind;
     for (const Kind kind : {Kind::Shown, Kind::Stopped, Kind::Cut}) {
         QString name = kindName(kind);

@@ -1,9 +1,9 @@
 #include "views/graph/GraphNodes.h"
 
 #include "views/ParagraphStatuses.h"
+#include "views/grid/GridCell.h"
 
 #include <QCoreApplication>
-#include <QStringList>
 #include <cmath>
 #include <limits>
 #include <tuple>
@@ -148,16 +148,9 @@ QString kindName(GraphNode::Kind kind)
 
 QString nodeTip(const GraphNode &node)
 {
-    QStringList words{statusName(node.status)};
-    if (node.current)
-        words.append(QCoreApplication::translate("GraphNodes", "actuel"));
-    if (node.fixed)
-        words.append(QCoreApplication::translate("GraphNodes", "fixe"));
-    if (node.kind != GraphNode::Kind::Whole)
-        words.append(kindName(node.kind));
-    return QCoreApplication::translate("GraphNodes", "%1 : %2")
-        .arg(node.number)
-        .arg(words.join(QStringLiteral(", ")));
+    const QString words = cellWords({node.number, node.status, node.fixed, node.current});
+    return node.kind == GraphNode::Kind::Whole ? words
+                                               : words + QStringLiteral(", ") + kindName(node.kind);
 }
 
 int neighbour(const GraphDrawing &drawing, int node, GraphStep step)

@@ -25,7 +25,7 @@ int nodeNearest(const GraphDrawing &drawing, const QPointF &point);
 // In French, as legends name it; empty for Whole.
 QString kindName(GraphNode::Kind kind);
 
-// What a node is, in French and in one line: "12 : Tapé, fixe, déjà montré ailleurs".
+// What a node is, in French and in one line: "12 : Tapé, Fixe, déjà montré ailleurs".
 QString nodeTip(const GraphNode &node);
 
 // A step of the keyboard from one node to another.
