@@ -153,6 +153,24 @@ private Q_SLOTS:
         QVERIFY(!graphs.window->isVisible());
     }
 
+    void tabGoesRoundInTheOrderOfTheWindow()
+    {
+        const Graphs graphs(Book);
+        QStringList names;
+        const QWidget *first = &child<QWidget>(*graphs.window, "comboView");
+        const QWidget *widget = first;
+        do {
+            if ((widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy() &&
+                !widget->objectName().startsWith("qt_"))
+                names.append(widget->objectName());
+            widget = widget->nextInFocusChain();
+        } while (widget != first);
+        QCOMPARE(names.join(' '),
+                 "comboView txtStart spinDepth txtFind graph txtStop btnAddStop stopList "
+                 "btnRemoveStop btnClearStops txtPreview btnFit btnZoomOut btnZoomIn btnSvg btnPng "
+                 "btnClose");
+    }
+
     void clicksChooseAndDragsMove()
     {
         Graphs graphs(Book);
