@@ -72,6 +72,23 @@ private Q_SLOTS:
         QTEST(described(referenceTree(ReferenceWeb(variables), request)), "tree");
     }
 
+    // A book whose every paragraph names all others, as only a hostile one does.
+    void aTreeHasBounds()
+    {
+        Variables variables;
+        constexpr int paragraphs = 1000;
+        for (int n = 1; n <= paragraphs; ++n) {
+            variables.Written.at(n) = 1;
+            for (int to = 1; to <= paragraphs; ++to)
+                variables.refIndex.at(n) += fourDigits(to) + u'/';
+        }
+        RecomputeWrittenRange(variables);
+        const QList<TreeNode> tree = referenceTree(ReferenceWeb(variables), {});
+        QCOMPARE(tree.size(), TreeRequest::MostNodes + 1);
+        QCOMPARE(tree.at(20).kind, GraphNode::Kind::Whole);
+        QCOMPARE(tree.at(21).kind, GraphNode::Kind::Cut);
+    }
+
     void layoutIsTidy()
     {
         for (quint32 seed = 1; seed <= 40; ++seed) {

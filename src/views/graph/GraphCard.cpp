@@ -127,5 +127,9 @@ void paintDot(QPainter &painter, const GraphNode &node, const GraphLook &look)
         painter.fillRect(room.marginsAdded(QMarginsF(wide, wide, wide, wide) / 2),
                          statusColour(Current));
     }
-    painter.fillRect(room, node.status == Empty ? look.edge : statusColour(node.status));
+    // Of many equal ones those that are followed stand out.
+    const bool shown = node.kind == GraphNode::Kind::Shown;
+    const QRectF dot =
+        shown ? room.adjusted(0, room.height() / 4, -room.width() / 2, -room.height() / 4) : room;
+    painter.fillRect(dot, node.status == Empty ? look.edge : statusColour(node.status));
 }

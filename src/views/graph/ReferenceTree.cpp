@@ -41,7 +41,7 @@ QList<TreeNode> referenceTree(const ReferenceWeb &web, const TreeRequest &reques
         shown.at(n) = true;
         if (stops.at(n) && i > 0)
             tree[i].kind = Kind::Stopped;
-        else if (tree.at(i).depth < request.depth)
+        else if (tree.at(i).depth < request.depth && tree.size() < TreeRequest::MostNodes)
             addChildren(tree, i, next);
         else if (!next.isEmpty())
             tree[i].kind = Kind::Cut;
