@@ -2,6 +2,7 @@
 
 #include "BenchEditor.h"
 #include "Figures.h"
+#include "views/graph/BookLayout.h"
 #include "views/graph/GraphCanvas.h"
 #include "views/graph/GraphNodes.h"
 #include "views/graph/ReferenceTree.h"
@@ -112,4 +113,14 @@ void printGraphFigures(const QString &path, const QString &folder)
                     }),
                 Ms);
     printMovements(QStringLiteral("the same"), drawing);
+    printFigure(QStringLiteral("the whole book, laid out"),
+                medianMilliseconds(
+                    Runs, [] {},
+                    [&] {
+                        const ReferenceWeb web(editor.variables);
+                        drawing = layOutBook(editor.variables, web, 1);
+                        describeNodes(drawing, editor.variables);
+                    }),
+                Ms);
+    printMovements(QStringLiteral("the whole book"), drawing);
 }

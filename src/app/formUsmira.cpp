@@ -21,6 +21,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
+#include <QWindow>
 
 namespace
 {
@@ -271,6 +272,17 @@ bool formUsmira::event(QEvent *event)
     return QMainWindow::event(event);
 }
 
+// Whoever closes the window once more while the question stands is not asked again. Qt would take
+// that for an answered question, and end the program with all that is unsaved.
+bool formUsmira::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool closedTwice =
+        m_leaving && watched == windowHandle() && event->type() == QEvent::Close;
+    if (closedTwice)
+        event->ignore();
+    return closedTwice || QMainWindow::eventFilter(watched, event);
+}
+
 // The author goes to another window, not to a box of ours.
 void formUsmira::saveOnLeaving()
 {
@@ -283,7 +295,11 @@ void formUsmira::saveOnLeaving()
 void formUsmira::closeEvent(QCloseEvent *event)
 {
     bool leaves = false;
+    m_leaving = true;
+    if (windowHandle() != nullptr)
+        windowHandle()->installEventFilter(this);
     m_page.keepingPlace([&] { leaves = m_adventure.LeaveAdventure(); });
+    m_leaving = false;
     try {
         writeSettings(WorkingFiles(m_variables).settings(), m_variables, geometryOf(*this));
         keepMaximized();

@@ -56,6 +56,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -97,5 +98,6 @@ private:
     ViewsMenu m_views;
     ConversionsMenu m_conversions;
     InfoMenu m_info;
-    bool m_closed = false; // the window is going, and saves nothing any more
+    bool m_leaving = false; // the author is asked about what is unsaved
+    bool m_closed = false;  // the window is going, and saves nothing any more
 };

@@ -55,6 +55,8 @@ QByteArray scinder(CommandServices &script, const QStringList &arguments)
     const SplitRequest request{lenientNumber(arguments.at(0)), lenientNumber(arguments.at(1)),
                                !murder.isEmpty()};
     const QString &path = arguments.at(2);
+    if (path.isEmpty())
+        throw UsageError(Commands::tr("nom de fichier attendu"));
     return script.shownAgain(
         script.split.Export(request, [&] { return mayReplace(script, path) ? path : QString(); }));
 }

@@ -39,11 +39,11 @@ bool AdventureSplit::Export(const SplitRequest &request, const std::function<QSt
     return !path.isEmpty() && reportingFailures(m_prompts, [&] {
         LongWork work(m_report, tr("Exportation..."));
         write(numbers, path, work.progress());
-        if (request.murder)
-            remove(numbers);
         m_report.announce(
             tr("%n paragraphe(s) exporté(s) : %1", nullptr, static_cast<int>(numbers.size()))
                 .arg(path));
+        if (request.murder)
+            remove(numbers);
         return true;
     });
 }

@@ -1,11 +1,13 @@
 #include "store/AdventureMerge.h"
 
 #include "platform/Failures.h"
+#include "platform/OpenedFile.h"
 #include "richtext/HiddenBox.h"
 #include "store/AdventureFile.h"
 #include "store/DamagedTexts.h"
 #include "store/LongWork.h"
 #include "store/ParagraphStore.h"
+#include "store/ParagraphTexts.h"
 #include "store/ParagraphTransaction.h"
 #include "store/ReferenceIndex.h"
 
@@ -13,11 +15,24 @@
 
 namespace
 {
+// An older file may have been cut within its texts; one of the current version ends too soon then.
+void refuseCutTexts(const Variables &other)
+{
+    for (int n = 0; n <= Variables::LastParagraph; ++n) {
+        if (other.Written.at(n) == 0)
+            continue;
+        const TextExtent extent = textExtent(other, n);
+        if (extent.offset + extent.length > other.AdventureFile->size())
+            throw FormatError(extent.offset, QStringLiteral("the whole text"));
+    }
+}
+
 Variables readOther(const QString &path)
 {
     Variables other;
     takeOver(other, readAdventure(path));
     other.AdventurePath = path;
+    refuseCutTexts(other);
     return other;
 }
 

@@ -1,5 +1,6 @@
 #include "WindowFixture.h"
 
+#include <QCloseEvent>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
@@ -51,6 +52,20 @@ class tst_lifecycle : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void closingWhileTheQuestionStandsIsNoAnswer()
+    {
+        WindowFixture fixture(oneText());
+        fixture.type("Non. ");
+        expectQuestion(fixture, Prompts::Answer::Cancel);
+        fixture.prompts.meanwhile = [&] {
+            QCloseEvent again;
+            QCoreApplication::sendEvent(fixture.window->windowHandle(), &again);
+            QVERIFY(!again.isAccepted());
+        };
+        QVERIFY(!fixture.window->close());
+        QVERIFY(fixture.window->isVisible());
+    }
+
     void settingsComeBackAtTheNextStart()
     {
         WindowFixture fixture;

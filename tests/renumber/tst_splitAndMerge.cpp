@@ -118,6 +118,7 @@ private Q_SLOTS:
              {"random", '\x12' + noise, ReadFailure},
              {"placeholder", "Nothing yet", ReadFailure},
              {"old and cut in the offsets", old.left(5000), ReadFailure},
+             {"old and cut in the last text", old.chopped(1), ReadFailure},
              {"no paragraph", AdventureBuilder().bytes(), NoParagraph},
              {"unknown tags", good.chopped(4) + QByteArray(100 << 20, 'x'), ReadFailure},
              {".", {}, Invalid},

@@ -32,6 +32,7 @@ void PromptRecorder::expectFileDialog(const QString &title, const QString &name,
 
 Prompts::Answer PromptRecorder::message(const QString &text, const QString &title, Buttons buttons)
 {
+    meanwhile();
     if (m_boxes.isEmpty()) {
         complain(QStringLiteral("nobody expected \"%1\": %2").arg(title, text));
         return buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QStringList>
+#include <functional>
 
 // Prompts that tests answer beforehand. Every box must have been expected with its text and is
 // answered as told; one that nobody expected fails the test, and so does an expected one that
@@ -25,6 +26,9 @@ public:
     const QString &fileKind() const { return m_fileKind; }
 
     int beeps() const { return m_beeps; }
+
+    // What happens while a box stands.
+    std::function<void()> meanwhile = [] {};
 
     Answer message(const QString &text, const QString &title, Buttons buttons) override;
     QString openName(const QString &title, const QString &filter) override;

@@ -322,17 +322,15 @@ void GraphCanvas::contextMenuEvent(QContextMenuEvent *event)
 
 bool GraphCanvas::moveFocus(int key)
 {
-    using Flow = GraphDrawing::Flow;
-    const bool across = m_drawing.flow == Flow::LeftToRight;
     GraphStep step = GraphStep::Before;
     if (key == Qt::Key_Left)
-        step = across ? GraphStep::Upstream : GraphStep::Before;
+        step = GraphStep::Upstream;
     else if (key == Qt::Key_Right)
-        step = across ? GraphStep::Downstream : GraphStep::After;
+        step = GraphStep::Downstream;
     else if (key == Qt::Key_Up)
-        step = across ? GraphStep::Before : GraphStep::Upstream;
+        step = GraphStep::Before;
     else if (key == Qt::Key_Down)
-        step = across ? GraphStep::After : GraphStep::Downstream;
+        step = GraphStep::After;
     else
         return false;
     if (m_focus >= 0)

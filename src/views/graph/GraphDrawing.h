@@ -17,7 +17,7 @@ struct GraphNode {
     };
 
     int number = 0;
-    int layer = 0; // 0.. along the flow
+    int layer = 0; // 0.. from left to right
     QPointF centre;
     Kind kind = Kind::Whole;
     quint8 status = 0; // see ParagraphStatus
@@ -45,13 +45,10 @@ struct GraphLabel {
 };
 
 struct GraphDrawing {
-    enum class Flow : quint8 { LeftToRight, TopToBottom };
-
     QList<GraphNode> nodes;
     QList<GraphEdge> edges;
     QList<GraphLabel> labels;
     QRectF bounds; // holds all nodes and labels, with a margin
-    Flow flow = Flow::LeftToRight;
 
     bool operator==(const GraphDrawing &) const = default;
 };

@@ -39,10 +39,9 @@ bool isShownElsewhere(const GraphNode &node)
     return node.kind == GraphNode::Kind::Shown;
 }
 
-double across(const GraphDrawing &drawing, int node)
+double height(const GraphDrawing &drawing, int node)
 {
-    const QPointF &centre = drawing.nodes.at(node).centre;
-    return drawing.flow == GraphDrawing::Flow::LeftToRight ? centre.y() : centre.x();
+    return drawing.nodes.at(node).centre.y();
 }
 
 // A layer of several columns is gone through row by row.
@@ -51,7 +50,7 @@ int besideOf(const GraphDrawing &drawing, int node, int sign)
     constexpr double rowsBeforeColumns = 1e6; // more than any layer is wide
     const auto place = [&](int i) {
         const QPointF &centre = drawing.nodes.at(i).centre;
-        return across(drawing, i) * rowsBeforeColumns + centre.x() + centre.y();
+        return centre.y() * rowsBeforeColumns + centre.x();
     };
     Nearest nearest(node);
     for (int i = 0; i < drawing.nodes.size(); ++i) {
@@ -73,7 +72,7 @@ int alongOf(const GraphDrawing &drawing, int node, int sign)
         const int layers = sign * (drawing.nodes.at(other).layer - layer);
         if (layers > 0)
             nearest.offer(other, (layers - 1) * FarAway +
-                                     std::abs(across(drawing, other) - across(drawing, node)));
+                                     std::abs(height(drawing, other) - height(drawing, node)));
     }
     return nearest.node();
 }

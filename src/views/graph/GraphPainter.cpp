@@ -22,7 +22,7 @@ QColor mixed(const QColor &one, const QColor &other, double part)
             mix(one.blue(), other.blue())};
 }
 
-// Along the flow to the other side of the nodes; beside it, within one layer, in a bow.
+// From one layer to another to the other side of the nodes; within one layer in a bow.
 QPainterPath curve(QPointF from, QPointF to)
 {
     const double along = to.x() - from.x();
@@ -37,19 +37,13 @@ QPainterPath curve(QPointF from, QPointF to)
     return path;
 }
 
-// From top to bottom everything is the same with its two directions exchanged.
 QPainterPath edgePath(const GraphDrawing &drawing, const GraphEdge &edge)
 {
     const QPointF from = drawing.nodes.at(edge.from).centre;
     const QPointF to = drawing.nodes.at(edge.to).centre;
     const bool loop = edge.from == edge.to;
     const QPointF aside(0, loop ? GraphSize::NodeHeight / 3 : 0);
-    if (drawing.flow == GraphDrawing::Flow::LeftToRight)
-        return curve(from - aside, to + aside);
-    const double stretch = GraphSize::NodeWidth / GraphSize::NodeHeight;
-    const auto turned = [stretch](const QPointF &p) { return QPointF(p.y() * stretch, p.x()); };
-    const QPainterPath path = curve(turned(from) - aside, turned(to) + aside);
-    return QTransform(0, 1 / stretch, 1, 0, 0, 0).map(path);
+    return curve(from - aside, to + aside);
 }
 
 void paintArrow(QPainter &painter, const QPainterPath &path, double size)

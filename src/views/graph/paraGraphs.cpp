@@ -55,7 +55,7 @@ void paraGraphs::connectGraph()
     connect(graph, &GraphCanvas::previewWanted, this, &paraGraphs::preview);
     connect(graph, &GraphCanvas::wanted, this, &paraGraphs::wanted);
     connect(graph, &GraphCanvas::startWanted, this, &paraGraphs::setStart);
-    connect(graph, &GraphCanvas::stopWanted, m_ui->stops, &StopPanel::toggle);
+    connect(graph, &GraphCanvas::stopWanted, this, &paraGraphs::toggleStop);
     connect(graph, &GraphCanvas::menuWanted, this, &paraGraphs::showMenu);
     connect(graph, &GraphCanvas::scaleChanged, this, &paraGraphs::showCount);
 }
@@ -259,6 +259,13 @@ void paraGraphs::forgetPreview()
                                       "Double-cliquez pour en faire le départ."));
 }
 
+// Where they count.
+void paraGraphs::toggleStop(int n)
+{
+    if (view() != View::Book)
+        m_ui->stops->toggle(n);
+}
+
 // A key that stands behind a tabulator is shown as such; the graph answers it itself.
 void paraGraphs::showMenu(int n, const QPoint &place)
 {
@@ -267,8 +274,9 @@ void paraGraphs::showMenu(int n, const QPoint &place)
     menu.addAction(tr("&Départ ici\tEntrée"), this, [this, n] { setStart(n); });
     menu.addAction(tr("&Aller dans l'éditeur\tMaj+Entrée"), this, [this, n] { Q_EMIT wanted(n); });
     menu.addAction(tr("A&perçu\tEspace"), this, [this, n] { preview(n); });
-    menu.addAction(stopped ? tr("&Retirer le point d'arrêt\tA") : tr("&Point d'arrêt\tA"), this,
-                   [this, n] { m_ui->stops->toggle(n); });
+    if (view() != View::Book)
+        menu.addAction(stopped ? tr("&Retirer le point d'arrêt\tA") : tr("&Point d'arrêt\tA"), this,
+                       [this, n] { toggleStop(n); });
     menu.exec(place);
 }
 

@@ -63,6 +63,7 @@ private:
     void txtFind_Enter();
     void preview(int n);
     void forgetPreview();
+    void toggleStop(int n);
     void showMenu(int n, const QPoint &place);
     void save(const QString &extension, const QString &kind);
 

@@ -104,6 +104,8 @@ bool GridSurface::choose(const QKeyEvent &event)
     const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     if (!enter && event.key() != Qt::Key_Space)
         return false;
+    // The numbers may have become fewer.
+    setFocusNumber(m_focusNumber);
     if (enter && event.modifiers().testFlag(Qt::ShiftModifier))
         Q_EMIT wanted(m_focusNumber);
     else
