@@ -4,6 +4,7 @@
 #include "platform/DialogPrompts.h"
 #include "platform/Failures.h"
 #include "platform/Translations.h"
+#include "store/FolderLock.h"
 #include "store/Journal.h"
 #include "store/WorkingFolder.h"
 
@@ -22,8 +23,9 @@ int main(int argc, char *argv[])
     QGuiApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("usmira"), QIcon(QStringLiteral(USMIRA_ICON))));
     Variables variables;
-    variables.WorkingFolder = findWorkingFolder(programFolder);
-    prepareWorkingFolder(variables.WorkingFolder, findBundledDocuments(programFolder));
+    const WorkingPlace place =
+        takeWorkingFolder(findWorkingFolder(programFolder), findBundledDocuments(programFolder));
+    variables.WorkingFolder = place.folder;
 
     DialogPrompts prompts;
     reportingFailures(prompts, [&] {

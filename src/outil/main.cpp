@@ -2,6 +2,7 @@
 #include "outil/ScriptPrompts.h"
 #include "platform/Failures.h"
 #include "platform/Translations.h"
+#include "store/FolderLock.h"
 #include "store/Journal.h"
 #include "store/WorkingFolder.h"
 
@@ -115,9 +116,9 @@ void runLines(const QStringList &lines, Commands &commands, ScriptPrompts &promp
 int runScript(const QCommandLineParser &parser, QTextStream &errors)
 {
     Variables variables;
-    variables.WorkingFolder = workingFolder(parser);
-    prepareWorkingFolder(variables.WorkingFolder,
-                         findBundledDocuments(QCoreApplication::applicationDirPath()));
+    const WorkingPlace place = takeWorkingFolder(
+        workingFolder(parser), findBundledDocuments(QCoreApplication::applicationDirPath()));
+    variables.WorkingFolder = place.folder;
     ScriptPrompts prompts(errors, givenAnswer(parser));
     recoverJournal(variables.WorkingFolder);
     Commands commands(variables, prompts);

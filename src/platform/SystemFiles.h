@@ -50,3 +50,17 @@ std::error_code removeEntry(const QString &path);
 std::error_code syncFile(const QFileDevice &file);
 std::error_code syncEntries(const QString &folder);
 std::error_code syncFileSystemOf(const QString &folder);
+
+// While it lives, another program that asks for the same folder waits: for what must not be
+// begun twice at once. Nobody waits longer than two seconds, or where the system has no such lock.
+class FolderGuard
+{
+public:
+    explicit FolderGuard(const QString &folder);
+    ~FolderGuard();
+    FolderGuard(const FolderGuard &) = delete;
+    FolderGuard &operator=(const FolderGuard &) = delete;
+
+private:
+    int m_descriptor = -1;
+};

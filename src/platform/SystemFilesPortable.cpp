@@ -99,3 +99,7 @@ std::error_code syncFileSystemOf(const QString & /*folder*/)
 {
     return {};
 }
+
+FolderGuard::FolderGuard(const QString & /*folder*/) {}
+
+FolderGuard::~FolderGuard() = default;

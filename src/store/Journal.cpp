@@ -207,10 +207,9 @@ QByteArray textSha256(const QByteArray &rtf)
 
 void makeSessionFolder(const QString &workingFolder)
 {
-    const QString session = WorkingFiles(workingFolder).session();
-    if (QFileInfo(session).isSymLink())
-        removeFile(session); // nothing in the working folder leads elsewhere
-    QDir().mkpath(session);
+    const WorkingFiles files(workingFolder);
+    clearSessionName(files);
+    QDir().mkpath(files.session());
 }
 
 void removeSessionFolder(const QString &workingFolder)

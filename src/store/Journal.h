@@ -46,7 +46,9 @@ std::optional<Journal> journalOf(QByteArrayView bytes);
 
 QByteArray textSha256(const QByteArray &rtf);
 
-// The folder of the journal inside the working folder, made if need be.
+// The folder of the journal inside the working folder, made if need be. What has its name and is
+// none goes: a link is removed, anything else moved to a folder "Récupération ...". Throws
+// FileError.
 void makeSessionFolder(const QString &workingFolder);
 // Goes again when nothing is left in it.
 void removeSessionFolder(const QString &workingFolder);

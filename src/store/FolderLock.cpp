@@ -1,0 +1,81 @@
+#include "store/FolderLock.h"
+
+#include "platform/Errors.h"
+#include "platform/SafeFile.h"
+#include "platform/SystemFiles.h"
+#include "store/Journal.h"
+#include "store/WorkingFiles.h"
+#include "store/WorkingFolder.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace
+{
+constexpr int MostPlaces = 99;
+
+void removeNoFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (info.isSymLink() || !info.isDir())
+        return;
+    QDir().rmdir(path);
+}
+
+// What the author sees there; his own changes in a private folder go with the next start.
+void copySettings(const WorkingFiles &from, const WorkingFiles &to)
+{
+    for (const auto path :
+         {&WorkingFiles::settings, &WorkingFiles::maximized, &WorkingFiles::comfort}) {
+        tryRemoveFile((to.*path)());
+        if (!QFileInfo((from.*path)()).isFile())
+            continue;
+        try {
+            copyFile((from.*path)(), (to.*path)());
+        } catch (const UsmiraError &) {
+            continue;
+        }
+    }
+}
+} // namespace
+
+// A file that is no lock of a running program is told by the lock that the system keeps on it: its
+// age, the process it names and its length say nothing.
+FolderLock::FolderLock(const QString &workingFolder)
+    : m_workingFolder(workingFolder), m_file(WorkingFiles(workingFolder).lock())
+{
+    m_file.setStaleLockTime(0);
+    try {
+        makeSessionFolder(workingFolder);
+    } catch (const UsmiraError &) {
+        return;
+    }
+    const FolderGuard guard(workingFolder);
+    removeNoFile(WorkingFiles(workingFolder).lock());
+    if (m_file.tryLock() || m_file.error() != QLockFile::LockFailedError)
+        return;
+    m_file.removeStaleLockFile();
+    m_taken = !m_file.tryLock() && m_file.error() == QLockFile::LockFailedError;
+}
+
+FolderLock::~FolderLock()
+{
+    const bool own = m_file.isLocked();
+    m_file.unlock();
+    if (own)
+        removeSessionFolder(m_workingFolder);
+}
+
+WorkingPlace takeWorkingFolder(const QString &workingFolder, const QString &bundledDocuments)
+{
+    prepareWorkingFolder(workingFolder, bundledDocuments);
+    WorkingPlace place{workingFolder, std::make_unique<FolderLock>(workingFolder)};
+    for (int k = 2; place.lock->isTaken() && k <= MostPlaces; ++k) {
+        place.folder = workingFolder + QString::number(k) + QDir::separator();
+        prepareWorkingFolder(place.folder, workingFolder);
+        place.lock = std::make_unique<FolderLock>(place.folder);
+        if (!place.lock->isTaken())
+            copySettings(WorkingFiles(workingFolder), WorkingFiles(place.folder));
+    }
+    return place;
+}
