@@ -51,6 +51,25 @@ std::error_code syncFile(const QFileDevice &file);
 std::error_code syncEntries(const QString &folder);
 std::error_code syncFileSystemOf(const QString &folder);
 
+// Makes this program the one that may replace a file, until it ends or takes another. Programs that
+// know nothing of claims are not hindered.
+class FileClaim
+{
+public:
+    FileClaim() = default;
+    ~FileClaim();
+    FileClaim(const FileClaim &) = delete;
+    FileClaim &operator=(const FileClaim &) = delete;
+
+    // False, and the claim before stays: another program has claimed the file. True where there is
+    // no such file, or where the system knows no claims.
+    bool take(const QString &path);
+    void giveUp();
+
+private:
+    int m_descriptor = -1;
+};
+
 // While it lives, another program that asks for the same folder waits: for what must not be
 // begun twice at once. Nobody waits longer than two seconds, or where the system has no such lock.
 class FolderGuard

@@ -136,6 +136,40 @@ std::error_code syncFileSystemOf(const QString &folder)
     return descriptor.isOpen() ? resultOf(::syncfs(descriptor.number())) : lastFailure();
 }
 
+FileClaim::~FileClaim()
+{
+    giveUp();
+}
+
+// The lock is that of an open file, so that the same file opened once more here is another one.
+bool FileClaim::take(const QString &path)
+{
+    struct stat held = {};
+    struct stat wanted = {};
+    const int descriptor =
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return true;
+    const bool ours = m_descriptor >= 0 && ::fstat(m_descriptor, &held) == 0 &&
+                      ::fstat(descriptor, &wanted) == 0 && held.st_ino == wanted.st_ino &&
+                      held.st_dev == wanted.st_dev;
+    const bool busy = !ours && ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    if (ours || busy) {
+        ::close(descriptor);
+        return ours;
+    }
+    giveUp();
+    m_descriptor = descriptor;
+    return true;
+}
+
+void FileClaim::giveUp()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+    m_descriptor = -1;
+}
+
 FolderGuard::FolderGuard(const QString &folder)
     : m_descriptor(
           ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))

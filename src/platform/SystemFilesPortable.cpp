@@ -100,6 +100,15 @@ std::error_code syncFileSystemOf(const QString & /*folder*/)
     return {};
 }
 
+FileClaim::~FileClaim() = default;
+
+bool FileClaim::take(const QString & /*path*/)
+{
+    return true;
+}
+
+void FileClaim::giveUp() {}
+
 FolderGuard::FolderGuard(const QString & /*folder*/) {}
 
 FolderGuard::~FolderGuard() = default;

@@ -34,9 +34,9 @@ QList<int> changedNumbers(const Variables &variables)
     return changed;
 }
 
-// A placeholder claims the name of a new adventure. A file that is there already stays until the
+// A placeholder reserves the name of a new adventure. A file that is there already stays until the
 // swap.
-void claim(const QString &path)
+void reserve(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
@@ -167,6 +167,7 @@ void AdventureCommands::openFrom(const std::function<QString()> &choose)
 bool AdventureCommands::NewAdventure(const QString &path)
 {
     return reportingFailures(m_prompts, [&] {
+        reserve(path);
         claim(path);
         AdventureContents empty;
         empty.version = CurrentVersion;
@@ -180,11 +181,16 @@ bool AdventureCommands::NewAdventure(const QString &path)
     });
 }
 
-bool AdventureCommands::OpenAdventure(const QString &path)
+bool AdventureCommands::OpenAdventure(const QString &chosen)
 {
     return reportingFailures(m_prompts, [&] {
         Variables opened = m_variables;
-        takeOver(opened, readAdventure(path));
+        takeOver(opened, readAdventure(chosen));
+        const QString path = pathToOpen(chosen);
+        if (path.isEmpty())
+            return false;
+        if (path != chosen)
+            takeOver(opened, readAdventure(path));
         try {
             if (!opened.CurrentFormat)
                 rebuildIndex(opened);
@@ -198,6 +204,38 @@ bool AdventureCommands::OpenAdventure(const QString &path)
         tellUnreadable(damagedParagraphs(m_variables), m_prompts);
         return true;
     });
+}
+
+// What another window has open is opened as a copy, to be read, or not at all: then it is empty.
+QString AdventureCommands::pathToOpen(const QString &path)
+{
+    if (m_claim.take(path))
+        return path;
+    const QString copy = pathBeside(path, tr("copie"));
+    switch (m_prompts.message(
+        tr("L'aventure %1 est déjà ouverte dans une autre fenêtre d'Usmira. Voulez-vous en ouvrir "
+           "une copie, %2 ? Sinon, vous pourrez la lire, mais pas l'enregistrer tant que l'autre "
+           "fenêtre la tient.")
+            .arg(QFileInfo(path).fileName(), QFileInfo(copy).fileName()),
+        tr("Songez-y"), Prompts::Buttons::YesNoCancel)) {
+    case Prompts::Answer::Yes:
+        copyFile(path, copy);
+        m_claim.take(copy);
+        return copy;
+    case Prompts::Answer::No:
+        m_claim.giveUp();
+        return path;
+    default:
+        return {};
+    }
+}
+
+// Throws FileError while another window has it.
+void AdventureCommands::claim(const QString &path)
+{
+    if (!m_claim.take(path))
+        throw FileError(FileError::Operation::Write, path, QStringLiteral("claimed"),
+                        std::errc::device_or_resource_busy);
 }
 
 void AdventureCommands::nameAdventure(const QString &path)
@@ -231,9 +269,11 @@ bool AdventureCommands::Save()
         const bool paragraphSaved = saveParagraph();
         if (paragraphSaved && !hasUnsavedChanges(m_variables))
             return true;
+        claim(m_variables.AdventurePath);
         AdventureSave save(m_variables, m_prompts);
         if (!writeAndSwap(save, paragraphSaved))
             return false;
+        m_claim.take(m_variables.AdventurePath); // it is another file now
         save.tellLeftOut();
         return true;
     });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Prompts.h"
+#include "platform/SystemFiles.h"
 #include "store/Variables.h"
 
 #include <QCoreApplication>
@@ -53,7 +54,8 @@ public:
     bool NewAdventure(const QString &path);
 
     // Opens the file at path. On failure, or when the author stops it, the adventure open before
-    // stays as it was.
+    // stays as it was. What another window has open he may open as a copy or to read it: Save()
+    // then refuses for as long as the other window has it.
     bool OpenAdventure(const QString &path);
 
     // Writes the adventure if anything is unsaved. False when it still is afterwards.
@@ -64,6 +66,8 @@ private:
     void discardChanges();
     void keepUnsaved();
     void showAgain();
+    QString pathToOpen(const QString &path);
+    void claim(const QString &path);
     void nameAdventure(const QString &path);
     void showCurrentParagraph();
     void rebuildIndex(Variables &opened);
@@ -74,4 +78,5 @@ private:
     Prompts &m_prompts;
     AdventureView &m_view;
     WorkReport &m_report;
+    FileClaim m_claim; // on the open adventure, while no other window has it
 };

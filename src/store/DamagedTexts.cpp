@@ -240,9 +240,13 @@ void askToReplaceDamaged(const Variables &variables, int n, Prompts &prompts)
     kept.textsAreReplaced();
 }
 
-QString otherVersionPath(const QString &adventurePath)
+QString pathBeside(const QString &adventurePath, const QString &note)
 {
     const QString suffix = QFileInfo(adventurePath).suffix();
-    return freePathBeside(adventurePath, QStringLiteral("autre version"),
-                          suffix.isEmpty() ? QString() : u'.' + suffix);
+    return freePathBeside(adventurePath, note, suffix.isEmpty() ? QString() : u'.' + suffix);
+}
+
+QString otherVersionPath(const QString &adventurePath)
+{
+    return pathBeside(adventurePath, QStringLiteral("autre version"));
 }

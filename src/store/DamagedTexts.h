@@ -70,5 +70,8 @@ private:
 // NotAllowed when the author says no, FileError when the bytes cannot be kept.
 void askToReplaceDamaged(const Variables &variables, int n, Prompts &prompts);
 
-// "Le Loup (autre version).usm" beside "Le Loup.usm", numbered when that is taken. Looks.
+// "Le Loup (note).usm" beside "Le Loup.usm", numbered when that is taken. Looks.
+QString pathBeside(const QString &adventurePath, const QString &note);
+
+// The same with the note "autre version".
 QString otherVersionPath(const QString &adventurePath);
