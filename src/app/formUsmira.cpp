@@ -10,10 +10,12 @@
 #include "editor/options/ZoomKeys.h"
 #include "editor/options/optionsDlog.h"
 #include "editor/references/ReferenceAids.h"
+#include "platform/Failures.h"
 #include "platform/Guarded.h"
 #include "platform/SafeFile.h"
 #include "store/AdventureEvents.h"
 #include "store/SampleAdventure.h"
+#include "store/SessionRecovery.h"
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 #include "ui_formUsmira.h"
@@ -47,7 +49,7 @@ ParagraphPage::Controls pageControls(const Ui::formUsmira &ui)
 formUsmira::formUsmira(Variables &variables, Prompts &prompts)
     : m_variables(variables), m_prompts(prompts), m_ui(setUp(*this)),
       m_work(*m_ui->labBehind, *m_ui->barWork, *m_ui->rtfBox, *m_ui->statusBar),
-      m_page(variables, prompts, pageControls(*m_ui)),
+      m_page(variables, prompts, pageControls(*m_ui)), m_typed(variables, *m_ui->rtfBox),
       m_status(variables, *m_ui->rtfBox, *m_ui->statusBar), m_menuStates(variables),
       m_runner(variables, prompts, m_page, m_menuStates),
       m_adventure(variables, prompts, m_page, m_work),
@@ -161,6 +163,7 @@ void formUsmira::connectBox()
             [this](const QString &failure) { m_runner.rescue(failure); });
     connect(m_ui->frameTabPanel, &TabPanel::tabRefused, this, [this] { m_prompts.beep(); });
     connect(&m_page, &ParagraphPage::changed, &m_status, &StatusLine::refresh);
+    connect(&m_page, &ParagraphPage::changed, &m_typed, &TypedSnapshot::follow);
     connectReferences();
 }
 
@@ -263,6 +266,24 @@ void formUsmira::openCommandLine(const QString &path)
         m_adventure.OpenAdventure(path);
     else if (m_comfort.comfort().reopenLast && QFileInfo(last).isFile())
         m_adventure.OpenAdventure(last);
+}
+
+bool formUsmira::openUnsaved(const QString &commandLine)
+{
+    return reportingFailures(m_prompts, [&] {
+        const auto work = offerUnsavedWork(m_variables.WorkingFolder, m_prompts);
+        if (!work)
+            return false;
+        m_adventure.OpenUnsaved(*work);
+        if (m_variables.ParagraphDirty)
+            m_page.rtfBox_Change();
+        const QFileInfo waiting(commandLine);
+        if (waiting.isFile() && waiting != QFileInfo(m_variables.AdventurePath)) {
+            m_comfort.remember(waiting.absoluteFilePath());
+            m_work.announce(tr("L'aventure %1 attend dans le menu.").arg(waiting.fileName()));
+        }
+        return true;
+    });
 }
 
 bool formUsmira::event(QEvent *event)

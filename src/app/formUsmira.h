@@ -14,6 +14,7 @@
 #include "editor/options/EditorComfort.h"
 #include "editor/search/searchReplace.h"
 #include "store/AdventureCommands.h"
+#include "store/TypedSnapshot.h"
 
 #include <QMainWindow>
 #include <memory>
@@ -40,6 +41,14 @@ public:
     // The command line as it stands is the path of an adventure; an empty one opens none, or the
     // one of last time where the author wants that.
     void openCommandLine(const QString &path);
+
+    // At the start, before the command line: after a crash, the adventure of then with all that was
+    // unsaved, if the author wants it back. The one of the command line, another than that, then
+    // waits in the menu.
+    bool openUnsaved(const QString &commandLine);
+
+    // Keeps what is being typed for the next start, at once and without a question.
+    void keepTyped() { m_typed.take(); }
 
     // See ParagraphPage.
     void LoadParg(int n) { m_page.LoadParg(n); }
@@ -87,6 +96,7 @@ private:
     std::unique_ptr<Ui::formUsmira> m_ui;
     WorkDisplay m_work;
     ParagraphPage m_page;
+    TypedSnapshot m_typed;
     StatusLine m_status;
     MenuStates m_menuStates;
     CommandRunner m_runner;

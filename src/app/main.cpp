@@ -2,16 +2,18 @@
 #include "app/Desktop.h"
 #include "app/formUsmira.h"
 #include "platform/DialogPrompts.h"
+#include "platform/EndSignals.h"
 #include "platform/Failures.h"
 #include "platform/Translations.h"
 #include "store/FolderLock.h"
-#include "store/Journal.h"
+#include "store/SessionRecovery.h"
 #include "store/WorkingFolder.h"
 
 #include <QIcon>
 
 int main(int argc, char *argv[])
 {
+    EndSignals::holdBack();
     Application application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Usmira"));
     QCoreApplication::setApplicationVersion(QStringLiteral(USMIRA_VERSION));
@@ -23,22 +25,27 @@ int main(int argc, char *argv[])
     QGuiApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("usmira"), QIcon(QStringLiteral(USMIRA_ICON))));
     Variables variables;
-    const WorkingPlace place =
-        takeWorkingFolder(findWorkingFolder(programFolder), findBundledDocuments(programFolder));
+    const WorkingPlace place = takeWorkingFolder(
+        findWorkingFolder(programFolder), findBundledDocuments(programFolder), LeftSessions::First);
     variables.WorkingFolder = place.folder;
 
     DialogPrompts prompts;
     reportingFailures(prompts, [&] {
-        recoverJournal(variables.WorkingFolder);
+        finishLeftChange(variables.WorkingFolder, prompts);
         return true;
     });
     formUsmira window(variables, prompts);
     QObject::connect(&application, &Application::failed, &window, &formUsmira::rescue);
     QObject::connect(&window.comfort(), &ComfortKeeper::changed, &desktop,
                      [&] { desktop.show(window.comfort().comfort().colours); });
+    const EndSignals endSignals([&window] { window.keepTyped(); });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+                     &formUsmira::keepTyped, Qt::DirectConnection);
     window.Form_Load();
     window.show();
     // A path with spaces need not be quoted: the command line is one path as it stands.
-    window.openCommandLine(QCoreApplication::arguments().mid(1).join(u' '));
+    const QString path = QCoreApplication::arguments().mid(1).join(u' ');
+    if (!window.openUnsaved(path))
+        window.openCommandLine(path);
     return Application::exec();
 }

@@ -3,6 +3,7 @@
 #include "outil/Script.h"
 #include "store/AdventureChanges.h"
 #include "store/ParagraphStore.h"
+#include "store/Session.h"
 
 #include <algorithm>
 
@@ -95,8 +96,10 @@ void Commands::finish(bool save)
     Variables &variables = m_services.variables;
     if (!variables.AdventureOpen || !hasUnsavedChanges(variables))
         return;
-    if (save)
+    if (save) {
         m_services.adventure.Save();
-    else
+    } else {
+        forgetSession(variables.WorkingFolder);
         DiscardWorkingFiles(variables);
+    }
 }

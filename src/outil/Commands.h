@@ -19,6 +19,10 @@ public:
     // FileError or FormatError on a failure that has no message yet.
     QByteArray run(const QStringList &words);
 
+    // Opens the adventure that a killed program had open, with its unsaved work. Throws
+    // UsmiraError.
+    void open(const UnsavedWork &work) { m_services.adventure.OpenUnsaved(work); }
+
     // At the end of a script: what was not saved goes, and the author is told.
     void finish(bool save);
 

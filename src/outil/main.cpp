@@ -3,7 +3,7 @@
 #include "platform/Failures.h"
 #include "platform/Translations.h"
 #include "store/FolderLock.h"
-#include "store/Journal.h"
+#include "store/SessionRecovery.h"
 #include "store/WorkingFolder.h"
 
 #include <QCommandLineParser>
@@ -37,12 +37,18 @@ QString usage()
                "  --dossier DIR   utilise un autre dossier de travail\n"
                "  --oui           répond Oui à toutes les questions\n"
                "  --non           répond Non à toutes les questions\n"
+               "  --recuperer     après un arrêt brusque, rouvre d'abord l'aventure avec ce qui "
+               "n'était pas enregistré\n"
+               "                  (avec --non : le range dans un dossier Récupération)\n"
                "  --aide          affiche cette aide\n"
                "\n"
                "Sans --oui ni --non, une question fait échouer la commande. À la fin, ce qui n'a "
                "pas été enregistré\n"
                "est abandonné, ou enregistré avec --oui si tout a réussi. Statut : 0 réussi,\n"
                "1 commande échouée, 2 mauvais usage.\n"
+               "Sans --recuperer, ce qu'un Usmira arrêté brusquement n'a pas enregistré est laissé "
+               "où il est,\n"
+               "et l'outil travaille dans un dossier à lui.\n"
                "Les positions comptent les caractères à partir de 0, une fin de ligne pour deux ; "
                "casse distingue\n"
                "majuscules et minuscules, mot ne trouve que des mots entiers.\n"
@@ -116,12 +122,19 @@ void runLines(const QStringList &lines, Commands &commands, ScriptPrompts &promp
 int runScript(const QCommandLineParser &parser, QTextStream &errors)
 {
     Variables variables;
+    const bool recovers = parser.isSet(QStringLiteral("recuperer"));
     const WorkingPlace place = takeWorkingFolder(
-        workingFolder(parser), findBundledDocuments(QCoreApplication::applicationDirPath()));
+        workingFolder(parser), findBundledDocuments(QCoreApplication::applicationDirPath()),
+        recovers ? LeftSessions::First : LeftSessions::Avoid);
     variables.WorkingFolder = place.folder;
-    ScriptPrompts prompts(errors, givenAnswer(parser));
-    recoverJournal(variables.WorkingFolder);
+    const std::optional<Prompts::Answer> answer = givenAnswer(parser);
+    ScriptPrompts prompts(errors, answer);
+    finishLeftChange(variables.WorkingFolder, prompts);
+    ScriptPrompts offer(errors, answer.value_or(Prompts::Answer::Yes));
+    const auto unsaved = offerUnsavedWork(variables.WorkingFolder, offer);
     Commands commands(variables, prompts);
+    if (unsaved)
+        commands.open(*unsaved);
     try {
         runLines(scriptLines(parser), commands, prompts);
     } catch (const UsageError &) {
@@ -146,6 +159,7 @@ int main(int argc, char *argv[])
     parser.addOptions({option(QStringLiteral("e"), {}, QStringLiteral("COMMANDE")),
                        option(QStringLiteral("dossier"), {}, QStringLiteral("DIR")),
                        option(QStringLiteral("oui"), {}), option(QStringLiteral("non"), {}),
+                       option(QStringLiteral("recuperer"), {}),
                        option(QStringLiteral("aide"), {})});
     try {
         if (!parser.parse(QCoreApplication::arguments()))

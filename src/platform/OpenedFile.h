@@ -6,6 +6,15 @@
 #include <QFile>
 #include <QList>
 #include <QString>
+#include <optional>
+
+// What the bytes of a file are known by, also after the program has ended: their number, and 64
+// hexadecimal digits.
+struct FileIdentity {
+    qint64 size = 0;
+    QByteArray sum;
+    bool operator==(const FileIdentity &) const = default;
+};
 
 // A regular file kept open for reading, with checksums of its bytes when it was opened. The bytes
 // stay readable when another file takes its name or its name goes away. Another file's bytes are
@@ -20,6 +29,9 @@ public:
     explicit OpenedFile(const QString &path);
 
     qint64 size() const { return m_size; }
+
+    // That of the bytes as they were opened. Nothing is read for it.
+    const FileIdentity &identity();
 
     // length bytes from the 0-based offset. Throws FileError (Read) when they lie outside the file
     // or are no longer those that were there.
@@ -43,6 +55,7 @@ private:
     QString m_path;
     QFile m_file;
     qint64 m_size = 0;
-    FileStamp m_stamp;      // when the bytes last were known to be right
-    QList<size_t> m_blocks; // checksums of BlockSize bytes each, the last may be shorter
+    FileStamp m_stamp;                      // when the bytes last were known to be right
+    std::optional<FileIdentity> m_identity; // once it was asked for
+    QList<quint64> m_blocks; // checksums of BlockSize bytes each, the last may be shorter
 };

@@ -4,6 +4,7 @@
 #include "platform/SameFile.h"
 #include "platform/SystemFiles.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -140,6 +141,20 @@ bool tryRemoveFile(const QString &path)
 void renameFile(const QString &source, const QString &target)
 {
     throwIfFailed(renameOver(source, target), target);
+}
+
+bool isAnythingAt(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+void moveToFolder(const QStringList &paths, const QString &folder)
+{
+    QDir().mkpath(folder);
+    for (const QString &path : paths)
+        if (isAnythingAt(path))
+            renameFile(path, folder + u'/' + QFileInfo(path).fileName());
 }
 
 void copyFile(const QString &source, const QString &target)

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QSaveFile>
 #include <QString>
+#include <QStringList>
 #include <system_error>
 
 // How much of a write must have reached the disk when the call returns.
@@ -69,6 +70,13 @@ bool tryRemoveFile(const QString &path);
 // Gives a file another name on the same file system; a file or link of that name goes. Throws
 // FileError (Write) and changes nothing.
 void renameFile(const QString &source, const QString &target);
+
+// Whether a name leads to anything, be it a link that leads nowhere.
+bool isAnythingAt(const QString &path);
+
+// Moves files to a folder on the same file system, which is made if need be. Those that are not
+// there are passed over. Throws FileError (Write) at the first that stays.
+void moveToFolder(const QStringList &paths, const QString &folder);
 
 // Puts the complete file source in the place of target (links followed, permissions of the target
 // kept) and removes source: by rename on one file system, else by a safe copy, and then a source

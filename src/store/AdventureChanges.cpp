@@ -1,5 +1,7 @@
 #include "store/AdventureChanges.h"
 
+#include "store/Session.h"
+
 namespace
 {
 void setFlags(Variables &variables, bool texts, bool marks)
@@ -34,6 +36,7 @@ void setFixed(Variables &variables, int n, bool fixed)
         return;
     mark = fixed ? 1 : 0;
     setFlags(variables, variables.AdventureModified, true);
+    tryKeepSession(variables);
     Q_EMIT variables.Events->marksChanged();
 }
 
@@ -43,5 +46,6 @@ void setTargetPhrase(Variables &variables, const QString &phrase,
     variables.TargetPhrase = phrase;
     variables.refIndex = index;
     setModified(variables);
+    tryKeepSession(variables);
     Q_EMIT variables.Events->targetPhraseChanged();
 }

@@ -3,7 +3,8 @@
 #include "store/AdventureEvents.h"
 #include "store/Variables.h"
 
-// The few functions that set what an adventure's listeners follow, and tell them.
+// The few functions that set what an adventure's listeners follow, and tell them. Marks and the
+// target phrase are kept for a start after a crash as well, see Session.h.
 
 // Whether saving has something to write: a text or a fixed mark.
 bool hasUnsavedChanges(const Variables &variables);

@@ -10,6 +10,8 @@
 #include "store/LongWork.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
+#include "store/Session.h"
+#include "store/SessionRecovery.h"
 #include "store/WorkingFiles.h"
 
 #include <QFileInfo>
@@ -40,7 +42,7 @@ void reserve(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        writeWholeFile(path, "Nothing yet", Durability::Data, Links::Follow);
+        writeWholeFile(path, Placeholder, Durability::Data, Links::Follow);
     else if (!info.isFile() || !info.isWritable())
         throw FileError(FileError::Operation::Write, path, QStringLiteral("cannot be replaced"),
                         info.isFile() ? std::errc::permission_denied : std::errc::is_a_directory);
@@ -70,8 +72,10 @@ bool AdventureCommands::LeaveAdventure()
         SaveCurParg(m_variables, m_view.editingBox(), m_prompts);
         return true;
     });
-    if (paragraphSaved && !hasUnsavedChanges(m_variables))
+    if (paragraphSaved && !hasUnsavedChanges(m_variables)) {
+        forgetSession(m_variables.WorkingFolder);
         return true;
+    }
     switch (AskToSave()) {
     case Prompts::Answer::Yes:
         return Save();
@@ -99,6 +103,8 @@ void AdventureCommands::discardChanges()
         return;
     }
     const QList<int> changed = changedNumbers(m_variables);
+    // Killed from here on, the program sets aside what is still there: some of it is not offered.
+    forgetSession(m_variables.WorkingFolder);
     DiscardWorkingFiles(m_variables);
     setSaved(m_variables);
     takeOver(m_variables, std::move(saved));
@@ -167,13 +173,15 @@ void AdventureCommands::openFrom(const std::function<QString()> &choose)
 bool AdventureCommands::NewAdventure(const QString &path)
 {
     return reportingFailures(m_prompts, [&] {
-        reserve(path);
-        claim(path);
+        Variables created = m_variables;
         AdventureContents empty;
         empty.version = CurrentVersion;
         empty.targetPhrase = QStringLiteral(" au ");
-        takeOver(m_variables, std::move(empty));
-        nameAdventure(path);
+        takeOver(created, std::move(empty));
+        setNames(created, path);
+        reserveAndClaim(created);
+        m_variables = std::move(created);
+        announceAdventure();
         setModified(m_variables);
         Save();
         m_view.LoadParg(1);
@@ -198,8 +206,9 @@ bool AdventureCommands::OpenAdventure(const QString &chosen)
             m_report.announce(tr("Ouverture arrêtée."));
             return false;
         }
+        setNames(opened, path);
         m_variables = std::move(opened);
-        nameAdventure(path);
+        announceAdventure();
         showCurrentParagraph();
         tellUnreadable(damagedParagraphs(m_variables), m_prompts);
         return true;
@@ -238,12 +247,42 @@ void AdventureCommands::claim(const QString &path)
                         std::errc::device_or_resource_busy);
 }
 
-void AdventureCommands::nameAdventure(const QString &path)
+// The session knows of it first, so that a placeholder left by a kill goes.
+void AdventureCommands::reserveAndClaim(const Variables &created)
 {
-    m_variables.AdventurePath = QFileInfo(path).absoluteFilePath();
-    m_variables.AdventureFileName = QFileInfo(path).fileName();
-    m_variables.FilePrefix = filePrefixOf(m_variables.AdventureFileName);
-    m_prompts.beginIn(QFileInfo(path).absolutePath());
+    tryKeepSession(created);
+    try {
+        reserve(created.AdventurePath);
+        claim(created.AdventurePath);
+    } catch (const FileError &) {
+        forgetSession(created.WorkingFolder);
+        throw;
+    }
+}
+
+void AdventureCommands::OpenUnsaved(const UnsavedWork &work)
+{
+    {
+        LongWork rebuilding(m_report, tr("Graphing..."));
+        Variables opened = m_variables;
+        takeOver(opened, work, rebuilding.progress());
+        m_variables = std::move(opened);
+    }
+    if (!m_claim.take(m_variables.AdventurePath))
+        m_claim.giveUp(); // saving asks for it once more
+    announceAdventure();
+    showCurrentParagraph();
+    if (work.box) {
+        m_view.editingBox().setRtf(*work.box);
+        m_variables.ParagraphDirty = true;
+    }
+    setModified(m_variables);
+    tellUnreadable(damagedParagraphs(m_variables), m_prompts);
+}
+
+void AdventureCommands::announceAdventure()
+{
+    m_prompts.beginIn(QFileInfo(m_variables.AdventurePath).absolutePath());
     Q_EMIT m_variables.Events->adventureReplaced();
 }
 

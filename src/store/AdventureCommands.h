@@ -10,6 +10,7 @@
 class AdventureSave;
 class RichTextBox;
 class WorkReport;
+struct UnsavedWork;
 
 // What the commands ask of whoever shows the adventure: the main window, or a script without one.
 class AdventureView
@@ -58,6 +59,10 @@ public:
     // then refuses for as long as the other window has it.
     bool OpenAdventure(const QString &path);
 
+    // Opens the adventure that was open when the program was killed, with all that was unsaved, and
+    // modified. Throws UsmiraError, and the adventure open before stays as it was.
+    void OpenUnsaved(const UnsavedWork &work);
+
     // Writes the adventure if anything is unsaved. False when it still is afterwards.
     bool Save();
 
@@ -68,7 +73,8 @@ private:
     void showAgain();
     QString pathToOpen(const QString &path);
     void claim(const QString &path);
-    void nameAdventure(const QString &path);
+    void reserveAndClaim(const Variables &created);
+    void announceAdventure();
     void showCurrentParagraph();
     void rebuildIndex(Variables &opened);
     bool saveParagraph();

@@ -38,6 +38,9 @@ struct AdventureContents {
 
 inline constexpr int CurrentVersion = 35;
 
+// What holds the name of a new adventure until it is written.
+inline constexpr auto Placeholder = "Nothing yet";
+
 // Characters of a target phrase.
 inline constexpr qsizetype LongestPhrase = 32767;
 
@@ -56,6 +59,9 @@ int readVersion(const QString &path);
 // Makes the contents the adventure's state: all arrays fresh, no working file, nothing modified.
 // Path, name and prefix stay as they are.
 void takeOver(Variables &variables, AdventureContents contents);
+
+// Path, name and prefix of the adventure at path.
+void setNames(Variables &variables, const QString &path);
 
 // Gives the text of a written paragraph; nothing when it is to be left out.
 using TextSource = std::function<std::optional<QByteArray>(int)>;

@@ -6,8 +6,10 @@
 #include "richtext/RtfReader.h"
 #include "richtext/TextLimit.h"
 #include "store/AdventureFile.h"
+#include "store/WorkingFiles.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QtEndian>
 #include <algorithm>
 #include <limits>
@@ -277,4 +279,11 @@ void takeOver(Variables &variables, AdventureContents contents)
     variables.AdventureModified = false;
     variables.MarksModified = false;
     variables.ParagraphDirty = false;
+}
+
+void setNames(Variables &variables, const QString &path)
+{
+    variables.AdventurePath = QFileInfo(path).absoluteFilePath();
+    variables.AdventureFileName = QFileInfo(path).fileName();
+    variables.FilePrefix = filePrefixOf(variables.AdventureFileName);
 }

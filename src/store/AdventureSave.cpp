@@ -6,6 +6,7 @@
 #include "richtext/RichTextBox.h"
 #include "store/AdventureChanges.h"
 #include "store/ParagraphStore.h"
+#include "store/Session.h"
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 
@@ -80,6 +81,7 @@ bool AdventureSave::swap()
             return false;
         }
         KeptBytes kept(m_variables, m_leftOut, m_otherVersion);
+        noteSave(m_variables, *m_saved.file);
         moveIntoPlace(m_temporary, m_variables.AdventurePath);
         m_whereKept = kept.whereKept();
         kept.textsAreReplaced();
@@ -134,6 +136,7 @@ void AdventureSave::takeOverSaved()
     m_candidate.Damaged.fill(0);
     tryRemoveFile(WorkingFiles(adventureFolder()).temporarySave()); // of an earlier attempt
     DiscardWorkingFiles(m_candidate);
+    forgetSession(m_candidate.WorkingFolder);
     m_candidate.ParagraphDirty = false;
     m_variables = m_candidate;
 }

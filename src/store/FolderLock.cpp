@@ -4,6 +4,7 @@
 #include "platform/SafeFile.h"
 #include "platform/SystemFiles.h"
 #include "store/Journal.h"
+#include "store/SessionRecovery.h"
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 
@@ -66,16 +67,34 @@ FolderLock::~FolderLock()
         removeSessionFolder(m_workingFolder);
 }
 
-WorkingPlace takeWorkingFolder(const QString &workingFolder, const QString &bundledDocuments)
+WorkingPlace takeWorkingFolder(const QString &workingFolder, const QString &bundledDocuments,
+                               LeftSessions leftSessions)
 {
     prepareWorkingFolder(workingFolder, bundledDocuments);
-    WorkingPlace place{workingFolder, std::make_unique<FolderLock>(workingFolder)};
-    for (int k = 2; place.lock->isTaken() && k <= MostPlaces; ++k) {
-        place.folder = workingFolder + QString::number(k) + QDir::separator();
-        prepareWorkingFolder(place.folder, workingFolder);
-        place.lock = std::make_unique<FolderLock>(place.folder);
-        if (!place.lock->isTaken())
+    const auto placeOf = [&](int k) {
+        return k == 1 ? workingFolder : workingFolder + QString::number(k) + QDir::separator();
+    };
+    const auto take = [&](int k) {
+        if (k > 1)
+            prepareWorkingFolder(placeOf(k), workingFolder);
+        WorkingPlace place{placeOf(k), std::make_unique<FolderLock>(placeOf(k))};
+        if (k > 1 && !place.lock->isTaken())
             copySettings(WorkingFiles(workingFolder), WorkingFiles(place.folder));
+        return place;
+    };
+    for (int k = 1; leftSessions == LeftSessions::First && k <= MostPlaces; ++k) {
+        if (!hasLeftSession(placeOf(k)))
+            continue;
+        WorkingPlace place = take(k);
+        if (!place.lock->isTaken() && hasLeftSession(place.folder))
+            return place;
     }
-    return place;
+    for (int k = 1; k < MostPlaces; ++k) {
+        if (leftSessions == LeftSessions::Avoid && hasLeftSession(placeOf(k)))
+            continue;
+        WorkingPlace place = take(k);
+        if (!place.lock->isTaken())
+            return place;
+    }
+    return take(MostPlaces);
 }

@@ -24,6 +24,12 @@ private:
     bool m_taken = false;
 };
 
+// What to do about a free working folder where a program that was killed has left its session.
+enum class LeftSessions {
+    First, // work there, so that it can be offered
+    Avoid, // leave it alone
+};
+
 // A working folder to oneself.
 struct WorkingPlace {
     QString folder; // ends with a separator
@@ -33,4 +39,5 @@ struct WorkingPlace {
 // The working folder, prepared with the bundled documents. While other programs work there it is a
 // private folder inside, "2", "3" and so on, with the settings and documents of the main one as
 // they are now. Failures are ignored: the program starts without.
-WorkingPlace takeWorkingFolder(const QString &workingFolder, const QString &bundledDocuments);
+WorkingPlace takeWorkingFolder(const QString &workingFolder, const QString &bundledDocuments,
+                               LeftSessions leftSessions);

@@ -3,10 +3,10 @@
 #include "platform/Errors.h"
 #include "platform/SafeFile.h"
 #include "richtext/TextLimit.h"
+#include "store/SummedLines.h"
 #include "store/Variables.h"
 #include "store/WorkingFiles.h"
 
-#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
@@ -22,13 +22,6 @@ constexpr qint64 LargestJournal = 256 * 1024 * 1024;
 // Bytes: no file name is longer than 255 of them.
 constexpr qsizetype LongestPrefix = 246;
 
-QByteArray sha256(QByteArrayView bytes)
-{
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    hash.addData(bytes.toByteArray());
-    return hash.result().toHex();
-}
-
 QByteArray flag(bool on)
 {
     return on ? "1" : "0";
@@ -41,13 +34,8 @@ class JournalReader
 public:
     bool read(QByteArrayView bytes)
     {
-        while (!bytes.isEmpty()) {
-            const qsizetype end = bytes.indexOf("\r\n");
-            if (end < 0 || !readLine(bytes.first(end).toByteArray().split(' ')))
-                return false;
-            bytes = bytes.sliced(end + 2);
-        }
-        return isFileNamePart(m_journal.filePrefix) && !placesEmptied();
+        const auto take = [this](const QList<QByteArray> &words) { return readLine(words); };
+        return readSummed(bytes, take) && isFileNamePart(m_journal.filePrefix) && !placesEmptied();
     }
     const Journal &journal() const { return m_journal; }
 
@@ -57,11 +45,11 @@ private:
         const QByteArray &kind = words.first();
         if (kind == "place")
             return place({words.value(1).toInt(), words.value(2).toInt(), words.value(3) == "1",
-                          words.value(4), decoded(words.value(5))});
+                          words.value(4), textOfWord(words.value(5))});
         if (kind == "empty")
             return empty({words.value(1).toInt(), words.value(2) == "1"});
         if (kind == "prefix")
-            m_journal.filePrefix = decoded(words.value(1));
+            m_journal.filePrefix = textOfWord(words.value(1));
         return kind == "prefix" || kind == "Usmira";
     }
 
@@ -75,11 +63,6 @@ private:
     {
         m_journal.emptied.append(emptied);
         return isNew(m_emptied, emptied.number);
-    }
-
-    static QString decoded(const QByteArray &word)
-    {
-        return QString::fromUtf8(QByteArray::fromPercentEncoding(word));
     }
 
     static bool isNew(std::set<int> &numbers, int n)
@@ -114,21 +97,15 @@ bool isPlainFile(const QString &path, qint64 limit)
     return info.isFile() && !info.isSymLink() && info.size() <= limit;
 }
 
-bool isAnythingAt(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.exists() || info.isSymLink();
-}
-
 // The program deletes nothing that it does not understand.
-void setAside(const WorkingFiles &files)
+QString setAside(const WorkingFiles &files)
 {
     const QString folder = files.newRecoveryFolder(QDateTime::currentDateTime());
-    QDir().mkpath(folder);
-    const QStringList aside = files.allParked() << files.journal();
-    for (const QString &path : aside)
-        renameFile(path, folder + u'/' + QFileInfo(path).fileName());
+    // The journal goes first: without it the rest counts for nothing.
+    moveToFolder(QStringList(files.journal()) + files.allParked() + QStringList(files.nextState()),
+                 folder);
     removeSessionFolder(files.folder());
+    return folder;
 }
 
 // A link would lead elsewhere. Anything else that is no folder is in the way, and kept.
@@ -138,9 +115,7 @@ void clearSessionName(const WorkingFiles &files)
     if (session.isSymLink()) {
         removeFile(files.session());
     } else if (session.exists() && !session.isDir()) {
-        const QString folder = files.newRecoveryFolder(QDateTime::currentDateTime());
-        QDir().mkpath(folder);
-        renameFile(files.session(), folder + u'/' + session.fileName());
+        moveToFolder({files.session()}, files.newRecoveryFolder(QDateTime::currentDateTime()));
     }
 }
 
@@ -180,22 +155,21 @@ bool areTextsThere(const QString &workingFolder, const Journal &journal)
 QByteArray journalBytes(const Journal &journal)
 {
     QByteArray bytes = QByteArray(FirstLine) + "\r\n";
-    bytes += "prefix " + journal.filePrefix.toUtf8().toPercentEncoding() + "\r\n";
+    bytes += "prefix " + wordOf(journal.filePrefix) + "\r\n";
     for (const Journal::Placed &placed : journal.placed)
         bytes += "place " + fourDigits(placed.before).toLatin1() + ' ' +
                  fourDigits(placed.after).toLatin1() + ' ' + flag(placed.fixed) + ' ' +
-                 placed.sha256 + ' ' + placed.references.toUtf8().toPercentEncoding("/") + "\r\n";
+                 placed.sha256 + ' ' + wordOf(placed.references, "/") + "\r\n";
     for (const Journal::Emptied &emptied : journal.emptied)
         bytes +=
             "empty " + fourDigits(emptied.number).toLatin1() + ' ' + flag(emptied.fixed) + "\r\n";
-    return bytes + "sum " + sha256(bytes) + "\r\n";
+    return summed(bytes);
 }
 
 std::optional<Journal> journalOf(QByteArrayView bytes)
 {
-    const qsizetype sumAt = bytes.lastIndexOf("sum ");
     JournalReader reader;
-    if (sumAt < 0 || !reader.read(bytes.first(sumAt)) || journalBytes(reader.journal()) != bytes)
+    if (!reader.read(bytes) || journalBytes(reader.journal()) != bytes)
         return std::nullopt;
     return reader.journal();
 }
@@ -248,6 +222,8 @@ void placeJournal(const QString &workingFolder, const Journal &journal)
     }
     for (const Journal::Emptied &emptied : journal.emptied)
         makeRoom(files, emptied.number);
+    if (isAnythingAt(files.nextState()))
+        renameFile(files.nextState(), files.state());
     // The journal goes for certain before anything else happens: placed once more after later
     // edits, it would undo them.
     syncFolder(workingFolder);
@@ -285,25 +261,26 @@ std::optional<QString> waitingText(const Journal &journal, const QString &workin
     return QFileInfo::exists(parked) ? std::optional(parked) : std::nullopt;
 }
 
-void setJournalAside(const QString &workingFolder)
+QString setJournalAside(const QString &workingFolder)
 {
     const WorkingFiles files(workingFolder);
-    if (hasJournal(files))
-        setAside(files);
+    return hasJournal(files) ? setAside(files) : QString();
 }
 
-void recoverJournal(const QString &workingFolder)
+QString recoverJournal(const QString &workingFolder)
 {
     const WorkingFiles files(workingFolder);
     clearSessionName(files);
     const std::optional<Journal> journal = readJournal(files);
+    QString aside;
     if (journal && areTextsThere(workingFolder, *journal))
         placeJournal(workingFolder, *journal);
     else
-        setJournalAside(workingFolder);
-    const QStringList left =
-        files.allParked() + files.allBefore() + files.halfWritten(files.journal());
+        aside = setJournalAside(workingFolder);
+    const QStringList left = files.allParked() + files.allBefore() +
+                             files.halfWritten(files.journal()) + QStringList(files.nextState());
     for (const QString &path : left)
         removeFile(path);
     removeSessionFolder(workingFolder);
+    return aside;
 }

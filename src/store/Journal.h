@@ -57,8 +57,9 @@ void removeSessionFolder(const QString &workingFolder);
 // LimitError when the journal is too long to be read again, and there is no journal.
 void commitJournal(const QString &workingFolder, const Journal &journal);
 
-// Moves the parked texts to their working files, and then removes the journal. What was there, and
-// the working files of the emptied paragraphs, are kept as WorkingFiles::before(). Throws FileError
+// Moves the parked texts to their working files, the session state that goes with them into its
+// place, and then removes the journal. What was there, and the working files of the emptied
+// paragraphs, are kept as WorkingFiles::before(). Throws FileError
 // at the first failure; may be called again, and goes on from there.
 void placeJournal(const QString &workingFolder, const Journal &journal);
 
@@ -74,10 +75,11 @@ void tryFinishLeftJournal(Variables &variables);
 std::optional<QString> waitingText(const Journal &journal, const QString &workingFolder, int n);
 
 // Moves a journal that the start of the program could not finish, and its parked texts, to a folder
-// "Récupération ...": placed now, it would overwrite what was edited since. Throws FileError.
-void setJournalAside(const QString &workingFolder);
+// "Récupération ...": placed now, it would overwrite what was edited since. Gives the folder, empty
+// when there was no journal. Throws FileError.
+QString setJournalAside(const QString &workingFolder);
 
 // At the start of the program: places a journal, and removes parked texts without one, left by a
 // change that was never committed. A damaged journal, or one whose texts are not all there as they
-// were, is set aside. Throws FileError.
-void recoverJournal(const QString &workingFolder);
+// were, is set aside; gives the folder then. Throws FileError.
+QString recoverJournal(const QString &workingFolder);

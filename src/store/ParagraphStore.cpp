@@ -8,6 +8,7 @@
 #include "store/DamagedTexts.h"
 #include "store/Journal.h"
 #include "store/ReferenceIndex.h"
+#include "store/Session.h"
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 
@@ -19,15 +20,46 @@
 
 namespace
 {
+// A file of that name counts for nothing, and must not be taken for the one that is coming. It may
+// be what a start of the program could not set aside.
+void clearName(const WorkingFiles &files, const QString &path)
+{
+    if (QFileInfo(path).isFile())
+        moveToFolder({path}, files.newRecoveryFolder(QDateTime::currentDateTime()));
+    else
+        removeFile(path);
+}
+
+// The text is written as what was last typed and then becomes the working file, so that after a
+// kill the newer of the two is never in doubt.
 void saveText(Variables &variables, const QByteArray &rtf, int n)
 {
     makeWorkingFolder(variables.WorkingFolder);
-    writeWholeFile(WorkingFiles(variables).text(n), rtf, Durability::Data, Links::Replace);
+    const WorkingFiles files(variables);
+    SessionState state = sessionState(variables);
+    if (variables.Extracted.at(n) == 0) {
+        clearName(files, files.text(n));
+        state.next = n;
+    }
+    keepSession(variables.WorkingFolder, state);
+    keepTyped(variables, n, rtf);
+    renameFile(files.typed(n), files.text(n));
     variables.Extracted.at(n) = 1;
 }
 
-void dropText(Variables &variables, int n)
+// What was last typed says that the box is empty until nothing else is left of the text.
+void dropText(Variables &variables, const QByteArray &rtf, int n)
 {
+    if (variables.Written.at(n) == 0)
+        return;
+    makeWorkingFolder(variables.WorkingFolder);
+    keepSession(variables);
+    keepTyped(variables, n, rtf);
+    SessionState state = sessionState(variables);
+    state.written.reset(static_cast<std::size_t>(n));
+    state.extracted.reset(static_cast<std::size_t>(n));
+    state.emptied.insert(std::lower_bound(state.emptied.begin(), state.emptied.end(), n), n);
+    keepSession(variables.WorkingFolder, state);
     if (variables.Extracted.at(n) == 1)
         removeFile(WorkingFiles(variables).text(n));
     variables.Extracted.at(n) = 0;
@@ -49,12 +81,13 @@ void save(Variables &variables, RichTextBox &box, const std::function<void(int)>
             variables.Damaged.at(current) = 0; // its bytes are kept
         }
         if (text.isEmpty())
-            dropText(variables, current);
+            dropText(variables, rtf, current);
         else
             saveText(variables, rtf, current);
         noteText(variables, current, text);
     }
     variables.ParagraphDirty = false;
+    tryRemoveFile(WorkingFiles(variables).typed(current));
     box.select(0, 0);
     if (leftAlone)
         return;
@@ -110,15 +143,20 @@ void DiscardWorkingFiles(Variables &variables)
 
 QString setWorkingFilesAside(Variables &variables)
 {
-    const QString folder = WorkingFiles(variables).newRecoveryFolder(QDateTime::currentDateTime());
+    const WorkingFiles files(variables);
+    const QString folder = files.newRecoveryFolder(QDateTime::currentDateTime());
     if (!QDir().mkpath(folder))
         return variables.WorkingFolder;
-    dropAll(variables, [&folder](const QString &path) {
+    const auto move = [&folder](const QString &path) {
         try {
-            renameFile(path, folder + u'/' + QFileInfo(path).fileName());
+            moveToFolder({path}, folder);
         } catch (const FileError &) {
             return; // it stays
         }
-    });
+    };
+    // The state first: without it the rest counts for nothing.
+    const QStringList session = QStringList(files.state()) + files.allTyped();
+    std::for_each(session.begin(), session.end(), move);
+    dropAll(variables, move);
     return folder;
 }

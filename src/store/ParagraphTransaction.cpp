@@ -5,6 +5,7 @@
 #include "richtext/TextLimit.h"
 #include "store/AdventureChanges.h"
 #include "store/ParagraphTexts.h"
+#include "store/Session.h"
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 
@@ -37,6 +38,7 @@ ParagraphTransaction::~ParagraphTransaction()
             continue; // it counts for nothing, and goes at the next start
         }
     }
+    tryRemoveFile(WorkingFiles(m_variables).nextState());
     removeSessionFolder(m_variables.WorkingFolder);
 }
 
@@ -77,7 +79,7 @@ void ParagraphTransaction::commit()
     const bool changes = !decided.placed.isEmpty() || !decided.emptied.isEmpty();
     if (changes) {
         refuseLostTexts(decided);
-        makeSessionFolder(m_variables.WorkingFolder);
+        keepStates(decided);
         syncFileSystem(m_variables.WorkingFolder);
         commitJournal(m_variables.WorkingFolder, decided);
     }
@@ -85,12 +87,27 @@ void ParagraphTransaction::commit()
     if (changes) {
         rememberBefore(decided);
         place(decided);
-        takeOver(decided);
     }
-    if (m_rangeBefore)
-        RecomputeWrittenRange(m_variables);
+    takeOver(m_variables, decided);
     if (changes)
         announce(decided);
+}
+
+// Before the journal counts, the state is the one before the change, and the one after it lies
+// beside it.
+void ParagraphTransaction::keepStates(const Journal &journal) const
+{
+    const QString &folder = m_variables.WorkingFolder;
+    makeSessionFolder(folder);
+    SessionState before = sessionState(m_variables);
+    if (m_rangeBefore) {
+        before.lowest = m_rangeBefore->lowest;
+        before.highest = m_rangeBefore->highest;
+    }
+    keepSession(folder, before);
+    Variables after = m_variables;
+    takeOver(after, journal);
+    writeForLater(WorkingFiles(folder).nextState(), sessionStateBytes(sessionState(after)));
 }
 
 void ParagraphTransaction::rememberBefore(const Journal &journal)
@@ -166,26 +183,28 @@ void ParagraphTransaction::place(const Journal &journal)
     }
 }
 
-void ParagraphTransaction::takeOver(const Journal &journal)
+void ParagraphTransaction::takeOver(Variables &variables, const Journal &journal) const
 {
     for (const Journal::Emptied &emptied : journal.emptied) {
         const int n = emptied.number;
-        m_variables.Written.at(n) = 0;
-        m_variables.Extracted.at(n) = 0;
-        m_variables.Unmixable.at(n) = emptied.fixed ? 1 : 0;
-        m_variables.refIndex.at(n).clear();
+        variables.Written.at(n) = 0;
+        variables.Extracted.at(n) = 0;
+        variables.Unmixable.at(n) = emptied.fixed ? 1 : 0;
+        variables.refIndex.at(n).clear();
     }
     for (const Journal::Placed &placed : journal.placed) {
         const int n = placed.after;
         const auto number = static_cast<qint16>(placed.after);
-        m_variables.Written.at(n) = 1;
-        m_variables.Extracted.at(n) = 1;
-        m_variables.Damaged.at(n) = 0;
-        m_variables.Unmixable.at(n) = placed.fixed ? 1 : 0;
-        m_variables.refIndex.at(n) = placed.references;
-        m_variables.LowestWritten = std::min(m_variables.LowestWritten, number);
-        m_variables.HighestWritten = std::max(m_variables.HighestWritten, number);
+        variables.Written.at(n) = 1;
+        variables.Extracted.at(n) = 1;
+        variables.Damaged.at(n) = 0;
+        variables.Unmixable.at(n) = placed.fixed ? 1 : 0;
+        variables.refIndex.at(n) = placed.references;
+        variables.LowestWritten = std::min(variables.LowestWritten, number);
+        variables.HighestWritten = std::max(variables.HighestWritten, number);
     }
+    if (m_rangeBefore)
+        RecomputeWrittenRange(variables);
 }
 
 void ParagraphTransaction::announce(const Journal &journal) const

@@ -71,8 +71,9 @@ private:
     Journal journal() const;
     void rememberBefore(const Journal &journal);
     void refuseLostTexts(const Journal &journal) const;
+    void keepStates(const Journal &journal) const;
     void place(const Journal &journal);
-    void takeOver(const Journal &journal);
+    void takeOver(Variables &variables, const Journal &journal) const;
     void announce(const Journal &journal) const;
 
     Variables &m_variables;

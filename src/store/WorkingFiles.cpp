@@ -23,6 +23,14 @@ QStringList pathsOf(const QString &folder, const QString &names)
         paths.append(dir.filePath(name));
     return paths;
 }
+
+QStringList withNumbers(QStringList paths)
+{
+    paths.removeIf([](const QString &path) {
+        return WorkingFiles::numberOf(path) > Variables::LastParagraph;
+    });
+    return paths;
+}
 } // namespace
 
 WorkingFiles::WorkingFiles(const QString &folder, const QString &filePrefix)
@@ -96,6 +104,11 @@ QString WorkingFiles::state() const
     return session() + QStringLiteral("/Etat.xyz");
 }
 
+QString WorkingFiles::nextState() const
+{
+    return session() + QStringLiteral("/Suite.xyz");
+}
+
 QString WorkingFiles::typed(int n) const
 {
     return numberedText(session() + QStringLiteral("/Saisie-"), n);
@@ -121,9 +134,19 @@ QString WorkingFiles::newRecoveryFolder(const QDateTime &now) const
     return folder;
 }
 
+QStringList WorkingFiles::allTexts() const
+{
+    return withNumbers(pathsOf(m_folder, QStringLiteral("*-[0-2][0-9][0-9][0-9].rtf")));
+}
+
 QStringList WorkingFiles::allParked() const
 {
     return pathsOf(m_folder, QStringLiteral("[0-9][0-9][0-9][0-9].xyz"));
+}
+
+QStringList WorkingFiles::allTyped() const
+{
+    return withNumbers(pathsOf(session(), QStringLiteral("Saisie-[0-2][0-9][0-9][0-9].rtf")));
 }
 
 QStringList WorkingFiles::allBefore() const
@@ -135,6 +158,18 @@ QStringList WorkingFiles::halfWritten(const QString &path) const
 {
     const QFileInfo info(path);
     return pathsOf(info.path(), info.fileName() + QStringLiteral(".*"));
+}
+
+// The temporary names have six characters behind the name.
+QStringList WorkingFiles::halfWrittenInSession() const
+{
+    return pathsOf(session(), QStringLiteral("Etat.xyz.??????")) +
+           pathsOf(session(), QStringLiteral("Saisie-[0-2][0-9][0-9][0-9].rtf.??????"));
+}
+
+int WorkingFiles::numberOf(const QString &path)
+{
+    return path.chopped(QStringView(u".rtf").size()).last(4).toInt();
 }
 
 bool WorkingFiles::isOwnName(const QString &path)

@@ -17,6 +17,7 @@ struct Variables;
 //   Copyright.rtf and the like         documents, which the author may replace
 //   Session/Journal.xyz                a change of many paragraphs that counts
 //   Session/Etat.xyz                   what is unsaved
+//   Session/Suite.xyz                  the same once the change in the journal is put in place
 //   Session/Saisie-0026.rtf            the box as last typed
 //   Session/Avant-0026.rtf             the working file that paragraph 26 had before a change
 //   Session/Usmira.lock                the program that works here
@@ -56,6 +57,7 @@ public:
     QString session() const; // without a separator at its end
     QString journal() const;
     QString state() const;
+    QString nextState() const;
     QString typed(int n) const;
     QString before(int n) const;
     QString lock() const;
@@ -63,11 +65,18 @@ public:
     // Looks: a name that is still free.
     QString newRecoveryFolder(const QDateTime &now) const;
 
-    // Looks: full paths of all parked texts, of all texts kept from before a change, and of what
-    // writing a file was interrupted and left beside it.
+    // Looks: full paths of all working files of any adventure, of all parked texts, of all boxes as
+    // last typed, of all texts kept from before a change, and of what writing a file was
+    // interrupted and left beside it.
+    QStringList allTexts() const;
     QStringList allParked() const;
+    QStringList allTyped() const;
     QStringList allBefore() const;
     QStringList halfWritten(const QString &path) const;
+    QStringList halfWrittenInSession() const; // of state and typed boxes
+
+    // The number in the name of a working file, or of a box as last typed.
+    static int numberOf(const QString &path);
 
     // Whether a file of this name, anywhere in the working folder, is the program's own, of this
     // adventure or another. All others are the author's to replace.

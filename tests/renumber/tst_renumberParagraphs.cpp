@@ -161,7 +161,8 @@ private Q_SLOTS:
                      .list(5, {}) // an index that misses a reference
                      .list(2, "0003/abcd/9999/"));
         a.renumber(SwapMap(3, 7));
-        QCOMPARE(a.workingFiles().join(u' '), "a-0001.rtf a-0002.rtf a-0003.rtf a-0007.rtf");
+        QCOMPARE(a.workingFiles().filter(".rtf").join(u' '),
+                 "a-0001.rtf a-0002.rtf a-0003.rtf a-0007.rtf");
         QCOMPARE(a.text(1), "Allez au 7, au 3 ou au 266");
         QCOMPARE(a.entry(1), "0007/0003/0026/"); // edited in place, not scanned
         QCOMPARE(a.text(2), "Ni au 1 ni au 5");

@@ -248,7 +248,7 @@ private Q_SLOTS:
                     "enregistrés sont rangés dans le dossier " +
                     folder + u'.');
         QVERIFY(e.commands.LeaveAdventure());
-        QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList{"LL-0002.rtf"});
+        QCOMPARE(QDir(folder).entryList(QDir::Files), (QStringList{"Etat.xyz", "LL-0002.rtf"}));
     }
 
     void aFailedSwapKeepsTheWorkAndCanBeTriedAgain()
@@ -259,7 +259,7 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(path) && QDir().mkpath(path + "/full"));
         e.expectSwapFailure();
         QVERIFY(!e.commands.Save());
-        QCOMPARE(e.workingFiles(), (QStringList{"LL-0002.rtf", Temporary}));
+        QCOMPARE(e.workingFiles(), (QStringList{"LL-0002.rtf", Temporary, "Session/Etat.xyz"}));
         QVERIFY(e.v.AdventureModified);
         QCOMPARE(GetParagraphRtf(e.v, 1), rtfOf("Va au 2"));
         QVERIFY(QDir(path).removeRecursively());

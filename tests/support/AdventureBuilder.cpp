@@ -138,5 +138,13 @@ QByteArray TestAdventure::content(const QString &name) const
 
 QStringList TestAdventure::workingFiles() const
 {
-    return QDir(variables.WorkingFolder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    const QString session = QStringLiteral("Session");
+    const QDir folder(variables.WorkingFolder);
+    QStringList names = folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    const QStringList inside = QDir(folder.filePath(session)).entryList(QDir::Files);
+    if (!inside.isEmpty())
+        names.removeOne(session);
+    for (const QString &name : inside)
+        names.append(session + u'/' + name);
+    return names;
 }

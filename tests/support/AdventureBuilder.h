@@ -64,7 +64,7 @@ public:
     QString file(const QString &name, const QByteArray &bytes) const;
     QString path(const QString &name) const { return m_folder.filePath(name); }
     QByteArray content(const QString &name) const;
-    // Names of what lies in the working folder, sorted.
+    // Names of what lies in the working folder, sorted, and last of what lies in "Session".
     QStringList workingFiles() const;
 
     Variables variables;

@@ -1,0 +1,110 @@
+#include "store/Session.h"
+
+#include "platform/Errors.h"
+#include "platform/SafeFile.h"
+#include "store/Journal.h"
+#include "store/ParagraphStore.h"
+#include "store/WorkingFiles.h"
+#include "store/WorkingFolder.h"
+
+#include <QFileInfo>
+
+namespace
+{
+// Far above the longest state, with the longest path and phrase.
+constexpr qint64 LargestState = 1024 * 1024;
+
+// Which paragraph was on the screen is not worth a write of its own.
+bool saysTheSame(const SessionState &kept, const SessionState &state)
+{
+    SessionState one = withNext(kept);
+    one.current = state.current;
+    return one == withNext(state);
+}
+} // namespace
+
+std::optional<SessionState> keptSession(const QString &workingFolder)
+{
+    const WorkingFiles files(workingFolder);
+    const QFileInfo info(files.state());
+    if (QFileInfo(files.session()).isSymLink() || info.isSymLink() || !info.isFile())
+        return std::nullopt;
+    try {
+        return sessionStateOf(readWholeFile(files.state(), LargestState));
+    } catch (const FileError &) {
+        return std::nullopt;
+    }
+}
+
+void keepSession(const QString &workingFolder, const SessionState &state)
+{
+    const std::optional<SessionState> kept = keptSession(workingFolder);
+    if (kept && saysTheSame(*kept, state))
+        return;
+    makeSessionFolder(workingFolder);
+    writeWholeFile(WorkingFiles(workingFolder).state(), sessionStateBytes(state), Durability::Data,
+                   Links::Replace);
+}
+
+void keepSession(const Variables &variables)
+{
+    keepSession(variables.WorkingFolder, sessionState(variables));
+}
+
+// While a journal waits, the state is the one before it, and goes with it.
+void tryKeepSession(const Variables &variables)
+{
+    if (!variables.AdventureOpen || variables.JournalLeft)
+        return;
+    try {
+        makeWorkingFolder(variables.WorkingFolder);
+        keepSession(variables);
+    } catch (const FileError &) {
+        return;
+    }
+}
+
+void noteSave(const Variables &variables, OpenedFile &saved)
+{
+    if (variables.JournalLeft)
+        return;
+    SessionState state = sessionState(variables);
+    state.saving = saved.identity();
+    try {
+        keepSession(variables.WorkingFolder, state);
+    } catch (const FileError &) {
+        return;
+    }
+}
+
+void keepTyped(const Variables &variables, int n, const QByteArray &rtf)
+{
+    writeWholeFile(WorkingFiles(variables).typed(n), rtf, Durability::Data, Links::Replace);
+}
+
+void keepBox(const Variables &variables, const RichTextBox &box)
+{
+    if (!variables.AdventureOpen || !variables.ParagraphDirty || variables.JournalLeft)
+        return;
+    makeWorkingFolder(variables.WorkingFolder);
+    const QByteArray rtf = rtfToSave(box);
+    keepSession(variables);
+    keepTyped(variables, variables.CurrentParagraph, rtf);
+}
+
+void forgetSession(const QString &workingFolder)
+{
+    const WorkingFiles files(workingFolder);
+    tryRemoveFile(files.state());
+    const QStringList typed = files.allTyped();
+    for (const QString &path : typed)
+        tryRemoveFile(path);
+    removeSessionFolder(workingFolder);
+}
+
+void moveSession(const QString &workingFolder, const QString &folder)
+{
+    const WorkingFiles files(workingFolder);
+    moveToFolder(QStringList(files.state()) + files.allTyped(), folder);
+    removeSessionFolder(workingFolder);
+}

@@ -1,0 +1,50 @@
+#include "store/TypedSnapshot.h"
+
+#include "store/Session.h"
+
+#include <algorithm>
+
+namespace
+{
+constexpr qint64 Pause = 3000; // milliseconds
+constexpr qint64 Longest = 30000;
+
+// Keeping the text takes no more than one part in so many of the time.
+constexpr qint64 Share = 300;
+} // namespace
+
+TypedSnapshot::TypedSnapshot(const Variables &variables, const RichTextBox &box)
+    : m_variables(variables), m_box(box), m_longest(Pause)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &TypedSnapshot::take);
+}
+
+void TypedSnapshot::follow()
+{
+    if (!m_variables.ParagraphDirty) {
+        m_timer.stop();
+        m_sinceFirst.invalidate();
+        return;
+    }
+    if (!m_sinceFirst.isValid())
+        m_sinceFirst.start();
+    const qint64 left = std::max<qint64>(m_longest - m_sinceFirst.elapsed(), 0);
+    m_timer.start(static_cast<int>(std::min(Pause, left)));
+}
+
+void TypedSnapshot::take()
+{
+    m_timer.stop();
+    if (!m_sinceFirst.isValid())
+        return;
+    m_sinceFirst.invalidate();
+    QElapsedTimer cost;
+    cost.start();
+    try {
+        keepBox(m_variables, m_box);
+    } catch (const std::exception &) {
+        return;
+    }
+    m_longest = std::clamp(Share * cost.elapsed(), Pause, Longest);
+}
