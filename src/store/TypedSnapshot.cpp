@@ -7,14 +7,16 @@
 namespace
 {
 constexpr qint64 Pause = 3000; // milliseconds
+// Of unbroken typing. A busy disk may take its time, and yet no more than three seconds are to go.
+constexpr qint64 Soonest = 2000;
 constexpr qint64 Longest = 30000;
 
 // Keeping the text takes no more than one part in so many of the time.
-constexpr qint64 Share = 300;
+constexpr qint64 Share = 60;
 } // namespace
 
 TypedSnapshot::TypedSnapshot(const Variables &variables, const RichTextBox &box)
-    : m_variables(variables), m_box(box), m_longest(Pause)
+    : m_variables(variables), m_box(box), m_longest(Soonest)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &TypedSnapshot::take);
@@ -46,5 +48,5 @@ void TypedSnapshot::take()
     } catch (const std::exception &) {
         return;
     }
-    m_longest = std::clamp(Share * cost.elapsed(), Pause, Longest);
+    m_longest = std::clamp(Share * cost.elapsed(), Soonest, Longest);
 }

@@ -8,8 +8,8 @@ class RichTextBox;
 struct Variables;
 
 // Keeps what is being typed, see keepBox(): three seconds after the last key, and in typing without
-// such a pause every three seconds too, or as seldom as every thirty where the text is so long that
-// keeping it would be felt. Both must outlive it.
+// such a pause every two seconds, or as seldom as every thirty where keeping the text takes so long
+// that it would be felt. Both must outlive it.
 class TypedSnapshot : public QObject
 {
     Q_OBJECT
