@@ -277,8 +277,8 @@ QString recoverJournal(const QString &workingFolder)
         placeJournal(workingFolder, *journal);
     else
         aside = setJournalAside(workingFolder);
-    const QStringList left = files.allParked() + files.allBefore() +
-                             files.halfWritten(files.journal()) + QStringList(files.nextState());
+    const QStringList left = files.allParked() + files.allBefore() + files.halfWritten() +
+                             QStringList(files.nextState());
     for (const QString &path : left)
         removeFile(path);
     removeSessionFolder(workingFolder);

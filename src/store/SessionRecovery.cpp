@@ -93,8 +93,6 @@ private:
 
 std::optional<UnsavedWork> Recovery::offer()
 {
-    for (const QString &path : m_files.halfWrittenInSession())
-        removeFile(path);
     const std::optional<SessionState> kept = keptSession(m_files.folder());
     if (kept)
         return offer(*kept);

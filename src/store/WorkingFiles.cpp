@@ -154,16 +154,11 @@ QStringList WorkingFiles::allBefore() const
     return pathsOf(session(), QStringLiteral("Avant-[0-9][0-9][0-9][0-9].rtf"));
 }
 
-QStringList WorkingFiles::halfWritten(const QString &path) const
-{
-    const QFileInfo info(path);
-    return pathsOf(info.path(), info.fileName() + QStringLiteral(".*"));
-}
-
 // The temporary names have six characters behind the name.
-QStringList WorkingFiles::halfWrittenInSession() const
+QStringList WorkingFiles::halfWritten() const
 {
-    return pathsOf(session(), QStringLiteral("Etat.xyz.??????")) +
+    return pathsOf(session(), QStringLiteral("Journal.xyz.??????")) +
+           pathsOf(session(), QStringLiteral("Etat.xyz.??????")) +
            pathsOf(session(), QStringLiteral("Saisie-[0-2][0-9][0-9][0-9].rtf.??????"));
 }
 
