@@ -12,7 +12,7 @@ constexpr qint64 Soonest = 2000;
 constexpr qint64 Longest = 30000;
 
 // Keeping the text takes no more than one part in so many of the time.
-constexpr qint64 Share = 60;
+constexpr qint64 Share = 10;
 } // namespace
 
 TypedSnapshot::TypedSnapshot(const Variables &variables, const RichTextBox &box)
