@@ -39,7 +39,9 @@ QString usage()
                "  --non           répond Non à toutes les questions\n"
                "  --recuperer     après un arrêt brusque, rouvre d'abord l'aventure avec ce qui "
                "n'était pas enregistré\n"
-               "                  (avec --non : le range dans un dossier Récupération)\n"
+               "                  (avec --non : le range dans un dossier Récupération) ; il reste à "
+               "reprendre tant\n"
+               "                  qu'il n'est pas enregistré\n"
                "  --aide          affiche cette aide\n"
                "\n"
                "Sans --oui ni --non, une question fait échouer la commande. À la fin, ce qui n'a "
@@ -135,13 +137,18 @@ int runScript(const QCommandLineParser &parser, QTextStream &errors)
     Commands commands(variables, prompts);
     if (unsaved)
         commands.open(*unsaved);
+    // What was recovered is another program's: it goes when it is saved, and not before.
+    const auto finish = [&](bool save) {
+        if (save || !unsaved)
+            commands.finish(save);
+    };
     try {
         runLines(scriptLines(parser), commands, prompts);
     } catch (const UsageError &) {
-        commands.finish(false);
+        finish(false);
         throw;
     }
-    commands.finish(parser.isSet(QStringLiteral("oui")) && !prompts.hasFailed());
+    finish(parser.isSet(QStringLiteral("oui")) && !prompts.hasFailed());
     return prompts.hasFailed() ? Failed : Done;
 }
 } // namespace

@@ -42,7 +42,7 @@ private Q_SLOTS:
         QDir().mkpath(WorkingFiles(folder).session());
         QFETCH(QByteArray, lock);
         write(WorkingFiles(folder).lock(), lock);
-        QCOMPARE(takeWorkingFolder(folder, {}).folder, folder);
+        QCOMPARE(takeWorkingFolder(folder, {}, LeftSessions::First).folder, folder);
         QVERIFY(!QFileInfo::exists(WorkingFiles(folder).session()));
     }
 
@@ -51,9 +51,9 @@ private Q_SLOTS:
         const TestAdventure adventure;
         const QString folder = adventure.variables.WorkingFolder;
         write(WorkingFiles(folder).settings(), "settings of the first");
-        const WorkingPlace first = takeWorkingFolder(folder, {});
-        const WorkingPlace second = takeWorkingFolder(folder, {});
-        const WorkingPlace place = takeWorkingFolder(folder, {});
+        const WorkingPlace first = takeWorkingFolder(folder, {}, LeftSessions::First);
+        const WorkingPlace second = takeWorkingFolder(folder, {}, LeftSessions::First);
+        const WorkingPlace place = takeWorkingFolder(folder, {}, LeftSessions::First);
         QCOMPARE(first.folder, folder);
         QCOMPARE(second.folder, folder + "2" + QDir::separator());
         QCOMPARE(place.folder, folder + "3" + QDir::separator());
