@@ -8,6 +8,7 @@
 #include "support/PromptRecorder.h"
 #include "support/TestTable.h"
 
+#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 #include <sys/stat.h>
@@ -203,7 +204,7 @@ private Q_SLOTS:
             Editor e;
             const bool written = target == "part.usm" && message == WriteFailure;
             if (written)
-                e.file("Dossier Usmira/Session", "no folder");
+                QVERIFY(QDir().mkpath(e.path("Dossier Usmira/Session/Suite.xyz/full")));
             if (message == unreadable)
                 e.v.SectionOffset.at(5) -= 1;
             e.prompts.expect(message, "BUG");

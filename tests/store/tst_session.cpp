@@ -18,6 +18,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <memory>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -29,16 +30,14 @@ namespace
 class Answering : public PromptRecorder
 {
 public:
-    explicit Answering(Answer answer) : m_answer(answer) {}
+    explicit Answering(Answer given) : answer(given) {}
     Answer message(const QString &text, const QString &title, Buttons buttons) override
     {
         said.append(title + u'|' + text);
-        return buttons == Buttons::Ok ? Answer::Ok : m_answer;
+        return buttons == Buttons::Ok ? Answer::Ok : answer;
     }
+    Answer answer;
     QStringList said;
-
-private:
-    Answer m_answer;
 };
 
 // A program on an adventure, without a window.
@@ -93,13 +92,13 @@ struct Editor {
 
 // An adventure with some paragraphs edited, as a program that is still running has it.
 struct Scene : TestAdventure {
-    Scene() : path(file("Le Loup.usm", bytes())), editor(variables)
+    Scene() : path(file("Le Loup.usm", bytes())), editor(std::make_unique<Editor>(variables))
     {
-        editor.commands.OpenAdventure(path);
-        editor.save(3, "trois au 5");
-        editor.save(6, "six");
-        editor.save(2, {});
-        setFixed(editor.v, 4, true);
+        editor->commands.OpenAdventure(path);
+        editor->save(3, "trois au 5");
+        editor->save(6, "six");
+        editor->save(2, {});
+        setFixed(editor->v, 4, true);
     }
     static QByteArray bytes()
     {
@@ -108,8 +107,9 @@ struct Scene : TestAdventure {
     QString working(const QString &name) const { return path_("Dossier Usmira/" + name); }
     QString path_(const QString &name) const { return TestAdventure::path(name); }
     // The next program.
-    Editor restarted(Prompts::Answer answer = Prompts::Answer::Yes) const
+    Editor restarted(Prompts::Answer answer = Prompts::Answer::Yes)
     {
+        editor.reset(); // with all that it holds
         return Editor(variables, answer);
     }
     QStringList aside() const
@@ -121,7 +121,7 @@ struct Scene : TestAdventure {
     }
 
     const QString path;
-    Editor editor;
+    std::unique_ptr<Editor> editor;
 };
 
 using Act = std::function<void(Scene &)>;
@@ -165,9 +165,9 @@ private Q_SLOTS:
     void whatWasUnsavedComesBack()
     {
         Scene scene;
-        scene.editor.type(9, "neuf, à la");
-        keepBox(scene.editor.v, scene.editor.view.editingBox());
-        const QString before = scene.editor.state();
+        scene.editor->type(9, "neuf, à la");
+        keepBox(scene.editor->v, scene.editor->view.editingBox());
+        const QString before = scene.editor->state();
         Editor next = scene.restarted();
         next.start();
         QCOMPARE(next.state(), before);
@@ -233,7 +233,7 @@ private Q_SLOTS:
     void whatTheSessionDoesNotKnowIsSetAside()
     {
         Scene scene;
-        const QString before = scene.editor.state();
+        const QString before = scene.editor->state();
         for (const auto name : {"x-0003.rtf", "LL-0007.rtf", "Session/Saisie-0009.rtf"})
             scene.file(QStringLiteral("Dossier Usmira/") + name, "no rtf");
         Editor next = scene.restarted();
@@ -247,36 +247,35 @@ private Q_SLOTS:
     {
         for (const Prompts::Answer answer : {Prompts::Answer::Yes, Prompts::Answer::No}) {
             Scene scene;
-            Editor &editor = scene.editor;
-            Answering prompts(answer);
-            AdventureCommands commands(editor.v, prompts, editor.view, editor.view);
+            Editor &editor = *scene.editor;
+            editor.prompts.answer = answer;
             editor.type(9, "encore");
             keepBox(editor.v, editor.view.editingBox());
-            QVERIFY(commands.LeaveAdventure());
+            QVERIFY(editor.commands.LeaveAdventure());
             QVERIFY(scene.workingFiles().isEmpty());
         }
     }
 
     void aKillLeavesBeforeOrAfter_data()
     {
-        addTable<Act>({"act"},
-                      {{"save a paragraph", [](Scene &s) { s.editor.save(9, "autrement au 3"); }},
-                       {"save a new paragraph", [](Scene &s) { s.editor.save(11, "onze"); }},
-                       {"save one again", [](Scene &s) { s.editor.save(3, "encore au 6"); }},
-                       {"empty a paragraph", [](Scene &s) { s.editor.save(9, {}); }},
-                       {"empty a working file", [](Scene &s) { s.editor.save(6, {}); }},
-                       {"save the adventure", [](Scene &s) { s.editor.commands.Save(); }},
-                       {"fix a paragraph", [](Scene &s) { setFixed(s.editor.v, 9, true); }},
-                       {"another phrase",
-                        [](Scene &s) { setTargetPhrase(s.editor.v, "ici", s.editor.v.refIndex); }},
-                       {"change many", [](Scene &s) {
-                            ParagraphTransaction transaction(s.editor.v);
-                            transaction.widenRange(0, 12);
-                            transaction.change({3, 12, rtfOf("trois, devenu 12"), {}, true});
-                            transaction.change({9, 3, rtfOf("neuf au 12"), "0012/", false});
-                            transaction.empty(6, false);
-                            transaction.commit();
-                        }}});
+        addTable<Act>(
+            {"act"}, {{"save a paragraph", [](Scene &s) { s.editor->save(9, "autrement au 3"); }},
+                      {"save a new paragraph", [](Scene &s) { s.editor->save(11, "onze"); }},
+                      {"save one again", [](Scene &s) { s.editor->save(3, "encore au 6"); }},
+                      {"empty a paragraph", [](Scene &s) { s.editor->save(9, {}); }},
+                      {"empty a working file", [](Scene &s) { s.editor->save(6, {}); }},
+                      {"save the adventure", [](Scene &s) { s.editor->commands.Save(); }},
+                      {"fix a paragraph", [](Scene &s) { setFixed(s.editor->v, 9, true); }},
+                      {"another phrase",
+                       [](Scene &s) { setTargetPhrase(s.editor->v, "ici", s.editor->v.refIndex); }},
+                      {"change many", [](Scene &s) {
+                           ParagraphTransaction transaction(s.editor->v);
+                           transaction.widenRange(0, 12);
+                           transaction.change({3, 12, rtfOf("trois, devenu 12"), {}, true});
+                           transaction.change({9, 3, rtfOf("neuf au 12"), "0012/", false});
+                           transaction.empty(6, false);
+                           transaction.commit();
+                       }}});
     }
     void aKillLeavesBeforeOrAfter()
     {
@@ -286,9 +285,9 @@ private Q_SLOTS:
         QString before, after;
         {
             Scene scene;
-            before = scene.editor.state();
+            before = scene.editor->state();
             act(scene);
-            after = scene.editor.state();
+            after = scene.editor->state();
         }
         if (qstrcmp(QTest::currentDataTag(), "another phrase") == 0)
             after.replace("0005/", "").replace("0002/", ""); // the index is read anew
@@ -323,7 +322,7 @@ private Q_SLOTS:
     void theBoxIsKeptAfterAPauseAndDuringLongTyping()
     {
         Scene scene;
-        Editor &editor = scene.editor;
+        Editor &editor = *scene.editor;
         TypedSnapshot snapshot(editor.v, editor.view.editingBox());
         const QString typed = WorkingFiles(editor.v).typed(9);
         editor.type(9, "un");
