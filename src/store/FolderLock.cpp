@@ -53,6 +53,8 @@ FolderLock::FolderLock(const QString &workingFolder)
     }
     const FolderGuard guard(workingFolder);
     removeNoFile(WorkingFiles(workingFolder).lock());
+    // By this QLockFile takes stale locks away; one that a killed start has left is in its way.
+    tryRemoveFile(WorkingFiles(workingFolder).lock() + QStringLiteral(".rmlock"));
     if (m_file.tryLock() || m_file.error() != QLockFile::LockFailedError)
         return;
     m_file.removeStaleLockFile();
