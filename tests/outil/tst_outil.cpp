@@ -192,7 +192,7 @@ melanger 4 9
         QCOMPARE(QString::fromUtf8(outcome.output),
                  QStringLiteral("0\t1\tTapé\n1\t2\tTapé\n2\t1\tTapé\tdéjà montré ailleurs\n"
                                 "1\t9\tRéservé\n0\t9\tRéservé\n"
-                                "1\t1\tTapé\tsuite au-delà de la profondeur\n"));
+                                "1\t1\tTapé\tsuite non montrée\n"));
         QVERIFY(adventure.content(QStringLiteral("a.svg")).contains("<svg"));
         for (const char *wrong : {"x avant 3", "1 avent 3", "1 avant 0", "1 avant 26"})
             QCOMPARE(run(adventure, {}, open + "arbre " + wrong).status, 2);

@@ -146,7 +146,11 @@ void GraphCanvas::setFocusNode(int node)
 {
     m_focus = node;
     const GraphView before = m_view;
-    m_view.reveal(roomOf(m_drawing.nodes.at(node)), size());
+    const QRectF room = roomOf(m_drawing.nodes.at(node));
+    m_view.reveal(room, size());
+    if (m_showsOverview &&
+        QRectF(m_overview.room(m_drawing, m_view, size())).intersects(m_view.toView(room)))
+        m_view.bring(room.center(), middle());
     m_fits = m_fits && before == m_view;
     update();
 }
@@ -293,7 +297,8 @@ void GraphCanvas::mouseReleaseEvent(QMouseEvent *event)
     hover(event->position());
     if (drag != Drag::Pressed || event->button() != Qt::LeftButton || node < 0)
         return;
-    setFocusNode(node);
+    m_focus = node; // nothing moves under the pointer: a second click may follow
+    update();
     const int number = m_drawing.nodes.at(node).number;
     if (event->modifiers().testFlag(Qt::ShiftModifier))
         Q_EMIT wanted(number);
@@ -304,7 +309,7 @@ void GraphCanvas::mouseReleaseEvent(QMouseEvent *event)
 void GraphCanvas::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const int node = pointedNode(event->position());
-    if (event->button() == Qt::LeftButton && node >= 0)
+    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier && node >= 0)
         Q_EMIT startWanted(m_drawing.nodes.at(node).number);
 }
 
@@ -374,7 +379,9 @@ bool GraphCanvas::useFocused(const QKeyEvent &event)
 
 void GraphCanvas::keyPressEvent(QKeyEvent *event)
 {
-    const bool used = moveFocus(event->key()) || zoomByKey(event->key()) || useFocused(*event);
+    const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    const bool used =
+        !command && (moveFocus(event->key()) || zoomByKey(event->key()) || useFocused(*event));
     if (!used)
         QWidget::keyPressEvent(event);
 }

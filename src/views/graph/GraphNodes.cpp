@@ -139,7 +139,7 @@ QString kindName(GraphNode::Kind kind)
     case GraphNode::Kind::Stopped:
         return QCoreApplication::translate("GraphNodes", "point d'arrêt");
     case GraphNode::Kind::Cut:
-        return QCoreApplication::translate("GraphNodes", "suite au-delà de la profondeur");
+        return QCoreApplication::translate("GraphNodes", "suite non montrée");
     default:
         return {};
     }

@@ -22,7 +22,8 @@ QColor mixed(const QColor &one, const QColor &other, double part)
             mix(one.blue(), other.blue())};
 }
 
-// From one layer to another to the other side of the nodes; within one layer in a bow.
+// From one layer to another to the other side of the nodes; within one layer in a bow, and along a
+// row above the nodes that stand between.
 QPainterPath curve(QPointF from, QPointF to)
 {
     const double along = to.x() - from.x();
@@ -32,8 +33,12 @@ QPainterPath curve(QPointF from, QPointF to)
     from.rx() += side * half;
     to.rx() += within ? half : -side * half;
     const double bend = within ? 48 : std::clamp(std::abs(to.x() - from.x()) / 2, 24.0, 200.0);
+    const bool overOthers = std::abs(along) > 2.4 * GraphSize::NodeWidth &&
+                            std::abs(to.y() - from.y()) < GraphSize::NodeHeight / 2;
+    const double rise = overOthers ? -1.5 * GraphSize::NodeHeight : 0;
     QPainterPath path(from);
-    path.cubicTo(from + QPointF(side * bend, 0), to + QPointF(within ? bend : -side * bend, 0), to);
+    path.cubicTo(from + QPointF(side * bend, rise),
+                 to + QPointF(within ? bend : -side * bend, rise), to);
     return path;
 }
 

@@ -14,7 +14,7 @@ struct TreeRequest {
     };
     static constexpr int MostDepth = 25;
     // Three times what the largest book needs: there nothing more is followed, as at the depth.
-    static constexpr qsizetype MostNodes = 20000;
+    static constexpr qsizetype MostNodes = 100'000;
 
     int start = 1; // 0..2000
     Way way = Way::Forward;

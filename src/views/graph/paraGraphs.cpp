@@ -32,7 +32,11 @@ paraGraphs::paraGraphs(const Variables &variables, Prompts &prompts)
     forgetPreview();
 }
 
-paraGraphs::~paraGraphs() = default;
+// A box that loses the focus only when the form is gone would still ask for it.
+paraGraphs::~paraGraphs()
+{
+    hide();
+}
 
 void paraGraphs::connectControls()
 {
@@ -42,6 +46,8 @@ void paraGraphs::connectControls()
     connect(m_ui->stops, &StopPanel::changed, this,
             [this] { computeSoon(GraphCanvas::Place::Kept); });
     connect(m_ui->txtStart, &QLineEdit::returnPressed, this, &paraGraphs::txtStart_Enter);
+    connect(m_ui->txtStart, &QLineEdit::editingFinished, this,
+            [this] { m_ui->txtStart->setText(QString::number(start())); });
     connect(m_ui->txtFind, &QLineEdit::returnPressed, this, &paraGraphs::txtFind_Enter);
     connect(m_ui->btnClose, &QPushButton::clicked, this, &QWidget::close);
 }
@@ -106,7 +112,10 @@ int paraGraphs::start() const
 
 void paraGraphs::showCurrent()
 {
-    beginAtCurrent();
+    if (!isVisible()) {
+        forgetPreview();
+        beginAtCurrent();
+    }
     const QWidget *asker = QApplication::activeWindow();
     if (!isVisible() && asker != nullptr)
         move(asker->geometry().center() - rect().center());
@@ -189,7 +198,7 @@ void paraGraphs::showCount()
     const auto whole =
         std::count_if(drawing.nodes.begin(), drawing.nodes.end(),
                       [](const GraphNode &node) { return node.kind != GraphNode::Kind::Shown; });
-    m_ui->labCount->setText(tr("Paragraphes : %1   Renvois : %2   Échelle : %3 %")
+    m_ui->labCount->setText(tr("Paragraphes : %1   Renvois : %2   Échelle : %3 %")
                                 .arg(whole)
                                 .arg(drawing.edges.size())
                                 .arg(qRound(m_ui->graph->view().scale * 100)));
@@ -221,10 +230,11 @@ void paraGraphs::keyPressEvent(QKeyEvent *event)
 
 void paraGraphs::txtStart_Enter()
 {
-    if (const std::optional<int> n = typedParagraph(m_ui->txtStart->text())) {
+    const std::optional<int> n = typedParagraph(m_ui->txtStart->text());
+    if (n) {
         setStart(*n);
     } else {
-        m_prompts.beep();
+        refuse(n);
         m_ui->txtStart->setText(QString::number(start()));
     }
     m_ui->txtStart->selectAll();
@@ -236,11 +246,16 @@ void paraGraphs::txtFind_Enter()
     if (n && m_ui->graph->find(*n)) {
         preview(*n);
     } else {
-        m_prompts.beep();
-        if (n)
-            m_ui->labCount->setText(tr("Le paragraphe %1 n'est pas dans ce graphe.").arg(*n));
+        refuse(n);
     }
     m_ui->txtFind->selectAll();
+}
+
+void paraGraphs::refuse(std::optional<int> n)
+{
+    m_prompts.beep();
+    m_ui->labCount->setText(n ? tr("Le paragraphe %1 n'est pas dans ce graphe.").arg(*n)
+                              : tr("Un numéro de 1 à 2000 est attendu."));
 }
 
 void paraGraphs::preview(int n)

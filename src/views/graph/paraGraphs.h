@@ -61,6 +61,7 @@ private:
     void setStart(int n);
     void txtStart_Enter();
     void txtFind_Enter();
+    void refuse(std::optional<int> n);
     void preview(int n);
     void forgetPreview();
     void toggleStop(int n);
