@@ -6,6 +6,10 @@ class EndSignals::Watch
 
 void EndSignals::holdBack() {}
 
-EndSignals::EndSignals(std::function<void()> /*last*/) {}
+// Nothing ever calls it here.
+EndSignals::EndSignals(std::function<void()> last)
+{
+    const std::function<void()> dropped = std::move(last);
+}
 
 EndSignals::~EndSignals() = default;

@@ -69,17 +69,3 @@ public:
 private:
     int m_descriptor = -1;
 };
-
-// While it lives, another program that asks for the same folder waits: for what must not be
-// begun twice at once. Nobody waits longer than two seconds, or where the system has no such lock.
-class FolderGuard
-{
-public:
-    explicit FolderGuard(const QString &folder);
-    ~FolderGuard();
-    FolderGuard(const FolderGuard &) = delete;
-    FolderGuard &operator=(const FolderGuard &) = delete;
-
-private:
-    int m_descriptor = -1;
-};

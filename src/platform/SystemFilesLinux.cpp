@@ -2,12 +2,10 @@
 
 #include <QFile>
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
 
 namespace
@@ -168,24 +166,4 @@ void FileClaim::giveUp()
     if (m_descriptor >= 0)
         ::close(m_descriptor);
     m_descriptor = -1;
-}
-
-FolderGuard::FolderGuard(const QString &folder)
-    : m_descriptor(
-          ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
-{
-    using namespace std::chrono_literals;
-    if (m_descriptor < 0)
-        return;
-    const auto end = std::chrono::steady_clock::now() + 2s;
-    while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK &&
-           std::chrono::steady_clock::now() < end)
-        std::this_thread::sleep_for(5ms);
-}
-
-// Closing lets go of it.
-FolderGuard::~FolderGuard()
-{
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
 }

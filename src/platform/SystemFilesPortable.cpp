@@ -100,7 +100,10 @@ std::error_code syncFileSystemOf(const QString & /*folder*/)
     return {};
 }
 
-FileClaim::~FileClaim() = default;
+FileClaim::~FileClaim()
+{
+    giveUp();
+}
 
 bool FileClaim::take(const QString & /*path*/)
 {
@@ -108,7 +111,3 @@ bool FileClaim::take(const QString & /*path*/)
 }
 
 void FileClaim::giveUp() {}
-
-FolderGuard::FolderGuard(const QString & /*folder*/) {}
-
-FolderGuard::~FolderGuard() = default;
