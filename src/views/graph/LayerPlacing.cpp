@@ -170,7 +170,8 @@ ParagraphArray<QPointF, 2001> LayerPlacing::centres(const ReferenceWeb &web) con
         const qsizetype wide = columns(layer);
         const qsizetype rows = (paragraphs.size() + wide - 1) / wide;
         for (qsizetype i = 0; i < paragraphs.size(); ++i) {
-            const double row = static_cast<double>(i / wide) - static_cast<double>(rows - 1) / 2.0;
+            const qsizetype rowNumber = i / wide;
+            const double row = static_cast<double>(rowNumber) - static_cast<double>(rows - 1) / 2.0;
             centres.at(paragraphs.at(i)) = {x + static_cast<double>(i % wide) * ColumnPitch,
                                             row * RowPitch};
         }
