@@ -147,7 +147,7 @@ const QByteArray Valid = [] {
     state.saving = {13, QByteArray(64, '0')};
     state.targetPhrase = " aü ";
     state.highest = 2000;
-    for (const std::size_t n : {0, 1, 1999, 2000})
+    for (const std::size_t n : {0U, 1U, 1999U, 2000U})
         state.written.set(n);
     state.extracted.set(2000);
     state.unmixable.set(7);

@@ -2,6 +2,8 @@
 
 #include "store/Variables.h"
 
+#include <QStringList>
+
 // Adventures that are made of references alone.
 
 inline void refer(Variables &variables, int from, int to)
