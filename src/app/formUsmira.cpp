@@ -1,5 +1,6 @@
 #include "app/formUsmira.h"
 
+#include "app/CloseGuard.h"
 #include "app/DropToOpen.h"
 #include "app/EditMenu.h"
 #include "app/RecentMenu.h"
@@ -14,6 +15,7 @@
 #include "platform/Guarded.h"
 #include "platform/SafeFile.h"
 #include "store/AdventureEvents.h"
+#include "store/LenientNumbers.h"
 #include "store/SampleAdventure.h"
 #include "store/SessionRecovery.h"
 #include "store/WorkingFiles.h"
@@ -23,7 +25,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QWindow>
 
 namespace
 {
@@ -293,17 +294,6 @@ bool formUsmira::event(QEvent *event)
     return QMainWindow::event(event);
 }
 
-// Whoever closes the window once more while the question stands is not asked again. Qt would take
-// that for an answered question, and end the program with all that is unsaved.
-bool formUsmira::eventFilter(QObject *watched, QEvent *event)
-{
-    const bool closedTwice =
-        m_leaving && watched == windowHandle() && event->type() == QEvent::Close;
-    if (closedTwice)
-        event->ignore();
-    return closedTwice || QMainWindow::eventFilter(watched, event);
-}
-
 // The author goes to another window, not to a box of ours.
 void formUsmira::saveOnLeaving()
 {
@@ -316,11 +306,10 @@ void formUsmira::saveOnLeaving()
 void formUsmira::closeEvent(QCloseEvent *event)
 {
     bool leaves = false;
-    m_leaving = true;
-    if (windowHandle() != nullptr)
-        windowHandle()->installEventFilter(this);
-    m_page.keepingPlace([&] { leaves = m_adventure.LeaveAdventure(); });
-    m_leaving = false;
+    {
+        const CloseGuard guard(*this);
+        m_page.keepingPlace([&] { leaves = m_adventure.LeaveAdventure(); });
+    }
     try {
         writeSettings(WorkingFiles(m_variables).settings(), m_variables, geometryOf(*this));
         keepMaximized();
@@ -374,7 +363,7 @@ void formUsmira::menuComOptions_Click()
 // A number that is none keeps the author in its box.
 void formUsmira::txtPargNum_Enter()
 {
-    const std::optional<int> n = Navigation::typedNumber(m_ui->txtPargNum->text());
+    const std::optional<int> n = lenientParagraph(m_ui->txtPargNum->text());
     if (n) {
         m_runner.run(Kind::Adventure, [this, n] { m_navigation.goTo(*n); });
     } else if (m_variables.AdventureOpen) {

@@ -65,7 +65,6 @@ public:
 
 protected:
     bool event(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -108,6 +107,5 @@ private:
     ViewsMenu m_views;
     ConversionsMenu m_conversions;
     InfoMenu m_info;
-    bool m_leaving = false; // the author is asked about what is unsaved
-    bool m_closed = false;  // the window is going, and saves nothing any more
+    bool m_closed = false; // the window is going, and saves nothing any more
 };

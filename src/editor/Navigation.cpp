@@ -81,12 +81,6 @@ void Navigation::goWhere(Search search)
         m_prompts.beep();
 }
 
-std::optional<int> Navigation::typedNumber(const QString &number)
-{
-    const int n = roundHalfEven(lenientNumber(number));
-    return n <= Variables::LastParagraph ? std::optional(n) : std::nullopt;
-}
-
 void Navigation::followNumberAtCaret()
 {
     const RichTextBox &box = m_view.editingBox();

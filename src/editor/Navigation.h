@@ -36,9 +36,6 @@ public:
     // none.
     void goWhere(Search search);
 
-    // The number that was typed, rounded; nothing when it is above 2000.
-    static std::optional<int> typedNumber(const QString &number);
-
     // Goes to the number of the text that the caret stands on, if it is one of 1..2000.
     void followNumberAtCaret();
 

@@ -1,6 +1,7 @@
 #include "store/LenientNumbers.h"
 
 #include "platform/Ascii.h"
+#include "store/Variables.h"
 
 #include <QByteArray>
 #include <algorithm>
@@ -108,4 +109,10 @@ int roundHalfEven(double value)
 int roundHalfAway(double value)
 {
     return clampToInt(std::round(value));
+}
+
+std::optional<int> lenientParagraph(QStringView text)
+{
+    const int n = roundHalfEven(lenientNumber(text));
+    return n <= Variables::LastParagraph ? std::optional(n) : std::nullopt;
 }

@@ -59,6 +59,11 @@ QString statusName(quint8 status)
     return QCoreApplication::translate("ParagraphStatuses", Looks.at(status).name);
 }
 
+QString fixedName()
+{
+    return QCoreApplication::translate("ParagraphStatuses", "Fixe");
+}
+
 QColor statusColour(quint8 status)
 {
     return Looks.at(status).colour;

@@ -30,6 +30,9 @@ ParagraphStatuses classifyParagraphs(const Variables &variables);
 // In French, as the legends name it.
 QString statusName(quint8 status);
 
+// What they call numbers that are fixed.
+QString fixedName();
+
 QColor statusColour(quint8 status);
 
 // A small sign by which statuses are told apart without their colours: a letter, or a blank for

@@ -6,6 +6,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 #include <cmath>
 
 namespace
@@ -87,8 +88,12 @@ void GraphCanvas::moved()
 
 void GraphCanvas::zoomAt(double factor, const QPointF &at)
 {
+    GraphView all;
+    all.fit(m_drawing.bounds, size());
+    // What is smaller than half the window tells nothing any more.
+    const double least = std::min(1.0, all.scale / 2 / m_view.scale);
     m_fits = false;
-    m_view.zoom(factor, at);
+    m_view.zoom(std::max(factor, least), at);
     m_settling.start(Settled);
     moved();
 }
@@ -130,26 +135,13 @@ bool GraphCanvas::find(int number)
     return true;
 }
 
-void GraphCanvas::setStrong(bool on)
-{
-    m_strong = on;
-    update();
-}
-
-void GraphCanvas::setOverview(bool on)
-{
-    m_showsOverview = on;
-    update();
-}
-
 void GraphCanvas::setFocusNode(int node)
 {
     m_focus = node;
     const GraphView before = m_view;
     const QRectF room = roomOf(m_drawing.nodes.at(node));
     m_view.reveal(room, size());
-    if (m_showsOverview &&
-        QRectF(m_overview.room(m_drawing, m_view, size())).intersects(m_view.toView(room)))
+    if (QRectF(m_overview.room(m_drawing, m_view, size())).intersects(m_view.toView(room)))
         m_view.bring(room.center(), middle());
     m_fits = m_fits && before == m_view;
     update();
@@ -178,13 +170,12 @@ void GraphCanvas::paintPicture(QPainter &painter)
     painter.save();
     painter.setTransform(m_view.transform(), true);
     const int strong = m_hover >= 0 ? m_hover : m_focus;
-    if (m_strong && strong >= 0)
+    if (strong >= 0)
         m_painter->paintStrong(painter, strong);
     if (m_focus >= 0 && hasFocus())
         m_painter->paintFocus(painter, m_focus);
     painter.restore();
-    if (m_showsOverview)
-        m_overview.paint(painter, *m_painter, m_drawing, m_view, size());
+    m_overview.paint(painter, *m_painter, m_drawing, m_view, size());
 }
 
 void GraphCanvas::resizeEvent(QResizeEvent * /*event*/)
@@ -216,8 +207,7 @@ bool GraphCanvas::event(QEvent *event)
 
 int GraphCanvas::pointedNode(const QPointF &point) const
 {
-    const bool overOverview =
-        m_showsOverview && m_overview.room(m_drawing, m_view, size()).contains(point.toPoint());
+    const bool overOverview = m_overview.room(m_drawing, m_view, size()).contains(point.toPoint());
     return overOverview ? -1 : nodeAt(m_drawing, m_view.toPicture(point));
 }
 
@@ -253,7 +243,7 @@ void GraphCanvas::mousePressEvent(QMouseEvent *event)
         return;
     m_dragFrom = event->position();
     const QRect overview = m_overview.room(m_drawing, m_view, size());
-    const bool inOverview = m_showsOverview && overview.contains(event->position().toPoint());
+    const bool inOverview = overview.contains(event->position().toPoint());
     m_drag = inOverview ? Drag::Overview : Drag::Pressed;
     if (inOverview)
         moveToOverview(event->position());

@@ -11,8 +11,9 @@
 
 struct Variables;
 
-// Shows a picture of references and lets the author move about in it: by the wheel, by dragging,
-// by the keyboard from node to node. It knows nothing of the adventure: it says what is wanted.
+// Shows a picture of references, strongly those of the node under the pointer or else of the one
+// with the focus, and lets the author move about in it: by the wheel, by dragging, by the keyboard
+// from node to node. It knows nothing of the adventure: it says what is wanted.
 class GraphCanvas : public QWidget
 {
     Q_OBJECT
@@ -40,11 +41,6 @@ public:
 
     // The node of a number comes into sight and gets the focus. False: there is none.
     bool find(int number);
-
-    // The references of the node under the pointer, or else of the one with the focus, are painted
-    // strongly; so they are unless it is switched off.
-    void setStrong(bool on);
-    void setOverview(bool on);
 
     QSize sizeHint() const override { return {640, 480}; }
     QSize minimumSizeHint() const override { return {160, 120}; }
@@ -98,8 +94,6 @@ private:
     QTimer m_settling; // runs until the scale has come to rest
     int m_focus = -1;  // nodes; -1: none
     int m_hover = -1;
-    bool m_strong = true;
-    bool m_showsOverview = true;
     bool m_fits = false; // what is seen is to be all of it, also after a change of size
     bool m_fresh = true; // nothing has been painted of this picture
     Drag m_drag = Drag::None;

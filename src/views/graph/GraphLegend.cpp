@@ -4,7 +4,6 @@
 #include "views/graph/GraphCard.h"
 #include "views/graph/GraphNodes.h"
 #include "views/graph/GraphPainter.h"
-#include "views/grid/GridCell.h"
 
 #include <QPainter>
 #include <algorithm>
@@ -84,7 +83,7 @@ GraphLegend::GraphLegend(QWidget *parent) : QWidget(parent)
 QList<GraphLegend::Entry> GraphLegend::entries()
 {
     QList<Entry> entries;
-    for (const quint8 status : {Written, DeadEnd, Reserved, Orphan, Current})
+    for (const quint8 status : {Empty, Written, DeadEnd, Reserved, Orphan, Current})
         entries.append({statusName(status), statusSign(status)});
     entries.append({fixedName(), paintFixedSign});
     using Kind = GraphNode::Kind;

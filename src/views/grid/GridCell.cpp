@@ -34,11 +34,6 @@ GridCell gridCell(const Variables &variables, const ParagraphStatuses &statuses,
             n == variables.CurrentParagraph};
 }
 
-QString fixedName()
-{
-    return QCoreApplication::translate("GridCell", "Fixe");
-}
-
 QString cellWords(const GridCell &cell)
 {
     QStringList words{statusName(cell.status)};

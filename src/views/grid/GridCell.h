@@ -20,9 +20,6 @@ struct GridCell {
 // Of number n, 1..2000.
 GridCell gridCell(const Variables &variables, const ParagraphStatuses &statuses, int n);
 
-// What the legend calls numbers that are fixed.
-QString fixedName();
-
 // "26 : Tapé, Fixe, Actuel".
 QString cellWords(const GridCell &cell);
 

@@ -1,4 +1,4 @@
-#include "views/StatusLegend.h"
+#include "views/grid/GridLegend.h"
 
 #include "platform/Twips.h"
 #include "views/grid/GridCell.h"
@@ -33,7 +33,7 @@ private:
 };
 } // namespace
 
-StatusLegend::StatusLegend(QWidget *parent) : QWidget(parent)
+GridLegend::GridLegend(QWidget *parent) : QWidget(parent)
 {
     auto *entries = new QGridLayout(this);
     entries->setSpacing(4);
