@@ -1,24 +1,23 @@
 #include "platform/FileBatch.h"
 
 #include "platform/Errors.h"
+#include "platform/PartFiles.h"
 #include "platform/SafeFile.h"
 #include "platform/SameFile.h"
+#include "platform/SystemFiles.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 namespace
 {
-QString partOf(const QString &target)
-{
-    return target + QStringLiteral(".usmira-part");
-}
-
 QString folderOf(const QString &target)
 {
     return QFileInfo(target).absolutePath();
 }
 } // namespace
+
+FileBatch::FileBatch() = default;
 
 FileBatch::~FileBatch()
 {
@@ -30,6 +29,7 @@ void FileBatch::add(const QString &path, QByteArrayView bytes)
 {
     const QString target = finalPath(path);
     refuseUnreplaceable(target);
+    enter(folderOf(target));
     m_targets.append(target); // first, so that half a file goes too
     try {
         writeForLater(partOf(target), bytes);
@@ -39,18 +39,26 @@ void FileBatch::add(const QString &path, QByteArrayView bytes)
     }
 }
 
+// While a folder is held, no other program takes the parts in it for left ones.
+void FileBatch::enter(const QString &folder)
+{
+    if (m_folders.contains(folder))
+        return;
+    removeLeftParts(folder);
+    m_folders.append(folder);
+    m_claims.push_back(std::make_unique<FileClaim>());
+    waitToClaim(*m_claims.back(), folder);
+}
+
 void FileBatch::commit()
 {
-    QStringList folders;
-    for (const QString &target : std::as_const(m_targets))
-        if (!folders.contains(folderOf(target)))
-            folders.append(folderOf(target));
-    for (const QString &folder : std::as_const(folders))
+    for (const QString &folder : std::as_const(m_folders))
         syncFileSystem(folder);
     while (!m_targets.isEmpty()) {
+        keepAttributes(partOf(m_targets.first()), m_targets.first());
         renameFile(partOf(m_targets.first()), m_targets.first());
         m_targets.removeFirst();
     }
-    for (const QString &folder : std::as_const(folders))
+    for (const QString &folder : std::as_const(m_folders))
         trySyncFolder(folder);
 }

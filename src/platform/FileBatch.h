@@ -2,13 +2,18 @@
 
 #include <QByteArrayView>
 #include <QStringList>
+#include <memory>
+#include <vector>
+
+class FileClaim;
 
 // Many files written at once: old files stay until all the new ones are whole and on the disk, with
-// one sync for all of them. Links are followed.
+// one sync for all of them. Links are followed, and what an earlier program was killed with is
+// removed.
 class FileBatch
 {
 public:
-    FileBatch() = default;
+    FileBatch();
     // What was not committed is taken back.
     ~FileBatch();
     FileBatch(const FileBatch &) = delete;
@@ -23,5 +28,9 @@ public:
     void commit();
 
 private:
+    void enter(const QString &folder);
+
     QStringList m_targets; // links resolved
+    QStringList m_folders;
+    std::vector<std::unique_ptr<FileClaim>> m_claims; // on the folders
 };

@@ -1,12 +1,14 @@
 #include "platform/SafeFile.h"
 
 #include "platform/Errors.h"
+#include "platform/PartFiles.h"
 #include "platform/SameFile.h"
 #include "platform/SystemFiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <filesystem>
 
 namespace
 {
@@ -23,35 +25,47 @@ void throwIfFailed(std::error_code failure, const QString &path)
         throw FileError(Operation::Write, path, failure);
 }
 
-QString checkedTarget(const QString &path, Links links)
+QString checkedTarget(const QString &path, Links links, ReadOnly readOnly)
 {
     if (links == Links::Replace && QFileInfo(path).isSymLink()) {
         removeFile(path);
         return path;
     }
     const QString target = links == Links::Follow ? finalPath(path) : path;
-    refuseUnreplaceable(target);
+    refuseUnreplaceable(target, readOnly);
+    if (links == Links::Follow)
+        removeLeftParts(QFileInfo(target).absolutePath());
     return target;
 }
 } // namespace
 
-void refuseUnreplaceable(const QString &path)
+// The one user that may write everywhere is not asked by the system.
+bool isReadOnly(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() && (!info.isWritable() || !info.permission(QFile::WriteOwner));
+}
+
+void refuseUnreplaceable(const QString &path, ReadOnly readOnly)
 {
     const QFileInfo info(path);
     if (!info.exists())
         return;
     if (!info.isFile())
         failWrite(path, QStringLiteral("not a regular file"), std::errc::is_a_directory);
-    if (!info.isWritable())
+    if (readOnly == ReadOnly::Stays && isReadOnly(path))
         failWrite(path, QStringLiteral("read-only"), std::errc::permission_denied);
 }
 
-SafeFile::SafeFile(const QString &path, Durability durability, Links links)
-    : m_file(checkedTarget(path, links)), m_durability(durability)
+// QSaveFile writes to a name of its own and renames that, here to a name that tells whose it is.
+SafeFile::SafeFile(const QString &path, Durability durability, Links links, ReadOnly readOnly)
+    : m_target(checkedTarget(path, links, readOnly)), m_file(partOf(m_target)),
+      m_durability(durability)
 {
     m_file.setDirectWriteFallback(false);
     if (!m_file.open(QIODevice::WriteOnly))
         fail(failureOf(m_file));
+    claimOpen(m_file);
 }
 
 SafeFile::~SafeFile()
@@ -62,7 +76,7 @@ SafeFile::~SafeFile()
 void SafeFile::fail(std::error_code why)
 {
     m_file.cancelWriting();
-    throw FileError(Operation::Write, m_file.fileName(), why);
+    throw FileError(Operation::Write, m_target, why);
 }
 
 void SafeFile::write(QByteArrayView bytes)
@@ -80,8 +94,14 @@ void SafeFile::commit()
         fail(failure);
     if (!m_file.commit())
         fail(failureOf(m_file));
+    const QString part = m_file.fileName();
+    keepAttributes(part, m_target);
+    if (const std::error_code failure = renameOver(part, m_target)) {
+        tryRemoveFile(part);
+        fail(failure);
+    }
     if (m_durability == Durability::Full)
-        trySyncFolder(QFileInfo(m_file.fileName()).absolutePath());
+        trySyncFolder(QFileInfo(m_target).absolutePath());
 }
 
 void writeWholeFile(const QString &path, QByteArrayView bytes, Durability durability, Links links)
@@ -157,11 +177,11 @@ void moveToFolder(const QStringList &paths, const QString &folder)
             renameFile(path, folder + u'/' + QFileInfo(path).fileName());
 }
 
-void copyFile(const QString &source, const QString &target)
+void copyFile(const QString &source, const QString &target, ReadOnly readOnly)
 {
     QFile from(source);
     openRegular(from, QIODevice::ReadOnly);
-    SafeFile to(target, Durability::Full, Links::Follow);
+    SafeFile to(target, Durability::Full, Links::Follow, readOnly);
     while (!from.atEnd()) {
         const QByteArray block = from.read(1 << 20);
         if (from.error() != QFileDevice::NoError)
@@ -171,20 +191,35 @@ void copyFile(const QString &source, const QString &target)
     to.commit();
 }
 
+// What is written to one name of a file shows under all of them.
+void keepAs(const QString &source, const QString &target)
+{
+    const QString resolved = finalPath(source);
+    std::error_code unable = std::make_error_code(std::errc::too_many_links);
+    if (namesOf(resolved) == 1)
+        std::filesystem::create_hard_link(QFileInfo(resolved).filesystemFilePath(),
+                                          QFileInfo(target).filesystemFilePath(), unable);
+    if (unable)
+        copyFile(resolved, target);
+}
+
 void moveIntoPlace(const QString &source, const QString &target)
 {
     const QString resolved = finalPath(target);
-    refuseUnreplaceable(resolved);
-    const QFileInfo info(resolved);
-    if (info.exists())
-        QFile::setPermissions(source, info.permissions());
+    refuseUnreplaceable(resolved, ReadOnly::Replaced);
+    const QString folder = QFileInfo(resolved).absolutePath();
+    removeLeftParts(folder);
+    const QFile::Permissions before = QFile::permissions(source);
+    keepAttributes(source, resolved);
     const std::error_code failure = renameOver(source, resolved);
-    if (failure != std::errc::cross_device_link) {
-        throwIfFailed(failure, target);
-        trySyncFolder(info.absolutePath());
+    if (!failure) {
+        trySyncFolder(folder);
         return;
     }
-    copyFile(source, resolved);
+    QFile::setPermissions(source, before);
+    if (failure != std::errc::cross_device_link)
+        throwIfFailed(failure, target);
+    copyFile(source, resolved, ReadOnly::Replaced);
     tryRemoveFile(source);
 }
 

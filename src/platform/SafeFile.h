@@ -19,14 +19,23 @@ enum class Links {
     Replace, // the link itself is replaced: in the working folder nothing leads elsewhere
 };
 
+// What becomes of a file that is marked as not to be written to.
+enum class ReadOnly {
+    Stays,    // the write fails
+    Replaced, // the author has been asked; the new file is marked so too
+};
+
 // One file being written: with writeForLater() the only way in which the program writes files. The
 // target is replaced whole by commit() or left untouched. Every failure throws FileError (Write)
 // and leaves nothing behind; once the new file is in its place nothing fails any more. Only regular
-// files are replaced.
+// files are replaced. The new file has the owner, the group and the permissions of the one that it
+// replaces, as far as the system allows. Where links are followed, in the folders of the author,
+// what a killed program has left half written there goes first.
 class SafeFile
 {
 public:
-    SafeFile(const QString &path, Durability durability, Links links);
+    SafeFile(const QString &path, Durability durability, Links links,
+             ReadOnly readOnly = ReadOnly::Stays);
     ~SafeFile();
     SafeFile(const SafeFile &) = delete;
     SafeFile &operator=(const SafeFile &) = delete;
@@ -39,6 +48,7 @@ public:
 private:
     [[noreturn]] void fail(std::error_code why);
 
+    QString m_target;
     QSaveFile m_file;
     Durability m_durability;
 };
@@ -78,18 +88,26 @@ bool isAnythingAt(const QString &path);
 // there are passed over. Throws FileError (Write) at the first that stays.
 void moveToFolder(const QStringList &paths, const QString &folder);
 
-// Puts the complete file source in the place of target (links followed, permissions of the target
-// kept) and removes source: by rename on one file system, else by a safe copy, and then a source
-// that cannot be removed is left. On failure throws FileError (Write), and both files are as they
-// were.
+// Puts the complete file source in the place of target (links followed; owner, group and
+// permissions of the target kept; one marked read-only is replaced too) and removes source: by
+// rename on one file system, else by a safe copy, and then a source that cannot be removed is left.
+// On failure throws FileError (Write), and both files are as they were.
 void moveIntoPlace(const QString &source, const QString &target);
 
 // A safe copy of a regular file; a file of the target's name is replaced. Throws FileError.
-void copyFile(const QString &source, const QString &target);
+void copyFile(const QString &source, const QString &target, ReadOnly readOnly = ReadOnly::Stays);
 
-// Throws FileError (Write) when something is there that is no regular file or cannot be written: a
-// rename would replace a read-only file all the same, and it is meant to stay.
-void refuseUnreplaceable(const QString &path);
+// Keeps a file under another name, which nobody has yet: under a second name of the same file where
+// the disk knows such names and nobody else uses them, else as a safe copy. Throws FileError.
+void keepAs(const QString &source, const QString &target);
+
+// Whether a file is there that is marked as not to be written to, or that this user may not write
+// to. A rename would replace it all the same.
+bool isReadOnly(const QString &path);
+
+// Throws FileError (Write) when something is there that is no regular file, or a read-only one that
+// is to stay.
+void refuseUnreplaceable(const QString &path, ReadOnly readOnly = ReadOnly::Stays);
 
 // Makes the entries of a folder durable. A system without such a call does nothing. Throws
 // FileError (Write).

@@ -35,7 +35,12 @@ QString finalPath(const QString &path)
     const fs::path folder = fs::weakly_canonical(fs::absolute(place).parent_path(), why);
     if (why)
         fail(path, why);
-    return QFileInfo(folder / place.filename()).filePath();
+    place = folder / place.filename();
+    QString found = QFileInfo(place).filePath();
+    // A name with bytes that are no text reads as another name, and another file would be written.
+    if (systemPath(found) != place)
+        fail(path, std::make_error_code(std::errc::invalid_argument));
+    return found;
 }
 
 bool isSameFile(const QString &one, const QString &other)
@@ -45,9 +50,9 @@ bool isSameFile(const QString &one, const QString &other)
            fs::equivalent(systemPath(one), systemPath(other), missing);
 }
 
-bool hasOtherNames(const QString &path)
+int namesOf(const QString &path)
 {
     std::error_code missing;
     const auto names = fs::hard_link_count(systemPath(path), missing);
-    return !missing && names > 1;
+    return missing ? 0 : static_cast<int>(names);
 }

@@ -1,18 +1,17 @@
 #include "platform/ScratchFile.h"
 
 #include "platform/Errors.h"
+#include "platform/PartFiles.h"
 #include "platform/SafeFile.h"
 #include "platform/SameFile.h"
 #include "platform/SystemFiles.h"
 
-#include <QFileInfo>
-
 ScratchFile::ScratchFile(const QString &target)
-    : m_target(target),
-      m_file(QFileInfo(finalPath(target)).absolutePath() + QStringLiteral("/XXXXXX"))
+    : m_target(target), m_file(partOf(finalPath(target)) + QStringLiteral(".XXXXXX"))
 {
     if (!m_file.open())
         fail();
+    claimOpen(m_file);
 }
 
 void ScratchFile::write(QByteArrayView bytes)

@@ -51,6 +51,14 @@ std::error_code syncFile(const QFileDevice &file);
 std::error_code syncEntries(const QString &folder);
 std::error_code syncFileSystemOf(const QString &folder);
 
+// Gives the file at written the owner, the group and the permissions of the one that it is about to
+// replace, as far as this system and this user may. Those of a group that cannot be kept are cut
+// down to what everybody has.
+void keepAttributes(const QString &written, const QString &replaced);
+
+// Tells other programs, until it is closed, that an open file is still being written.
+void claimOpen(const QFileDevice &open);
+
 // Makes this program the one that may replace a file, until it ends or takes another. Programs that
 // know nothing of claims are not hindered.
 class FileClaim
@@ -65,6 +73,9 @@ public:
     // no such file, or where the system knows no claims.
     bool take(const QString &path);
     void giveUp();
+
+    // False also where take() had nothing to claim.
+    bool isHeld() const { return m_descriptor >= 0; }
 
 private:
     int m_descriptor = -1;

@@ -134,6 +134,26 @@ std::error_code syncFileSystemOf(const QString &folder)
     return descriptor.isOpen() ? resultOf(::syncfs(descriptor.number())) : lastFailure();
 }
 
+// The mode comes last: a change of owner takes some of it away. To give a file to somebody else is
+// the right of few users, to give it to a group of one's own that of everybody.
+void keepAttributes(const QString &written, const QString &replaced)
+{
+    struct stat before = {};
+    const QByteArray path = QFile::encodeName(written);
+    if (::stat(QFile::encodeName(replaced).constData(), &before) != 0)
+        return;
+    mode_t mode = before.st_mode & 07777;
+    if (::chown(path.constData(), before.st_uid, before.st_gid) != 0 &&
+        ::chown(path.constData(), static_cast<uid_t>(-1), before.st_gid) != 0)
+        mode &= ~mode_t{070} | ((mode & 07) << 3);
+    static_cast<void>(::chmod(path.constData(), mode)); // some disks know no modes
+}
+
+void claimOpen(const QFileDevice &open)
+{
+    static_cast<void>(::flock(open.handle(), LOCK_EX | LOCK_NB)); // some disks know no locks
+}
+
 FileClaim::~FileClaim()
 {
     giveUp();

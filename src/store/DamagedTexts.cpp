@@ -3,7 +3,6 @@
 #include "platform/Failures.h"
 #include "platform/OpenedFile.h"
 #include "platform/SafeFile.h"
-#include "platform/SameFile.h"
 #include "richtext/RtfPlainText.h"
 #include "richtext/TextLimit.h"
 #include "store/ParagraphTexts.h"
@@ -15,7 +14,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
-#include <filesystem>
 #include <utility>
 
 namespace
@@ -28,7 +26,7 @@ QString freePathBeside(const QString &adventurePath, const QString &note, const 
     const QFileInfo info(adventurePath);
     const QString stem = info.path() + u'/' + info.completeBaseName();
     QString path = QStringLiteral("%1 (%2)%3").arg(stem, note, suffix);
-    for (int k = 2; QFileInfo::exists(path); ++k)
+    for (int k = 2; QFileInfo::exists(path) || QFileInfo(path).isSymLink(); ++k)
         path = QStringLiteral("%1 (%2 %3)%4").arg(stem, note, QString::number(k), suffix);
     return path;
 }
@@ -77,16 +75,6 @@ bool copyBytes(const Variables &variables, int n, const QString &path)
     if (to.position() > 0)
         to.commit();
     return all;
-}
-
-// A second name costs nothing and needs no byte to be read, where the disk knows such names.
-void keepWhole(const QString &adventurePath, const QString &keptPath)
-{
-    std::error_code unable;
-    std::filesystem::create_hard_link(QFileInfo(finalPath(adventurePath)).filesystemFilePath(),
-                                      QFileInfo(keptPath).filesystemFilePath(), unable);
-    if (unable)
-        copyFile(adventurePath, keptPath);
 }
 } // namespace
 
@@ -161,7 +149,7 @@ void KeptBytes::keep(const Variables &variables, const QList<int> &paragraphs)
     if (all || wholeKept || !QFileInfo(adventure).isFile())
         return;
     m_paths.append(otherVersionPath(adventure));
-    keepWhole(adventure, m_paths.last());
+    keepAs(adventure, m_paths.last());
     m_beside = true;
 }
 

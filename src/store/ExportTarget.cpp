@@ -24,7 +24,7 @@ bool isWorkingFile(const Variables &variables, const QString &path)
     const QString place = finalPath(path);
     if (place.startsWith(folder.canonicalPath() + u'/') && WorkingFiles::isOwnName(place))
         return true;
-    if (!hasOtherNames(path))
+    if (namesOf(path) < 2)
         return false;
     const QStringList names = folder.entryList(QDir::Files);
     return std::any_of(names.begin(), names.end(), [&](const QString &name) {

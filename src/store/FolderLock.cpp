@@ -1,6 +1,7 @@
 #include "store/FolderLock.h"
 
 #include "platform/Errors.h"
+#include "platform/PartFiles.h"
 #include "platform/SafeFile.h"
 #include "platform/SystemFiles.h"
 #include "store/Journal.h"
@@ -8,10 +9,8 @@
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
-#include <QThread>
 
 namespace
 {
@@ -23,15 +22,6 @@ void removeNoFile(const QString &path)
     if (info.isSymLink() || !info.isDir())
         return;
     QDir().rmdir(path);
-}
-
-// Two programs that start at once must not both take a stale lock away: the second would take that
-// of the first. Nobody waits for long.
-void waitToBe(FileClaim &alone, const QString &folder)
-{
-    const QDeadlineTimer end(2000);
-    while (!alone.take(folder) && !end.hasExpired())
-        QThread::msleep(5);
 }
 
 // What the author sees there; his own changes in a private folder go with the next start.
@@ -62,8 +52,10 @@ FolderLock::FolderLock(const QString &workingFolder)
     } catch (const UsmiraError &) {
         return;
     }
+    // Two programs that start at once must not both take a stale lock away: the second would take
+    // that of the first.
     FileClaim alone;
-    waitToBe(alone, workingFolder);
+    waitToClaim(alone, workingFolder);
     removeNoFile(WorkingFiles(workingFolder).lock());
     // By this QLockFile takes stale locks away; one that a killed start has left is in its way.
     tryRemoveFile(WorkingFiles(workingFolder).lock() + QStringLiteral(".rmlock"));

@@ -70,7 +70,8 @@ int onDescriptor(const char *name, int descriptor)
 
 int opened(const char *name, const char *path, int flags, va_list arguments)
 {
-    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    const bool makes = (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE;
+    const mode_t mode = makes ? va_arg(arguments, mode_t) : 0;
     const bool watched = isWatched(path);
     if (watched && (flags & (O_WRONLY | O_RDWR)) != 0 && goesWrong())
         return -1;
