@@ -25,8 +25,9 @@ int main(int argc, char *argv[])
     QGuiApplication::setWindowIcon(
         QIcon::fromTheme(QStringLiteral("usmira"), QIcon(QStringLiteral(USMIRA_ICON))));
     Variables variables;
+    variables.MainFolder = findWorkingFolder(programFolder);
     const WorkingPlace place = takeWorkingFolder(
-        findWorkingFolder(programFolder), findBundledDocuments(programFolder), LeftSessions::First);
+        variables.MainFolder, findBundledDocuments(programFolder), LeftSessions::First);
     variables.WorkingFolder = place.folder;
 
     DialogPrompts prompts;

@@ -124,8 +124,9 @@ int runScript(const QCommandLineParser &parser, QTextStream &errors)
 {
     Variables variables;
     const bool recovers = parser.isSet(QStringLiteral("recuperer"));
+    variables.MainFolder = workingFolder(parser);
     const WorkingPlace place = takeWorkingFolder(
-        workingFolder(parser), findBundledDocuments(QCoreApplication::applicationDirPath()),
+        variables.MainFolder, findBundledDocuments(QCoreApplication::applicationDirPath()),
         recovers ? LeftSessions::First : LeftSessions::Avoid);
     variables.WorkingFolder = place.folder;
     const std::optional<Prompts::Answer> answer = givenAnswer(parser);

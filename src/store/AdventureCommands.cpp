@@ -1,12 +1,15 @@
 #include "store/AdventureCommands.h"
 
 #include "platform/Failures.h"
+#include "platform/OpenedFile.h"
 #include "platform/SafeFile.h"
+#include "platform/SameFile.h"
 #include "richtext/RichTextBox.h"
 #include "store/AdventureChanges.h"
 #include "store/AdventureFile.h"
 #include "store/AdventureSave.h"
 #include "store/DamagedTexts.h"
+#include "store/DatedCopies.h"
 #include "store/LongWork.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
@@ -46,6 +49,15 @@ void reserve(const QString &path)
     else if (!info.isFile() || !info.isWritable())
         throw FileError(FileError::Operation::Write, path, QStringLiteral("cannot be replaced"),
                         info.isFile() ? std::errc::permission_denied : std::errc::is_a_directory);
+}
+
+// A folder whose name is no text can be read from within, by a name without folders; what is saved
+// under the whole name would come to lie elsewhere.
+void refuseLostName(const Variables &opened, const QString &path)
+{
+    if (!opened.AdventureFile->isNamed(QFileInfo(path).absoluteFilePath()))
+        throw FileError(FileError::Operation::Read, path, QStringLiteral("a name that is no text"),
+                        std::errc::invalid_argument);
 }
 } // namespace
 
@@ -170,9 +182,22 @@ void AdventureCommands::openFrom(const std::function<QString()> &choose)
         showAgain();
 }
 
+void AdventureCommands::OpenCopy(const DatedCopy &copy)
+{
+    openFrom([this, &copy] {
+        QString path;
+        reportingFailures(m_prompts, [&] {
+            path = restoreBeside(m_variables, copy);
+            return true;
+        });
+        return path;
+    });
+}
+
 bool AdventureCommands::NewAdventure(const QString &path)
 {
     return reportingFailures(m_prompts, [&] {
+        static_cast<void>(finalPath(path)); // refuses a name that is no text
         Variables created = m_variables;
         AdventureContents empty;
         empty.version = CurrentVersion;
@@ -194,6 +219,7 @@ bool AdventureCommands::OpenAdventure(const QString &chosen)
     return reportingFailures(m_prompts, [&] {
         Variables opened = m_variables;
         takeOver(opened, readAdventure(chosen));
+        refuseLostName(opened, chosen);
         const QString path = pathToOpen(chosen);
         if (path.isEmpty())
             return false;
@@ -282,6 +308,7 @@ void AdventureCommands::OpenUnsaved(const UnsavedWork &work)
 
 void AdventureCommands::announceAdventure()
 {
+    m_saved = false;
     m_prompts.beginIn(QFileInfo(m_variables.AdventurePath).absolutePath());
     Q_EMIT m_variables.Events->adventureReplaced();
 }
@@ -309,11 +336,15 @@ bool AdventureCommands::Save()
         if (paragraphSaved && !hasUnsavedChanges(m_variables))
             return true;
         claim(m_variables.AdventurePath);
-        AdventureSave save(m_variables, m_prompts);
+        AdventureSave save(m_variables, m_prompts,
+                           m_saved ? AdventureSave::FirstSave::No : AdventureSave::FirstSave::Yes);
         if (!writeAndSwap(save, paragraphSaved))
             return false;
+        m_saved = true;
         m_claim.take(m_variables.AdventurePath); // it is another file now
         save.tellLeftOut();
+        if (!save.notKept().isEmpty())
+            m_report.announce(save.notKept());
         return true;
     });
 }

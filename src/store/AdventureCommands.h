@@ -10,6 +10,7 @@
 class AdventureSave;
 class RichTextBox;
 class WorkReport;
+struct DatedCopy;
 struct UnsavedWork;
 
 // What the commands ask of whoever shows the adventure: the main window, or a script without one.
@@ -51,6 +52,9 @@ public:
     // Open with the file already chosen.
     void OpenInstead(const QString &path);
 
+    // Opens one of the dated copies of the open adventure, as a new file beside it.
+    void OpenCopy(const DatedCopy &copy);
+
     // Creates the adventure at path, replacing what is there only once the new file is whole.
     bool NewAdventure(const QString &path);
 
@@ -84,5 +88,6 @@ private:
     Prompts &m_prompts;
     AdventureView &m_view;
     WorkReport &m_report;
-    FileClaim m_claim; // on the open adventure, while no other window has it
+    FileClaim m_claim;    // on the open adventure, while no other window has it
+    bool m_saved = false; // since it was opened
 };

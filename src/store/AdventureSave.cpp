@@ -5,7 +5,9 @@
 #include "platform/SafeFile.h"
 #include "richtext/RichTextBox.h"
 #include "store/AdventureChanges.h"
+#include "store/DatedCopies.h"
 #include "store/ParagraphStore.h"
+#include "store/ReplaceQuestions.h"
 #include "store/Session.h"
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
@@ -13,8 +15,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-AdventureSave::AdventureSave(Variables &variables, Prompts &prompts)
-    : m_variables(variables), m_prompts(prompts), m_candidate(variables)
+AdventureSave::AdventureSave(Variables &variables, Prompts &prompts, FirstSave first)
+    : m_variables(variables), m_prompts(prompts), m_first(first), m_candidate(variables)
 {
 }
 
@@ -76,13 +78,23 @@ bool AdventureSave::swap()
     const QString words = QCoreApplication::translate(
         "AdventureSave", "Fichier enregistré, incapable d'échanger avec l'original.");
     try {
-        if (!mayReplace()) {
+        const ReplaceAnswer answer = askToReplace(m_variables, m_prompts);
+        if (!answer.allowed) {
             swapFailed(words);
             return false;
         }
-        KeptBytes kept(m_variables, m_leftOut, m_otherVersion);
+        KeptBytes kept(m_variables, m_leftOut,
+                       answer.otherVersionKept ? KeptBytes::WholeFile::IsKept
+                                               : KeptBytes::WholeFile::NotKept);
+        std::optional<KeptVersion> version;
+        if (m_first == FirstSave::Yes)
+            version.emplace(m_variables);
         noteSave(m_variables, *m_saved.file);
         moveIntoPlace(m_temporary, m_variables.AdventurePath);
+        if (version) {
+            version->isReplaced();
+            m_notKept = version->failure();
+        }
         m_whereKept = kept.whereKept();
         kept.textsAreReplaced();
     } catch (const FileError &error) {
@@ -93,28 +105,6 @@ bool AdventureSave::swap()
     // that is read; what it is asked here is answered once, instead of at each later read.
     m_saved.file->isStillAt(m_variables.AdventurePath);
     m_saved.file->setPath(m_variables.AdventurePath);
-    return true;
-}
-
-// Asks when the adventure on disk is no longer the one that was opened, and keeps a copy of it.
-bool AdventureSave::mayReplace()
-{
-    const QString path = m_variables.AdventurePath;
-    if (!m_variables.AdventureFile || !QFileInfo(path).isFile() ||
-        m_variables.AdventureFile->isStillAt(path))
-        return true;
-    const QString backup = otherVersionPath(path);
-    const Prompts::Answer answer = m_prompts.message(
-        QCoreApplication::translate(
-            "AdventureSave", "Un autre programme a modifié l'aventure %1 depuis son ouverture. "
-                             "Voulez-vous la remplacer par la vôtre ? L'autre version sera "
-                             "gardée sous le nom %2.")
-            .arg(m_variables.AdventureFileName, QFileInfo(backup).fileName()),
-        QCoreApplication::translate("AdventureSave", "Attention !"), Prompts::Buttons::YesNo);
-    if (answer != Prompts::Answer::Yes)
-        return false;
-    copyFile(path, backup);
-    m_otherVersion = KeptBytes::WholeFile::IsKept;
     return true;
 }
 

@@ -18,7 +18,9 @@ class RichTextBox;
 class AdventureSave
 {
 public:
-    AdventureSave(Variables &variables, Prompts &prompts);
+    // Before the first save since it was opened, the adventure as it was goes to the dated copies.
+    enum class FirstSave { Yes, No };
+    AdventureSave(Variables &variables, Prompts &prompts, FirstSave first);
 
     // onScreen is the box when its text could not become a working file, else null: the text then
     // goes straight into the adventure. Texts that cannot be read are left out, and their bytes are
@@ -31,6 +33,9 @@ public:
     // Tells which texts were left out, if any.
     void tellLeftOut() const;
 
+    // Why the adventure as it was could not be kept, in a line; else empty. That stops no save.
+    const QString &notKept() const { return m_notKept; }
+
 private:
     void takeTextOf(const RichTextBox &box);
     std::optional<QByteArray> text(int n);
@@ -38,18 +43,18 @@ private:
     void writeTo(const QString &folder, const Progress &progress);
     QString adventureFolder() const;
     bool swap();
-    bool mayReplace();
     void swapFailed(const QString &text);
     void takeOverSaved();
     void announce() const;
 
     Variables &m_variables;
     Prompts &m_prompts;
+    FirstSave m_first;
     Variables m_candidate; // what the state will be
     std::optional<QByteArray> m_onScreen;
     QString m_temporary;
     AdventureContents m_saved;
-    KeptBytes::WholeFile m_otherVersion = KeptBytes::WholeFile::NotKept;
     QList<int> m_leftOut;
     QString m_whereKept; // what became of them
+    QString m_notKept;
 };

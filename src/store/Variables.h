@@ -20,6 +20,7 @@ struct Variables {
     QString AdventureFileName; // without its folder
     QString AdventurePath;     // full path
     QString WorkingFolder;     // ends with the platform's separator
+    QString MainFolder;        // that in which private working folders lie; empty: WorkingFolder
     QString FilePrefix;        // of this adventure's working files
     QString TargetPhrase = QStringLiteral(" au ");
     qint16 LowestWritten = 1;

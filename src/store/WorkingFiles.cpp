@@ -124,6 +124,11 @@ QString WorkingFiles::lock() const
     return session() + QStringLiteral("/Usmira.lock");
 }
 
+QString WorkingFiles::copies() const
+{
+    return m_folder + QStringLiteral("Copies");
+}
+
 QString WorkingFiles::newRecoveryFolder(const QDateTime &now) const
 {
     const QString name = m_folder + QStringLiteral("Récupération ") +

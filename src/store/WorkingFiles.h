@@ -21,6 +21,7 @@ struct Variables;
 //   Session/Saisie-0026.rtf            the box as last typed
 //   Session/Avant-0026.rtf             the working file that paragraph 26 had before a change
 //   Session/Usmira.lock                the program that works here
+//   Copies/Le Loup (2026-11-21 ...).usm  an adventure as it was, see DatedCopies
 //   Récupération 2026-11-21 0137/      what was set aside; never removed by the program
 //
 // Unless a function says that it looks, names are made up without touching the disk.
@@ -61,6 +62,7 @@ public:
     QString typed(int n) const;
     QString before(int n) const;
     QString lock() const;
+    QString copies() const; // without a separator at its end
 
     // Looks: a name that is still free.
     QString newRecoveryFolder(const QDateTime &now) const;
