@@ -54,7 +54,8 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_status(variables, *m_ui->rtfBox, *m_ui->statusBar), m_menuStates(variables),
       m_runner(variables, prompts, m_page, m_menuStates),
       m_adventure(variables, prompts, m_page, m_work),
-      m_adventures(variables, prompts, m_work, *this), m_navigation(variables, prompts, m_page),
+      m_adventures(variables, prompts, m_work, m_adventure, *this),
+      m_navigation(variables, prompts, m_page),
       m_searchReplace(variables, prompts, m_work, {m_page, m_navigation, m_runner}, this),
       m_functions(variables, prompts, m_work, *this),
       m_views(variables, prompts, {m_navigation, m_runner}, *this),
@@ -85,8 +86,9 @@ void formUsmira::connectAdventure()
     m_runner.add(*m_ui->menuAvOpen, *m_ui->btnOpen, Kind::Anytime, [this] { m_adventure.Open(); });
     m_runner.add(*m_ui->menuAvSave, *m_ui->btnSave, Kind::Adventure,
                  [this] { m_adventure.Save(); });
-    m_adventures.connectItems({*m_ui->menuAvSaveCopy, *m_ui->menuAvExport, *m_ui->menuAvImport},
-                              m_runner);
+    m_adventures.connectItems(
+        {*m_ui->menuAvSaveCopy, *m_ui->menuAvCopies, *m_ui->menuAvExport, *m_ui->menuAvImport},
+        m_runner);
     connect(new DropToOpen(*this), &DropToOpen::dropped, this, [this](const QString &path) {
         m_runner.run(Kind::Anytime, [this, path] { m_adventure.OpenInstead(path); });
     });

@@ -4,6 +4,7 @@
 #include "outil/Commands.h"
 #include "outil/Script.h"
 #include "outil/StateReport.h"
+#include "store/DatedCopies.h"
 #include "store/LenientNumbers.h"
 
 #include <QFileInfo>
@@ -38,6 +39,29 @@ QByteArray ouvrir(CommandServices &script, const QStringList &arguments)
 QByteArray enregistrer(CommandServices &script, const QStringList & /*arguments*/)
 {
     script.adventure.Save();
+    return {};
+}
+
+QByteArray copies(CommandServices &script, const QStringList & /*arguments*/)
+{
+    QString lines;
+    int k = 0;
+    for (const DatedCopy &copy : datedCopies(script.variables))
+        lines += QStringLiteral("%1\t%2\t%3\t%4\n")
+                     .arg(QString::number(++k),
+                          copy.kept.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")),
+                          QString::number(QFileInfo(copy.path).size()), paragraphsText(copy));
+    return lines.toUtf8();
+}
+
+QByteArray copie(CommandServices &script, const QStringList &arguments)
+{
+    const QList<DatedCopy> copies = datedCopies(script.variables);
+    const int k = arguments.first().toInt();
+    if (k < 1 || k > copies.size())
+        throw UsageError(
+            Commands::tr("numéro d'une des copies attendu : %1").arg(arguments.first()));
+    script.adventure.OpenCopy(copies.at(k - 1));
     return {};
 }
 
@@ -88,6 +112,13 @@ std::vector<CommandEntry> adventureEntries()
         {"ouvrir", "FICHIER", QT_TRANSLATE_NOOP("Commands", "ouvre une aventure"), false, &ouvrir},
         {"enregistrer", "", QT_TRANSLATE_NOOP("Commands", "enregistre l'aventure ouverte"), true,
          &enregistrer},
+        {"copies", "",
+         QT_TRANSLATE_NOOP("Commands",
+                           "liste les copies datées : numéro, date, octets, paragraphes"),
+         true, &copies},
+        {"copie", "N",
+         QT_TRANSLATE_NOOP("Commands", "ouvre la copie N à côté de l'aventure, sous un autre nom"),
+         true, &copie},
         {"fusionner", "FICHIER",
          QT_TRANSLATE_NOOP("Commands", "ajoute les paragraphes d'une autre aventure"), true,
          &fusionner},
