@@ -179,7 +179,11 @@ void KeptVersion::isReplaced()
     if (m_path.isEmpty())
         return;
     m_path.clear();
-    const QList<DatedCopy> copies = datedCopies(m_variables);
-    for (const DatedCopy &copy : copies.mid(MostCopies))
-        tryRemoveFile(copy.path);
+    try {
+        const QList<DatedCopy> copies = datedCopies(m_variables);
+        for (const DatedCopy &copy : copies.mid(MostCopies))
+            tryRemoveFile(copy.path);
+    } catch (const FileError &) {
+        return; // the adventure is saved, and one copy too many is harmless
+    }
 }
