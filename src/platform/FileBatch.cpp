@@ -44,7 +44,7 @@ void FileBatch::enter(const QString &folder)
 {
     if (m_folders.contains(folder))
         return;
-    removeLeftParts(folder);
+    removeLeftParts(folder, PartsIn::AnyFolder);
     m_folders.append(folder);
     m_claims.push_back(std::make_unique<FileClaim>());
     waitToClaim(*m_claims.back(), folder);

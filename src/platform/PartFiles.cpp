@@ -33,7 +33,7 @@ void waitToClaim(FileClaim &claim, const QString &folder)
 
 // A FileBatch holds its folders as long as it has parts there, and every other part is claimed by
 // the program that writes it.
-void removeLeftParts(const QString &folder)
+void removeLeftParts(const QString &folder, PartsIn where)
 {
     const QFileInfoList found =
         QDir(folder).entryInfoList({QStringLiteral("*.usmira-part*")}, QDir::Files | QDir::Hidden);
@@ -43,7 +43,9 @@ void removeLeftParts(const QString &folder)
     alone.take(folder);
     for (const QFileInfo &info : found) {
         FileClaim claim;
-        if (isPart(info) && alone.isHeld() && claim.take(info.filePath()) && claim.isHeld())
+        const bool left = where == PartsIn::OwnFolder ||
+                          (alone.isHeld() && claim.take(info.filePath()) && claim.isHeld());
+        if (isPart(info) && left)
             tryRemoveFile(info.filePath());
     }
 }

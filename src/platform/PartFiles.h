@@ -14,6 +14,8 @@ QString partOf(const QString &target);
 // done twice at once. Nobody waits longer than two seconds, or where the system knows no claims.
 void waitToClaim(FileClaim &claim, const QString &folder);
 
-// Removes from a folder what programs that were killed have left half written. What a running
-// program still writes stays.
-void removeLeftParts(const QString &folder);
+// Removes from a folder what programs that were killed have left half written. In a folder that no
+// other program works in that is all there is; elsewhere, what a running program still writes
+// stays, and where the system cannot tell, everything.
+enum class PartsIn { OwnFolder, AnyFolder };
+void removeLeftParts(const QString &folder, PartsIn where);

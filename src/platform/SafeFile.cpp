@@ -34,7 +34,7 @@ QString checkedTarget(const QString &path, Links links, ReadOnly readOnly)
     const QString target = links == Links::Follow ? finalPath(path) : path;
     refuseUnreplaceable(target, readOnly);
     if (links == Links::Follow)
-        removeLeftParts(QFileInfo(target).absolutePath());
+        removeLeftParts(QFileInfo(target).absolutePath(), PartsIn::AnyFolder);
     return target;
 }
 } // namespace
@@ -208,7 +208,7 @@ void moveIntoPlace(const QString &source, const QString &target)
     const QString resolved = finalPath(target);
     refuseUnreplaceable(resolved, ReadOnly::Replaced);
     const QString folder = QFileInfo(resolved).absolutePath();
-    removeLeftParts(folder);
+    removeLeftParts(folder, PartsIn::AnyFolder);
     const QFile::Permissions before = QFile::permissions(source);
     keepAttributes(source, resolved);
     const std::error_code failure = renameOver(source, resolved);

@@ -1,6 +1,7 @@
 #include "store/Journal.h"
 
 #include "platform/Errors.h"
+#include "platform/PartFiles.h"
 #include "platform/SafeFile.h"
 #include "richtext/TextLimit.h"
 #include "store/SummedLines.h"
@@ -277,10 +278,11 @@ QString recoverJournal(const QString &workingFolder)
         placeJournal(workingFolder, *journal);
     else
         aside = setJournalAside(workingFolder);
-    const QStringList left = files.allParked() + files.allBefore() + files.halfWritten() +
-                             QStringList(files.nextState());
+    const QStringList left = files.allParked() + files.allBefore() + QStringList(files.nextState());
     for (const QString &path : left)
         removeFile(path);
+    removeLeftParts(workingFolder, PartsIn::OwnFolder);
+    removeLeftParts(files.session(), PartsIn::OwnFolder);
     removeSessionFolder(workingFolder);
     return aside;
 }

@@ -97,7 +97,7 @@ std::optional<UnsavedWork> Recovery::offer()
     if (kept)
         return offer(*kept);
     const bool anything = isAnythingAt(m_files.state()) || !m_files.allTyped().isEmpty() ||
-                          !m_files.allTexts().isEmpty();
+                          !m_files.allTexts().isEmpty() || isAnythingAt(m_files.temporarySave());
     if (anything) {
         setAllAside();
         tellLeftovers(m_prompts, m_folder);
@@ -257,7 +257,7 @@ void Recovery::dropSession()
 void Recovery::setAllAside()
 {
     moveSession(m_files.folder(), m_folder);
-    moveToFolder(m_files.allTexts(), m_folder);
+    moveToFolder(m_files.allTexts() + QStringList(m_files.temporarySave()), m_folder);
 }
 
 int Recovery::count() const

@@ -159,14 +159,6 @@ QStringList WorkingFiles::allBefore() const
     return pathsOf(session(), QStringLiteral("Avant-[0-9][0-9][0-9][0-9].rtf"));
 }
 
-// The temporary names have six characters behind the name.
-QStringList WorkingFiles::halfWritten() const
-{
-    return pathsOf(session(), QStringLiteral("Journal.xyz.??????")) +
-           pathsOf(session(), QStringLiteral("Etat.xyz.??????")) +
-           pathsOf(session(), QStringLiteral("Saisie-[0-2][0-9][0-9][0-9].rtf.??????"));
-}
-
 int WorkingFiles::numberOf(const QString &path)
 {
     return path.chopped(QStringView(u".rtf").size()).last(4).toInt();

@@ -68,13 +68,11 @@ public:
     QString newRecoveryFolder(const QDateTime &now) const;
 
     // Looks: full paths of all working files of any adventure, of all parked texts, of all boxes as
-    // last typed, of all texts kept from before a change, and of what writing a file in "Session"
-    // was interrupted and left beside it.
+    // last typed, and of all texts kept from before a change.
     QStringList allTexts() const;
     QStringList allParked() const;
     QStringList allTyped() const;
     QStringList allBefore() const;
-    QStringList halfWritten() const;
 
     // The number in the name of a working file, or of a box as last typed.
     static int numberOf(const QString &path);
