@@ -283,6 +283,7 @@ QString recoverJournal(const QString &workingFolder)
         removeFile(path);
     removeLeftParts(workingFolder, PartsIn::OwnFolder);
     removeLeftParts(files.session(), PartsIn::OwnFolder);
+    removeLeftParts(files.copies(), PartsIn::AnyFolder); // other windows keep copies there too
     removeSessionFolder(workingFolder);
     return aside;
 }
