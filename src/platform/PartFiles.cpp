@@ -42,10 +42,12 @@ void removeLeftParts(const QString &folder, PartsIn where)
     FileClaim alone;
     alone.take(folder);
     for (const QFileInfo &info : found) {
+        if (!isPart(info))
+            continue;
         FileClaim claim;
         const bool left = where == PartsIn::OwnFolder ||
                           (alone.isHeld() && claim.take(info.filePath()) && claim.isHeld());
-        if (isPart(info) && left)
+        if (left)
             tryRemoveFile(info.filePath());
     }
 }

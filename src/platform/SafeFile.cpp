@@ -65,7 +65,7 @@ SafeFile::SafeFile(const QString &path, Durability durability, Links links, Read
     m_file.setDirectWriteFallback(false);
     if (!m_file.open(QIODevice::WriteOnly))
         fail(failureOf(m_file));
-    claimOpen(m_file);
+    m_claim.takeOpen(m_file);
 }
 
 SafeFile::~SafeFile()
@@ -100,6 +100,7 @@ void SafeFile::commit()
         tryRemoveFile(part);
         fail(failure);
     }
+    m_claim.giveUp();
     if (m_durability == Durability::Full)
         trySyncFolder(QFileInfo(m_target).absolutePath());
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/SystemFiles.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QSaveFile>
@@ -50,6 +52,7 @@ private:
 
     QString m_target;
     QSaveFile m_file;
+    FileClaim m_claim; // until it has its name
     Durability m_durability;
 };
 

@@ -11,7 +11,7 @@ ScratchFile::ScratchFile(const QString &target)
 {
     if (!m_file.open())
         fail();
-    claimOpen(m_file);
+    m_claim.takeOpen(m_file);
 }
 
 void ScratchFile::write(QByteArrayView bytes)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/SystemFiles.h"
+
 #include <QByteArrayView>
 #include <QTemporaryFile>
 
@@ -22,4 +24,5 @@ private:
 
     const QString m_target;
     QTemporaryFile m_file;
+    FileClaim m_claim;
 };

@@ -56,9 +56,6 @@ std::error_code syncFileSystemOf(const QString &folder);
 // down to what everybody has.
 void keepAttributes(const QString &written, const QString &replaced);
 
-// Tells other programs, until it is closed, that an open file is still being written.
-void claimOpen(const QFileDevice &open);
-
 // Makes this program the one that may replace a file, until it ends or takes another. Programs that
 // know nothing of claims are not hindered.
 class FileClaim
@@ -72,6 +69,8 @@ public:
     // False, and the claim before stays: another program has claimed the file. True where there is
     // no such file, or where the system knows no claims.
     bool take(const QString &path);
+    // Claims a file that is open for writing, also for the time after that has been closed.
+    void takeOpen(const QFileDevice &open);
     void giveUp();
 
     // False also where take() had nothing to claim.

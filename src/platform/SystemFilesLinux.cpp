@@ -149,11 +149,6 @@ void keepAttributes(const QString &written, const QString &replaced)
     static_cast<void>(::chmod(path.constData(), mode)); // some disks know no modes
 }
 
-void claimOpen(const QFileDevice &open)
-{
-    static_cast<void>(::flock(open.handle(), LOCK_EX | LOCK_NB)); // some disks know no locks
-}
-
 FileClaim::~FileClaim()
 {
     giveUp();
@@ -179,6 +174,14 @@ bool FileClaim::take(const QString &path)
     giveUp();
     m_descriptor = descriptor;
     return true;
+}
+
+// A second descriptor of the same open file: the lock is that of both.
+void FileClaim::takeOpen(const QFileDevice &open)
+{
+    giveUp();
+    m_descriptor = ::fcntl(open.handle(), F_DUPFD_CLOEXEC, 0);
+    static_cast<void>(::flock(m_descriptor, LOCK_EX | LOCK_NB)); // some disks know no locks
 }
 
 void FileClaim::giveUp()

@@ -107,8 +107,6 @@ void keepAttributes(const QString &written, const QString &replaced)
         QFile::setPermissions(written, info.permissions());
 }
 
-void claimOpen(const QFileDevice & /*open*/) {}
-
 FileClaim::~FileClaim()
 {
     giveUp();
@@ -118,5 +116,7 @@ bool FileClaim::take(const QString & /*path*/)
 {
     return true;
 }
+
+void FileClaim::takeOpen(const QFileDevice & /*open*/) {}
 
 void FileClaim::giveUp() {}
