@@ -32,6 +32,8 @@ void copiesDlog::Form_Load()
         row->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
         m_ui->copiesList->addTopLevelItem(row);
     }
+    for (const int number : {1, 2})
+        m_ui->copiesList->headerItem()->setTextAlignment(number, Qt::AlignRight);
     for (int column = 0; column < 3; ++column)
         m_ui->copiesList->header()->setSectionResizeMode(
             column, column == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
@@ -41,6 +43,7 @@ void copiesDlog::Form_Load()
     m_ui->copiesList->setVisible(any);
     m_ui->OKButton->setEnabled(any);
     m_ui->copiesList->setCurrentItem(m_ui->copiesList->topLevelItem(0));
+    m_ui->CancelButton->setDefault(!any);
     if (any)
         m_ui->copiesList->setFocus();
     else
