@@ -10,12 +10,12 @@
 #include "store/AdventureSave.h"
 #include "store/DamagedTexts.h"
 #include "store/DatedCopies.h"
+#include "store/DiscardedChanges.h"
 #include "store/LongWork.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
 #include "store/Session.h"
 #include "store/SessionRecovery.h"
-#include "store/WorkingFiles.h"
 
 #include <QFileInfo>
 
@@ -24,19 +24,6 @@ namespace
 QString adventureFilter()
 {
     return AdventureCommands::tr("Fichiers Usmira (*.usm)|*.usm");
-}
-
-// The paragraphs that are not as the adventure file has them.
-QList<int> changedNumbers(const Variables &variables)
-{
-    QList<int> changed;
-    for (int n = 0; n <= Variables::LastParagraph; ++n) {
-        const bool emptied = variables.SectionOffset.at(n) > 0 && variables.Written.at(n) == 0;
-        const bool onScreen = variables.ParagraphDirty && n == variables.CurrentParagraph;
-        if (variables.Extracted.at(n) == 1 || emptied || onScreen)
-            changed.append(n);
-    }
-    return changed;
 }
 
 // A placeholder reserves the name of a new adventure. A file that is there already stays until the
@@ -49,6 +36,16 @@ void reserve(const QString &path)
     else if (!info.isFile() || !info.isWritable())
         throw FileError(FileError::Operation::Write, path, QStringLiteral("cannot be replaced"),
                         info.isFile() ? std::errc::permission_denied : std::errc::is_a_directory);
+}
+
+// What lies there until then; null when it cannot be read.
+std::shared_ptr<OpenedFile> reserved(const QString &path)
+{
+    try {
+        return std::make_shared<OpenedFile>(path);
+    } catch (const FileError &) {
+        return nullptr;
+    }
 }
 
 // A folder whose name is no text can be read from within, by a name without folders; what is saved
@@ -92,58 +89,11 @@ bool AdventureCommands::LeaveAdventure()
     case Prompts::Answer::Yes:
         return Save();
     case Prompts::Answer::No:
-        discardChanges();
+        discardChanges(m_variables, m_prompts);
         return true;
     default:
         return false;
     }
-}
-
-// Back to the adventure as it was last saved. The working files go only when it can be read: else
-// they may be all that is left of it.
-void AdventureCommands::discardChanges()
-{
-    AdventureContents saved;
-    saved.version = CurrentVersion;
-    saved.targetPhrase = m_variables.TargetPhrase;
-    const bool neverSaved = !m_variables.AdventureFile;
-    try {
-        if (!neverSaved)
-            saved = readAdventure(m_variables.AdventurePath);
-    } catch (const UsmiraError &) {
-        keepUnsaved();
-        return;
-    }
-    const QList<int> changed = changedNumbers(m_variables);
-    // Killed from here on, the program sets aside what is still there: some of it is not offered.
-    forgetSession(m_variables.WorkingFolder);
-    DiscardWorkingFiles(m_variables);
-    setSaved(m_variables);
-    takeOver(m_variables, std::move(saved));
-    if (!m_variables.CurrentFormat)
-        RebuildReferenceIndex(m_variables, [](int, int) {});
-    Q_EMIT m_variables.Events->textsChanged(changed);
-    Q_EMIT m_variables.Events->marksChanged();
-}
-
-void AdventureCommands::keepUnsaved()
-{
-    const QList<int> changed = changedNumbers(m_variables);
-    const QString folder = setWorkingFilesAside(m_variables);
-    setSaved(m_variables);
-    m_variables.ParagraphDirty = false;
-    try {
-        takeOver(m_variables, readAdventure(m_variables.AdventureFile));
-    } catch (const UsmiraError &) {
-        // What can be read of it is still shown.
-    }
-    const QString text = QCoreApplication::translate(
-        "AdventureCommands", "L'aventure %1 ne peut plus être relue. Les paragraphes non "
-                             "enregistrés sont rangés dans le dossier %2.");
-    m_prompts.message(text.arg(m_variables.AdventureFileName, folder), QStringLiteral("BUG"),
-                      Prompts::Buttons::Ok);
-    Q_EMIT m_variables.Events->textsChanged(changed);
-    Q_EMIT m_variables.Events->marksChanged();
 }
 
 // After a command that left the adventure but opened no other.
@@ -309,6 +259,7 @@ void AdventureCommands::OpenUnsaved(const UnsavedWork &work)
 void AdventureCommands::announceAdventure()
 {
     m_saved = false;
+    m_reserved = m_variables.AdventureFile ? nullptr : reserved(m_variables.AdventurePath);
     m_prompts.beginIn(QFileInfo(m_variables.AdventurePath).absolutePath());
     Q_EMIT m_variables.Events->adventureReplaced();
 }
@@ -336,11 +287,12 @@ bool AdventureCommands::Save()
         if (paragraphSaved && !hasUnsavedChanges(m_variables))
             return true;
         claim(m_variables.AdventurePath);
-        AdventureSave save(m_variables, m_prompts,
-                           m_saved ? AdventureSave::FirstSave::No : AdventureSave::FirstSave::Yes);
+        const auto first = m_saved ? AdventureSave::FirstSave::No : AdventureSave::FirstSave::Yes;
+        AdventureSave save(m_variables, m_prompts, first, m_reserved.get());
         if (!writeAndSwap(save, paragraphSaved))
             return false;
         m_saved = true;
+        m_reserved.reset();
         m_claim.take(m_variables.AdventurePath); // it is another file now
         save.tellLeftOut();
         if (!save.notKept().isEmpty())

@@ -6,8 +6,10 @@
 
 #include <QCoreApplication>
 #include <functional>
+#include <memory>
 
 class AdventureSave;
+class OpenedFile;
 class RichTextBox;
 class WorkReport;
 struct DatedCopy;
@@ -72,8 +74,6 @@ public:
 
 private:
     void openFrom(const std::function<QString()> &choose);
-    void discardChanges();
-    void keepUnsaved();
     void showAgain();
     QString pathToOpen(const QString &path);
     void claim(const QString &path);
@@ -88,6 +88,7 @@ private:
     Prompts &m_prompts;
     AdventureView &m_view;
     WorkReport &m_report;
-    FileClaim m_claim;    // on the open adventure, while no other window has it
-    bool m_saved = false; // since it was opened
+    FileClaim m_claim;                      // on the open adventure, while no other window has it
+    std::shared_ptr<OpenedFile> m_reserved; // what a new one is to replace; else null
+    bool m_saved = false;                   // since it was opened
 };

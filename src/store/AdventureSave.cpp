@@ -15,8 +15,10 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-AdventureSave::AdventureSave(Variables &variables, Prompts &prompts, FirstSave first)
-    : m_variables(variables), m_prompts(prompts), m_first(first), m_candidate(variables)
+AdventureSave::AdventureSave(Variables &variables, Prompts &prompts, FirstSave first,
+                             OpenedFile *reserved)
+    : m_variables(variables), m_prompts(prompts), m_first(first), m_reserved(reserved),
+      m_candidate(variables)
 {
 }
 
@@ -78,7 +80,9 @@ bool AdventureSave::swap()
     const QString words = QCoreApplication::translate(
         "AdventureSave", "Fichier enregistré, incapable d'échanger avec l'original.");
     try {
-        const ReplaceAnswer answer = askToReplace(m_variables, m_prompts);
+        const ReplaceAnswer answer = askToReplace(
+            m_variables, m_variables.AdventureFile ? m_variables.AdventureFile.get() : m_reserved,
+            m_prompts);
         if (!answer.allowed) {
             swapFailed(words);
             return false;

@@ -20,7 +20,8 @@ class AdventureSave
 public:
     // Before the first save since it was opened, the adventure as it was goes to the dated copies.
     enum class FirstSave { Yes, No };
-    AdventureSave(Variables &variables, Prompts &prompts, FirstSave first);
+    // reserved is what lay under the name of a new adventure, where that is known; not owned.
+    AdventureSave(Variables &variables, Prompts &prompts, FirstSave first, OpenedFile *reserved);
 
     // onScreen is the box when its text could not become a working file, else null: the text then
     // goes straight into the adventure. Texts that cannot be read are left out, and their bytes are
@@ -50,6 +51,7 @@ private:
     Variables &m_variables;
     Prompts &m_prompts;
     FirstSave m_first;
+    OpenedFile *m_reserved;
     Variables m_candidate; // what the state will be
     std::optional<QByteArray> m_onScreen;
     QString m_temporary;

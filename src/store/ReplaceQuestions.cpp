@@ -20,11 +20,9 @@ bool isAllowed(Prompts &prompts, const QString &question)
                            Prompts::Buttons::YesNo) == Prompts::Answer::Yes;
 }
 
-bool isAnotherVersion(const Variables &variables)
+bool isAnother(OpenedFile *expected, const QString &path)
 {
-    const QString &path = variables.AdventurePath;
-    return variables.AdventureFile && QFileInfo(path).isFile() &&
-           !variables.AdventureFile->isStillAt(path);
+    return expected != nullptr && QFileInfo(path).isFile() && !expected->isStillAt(path);
 }
 
 // A save that was killed may have left the file a name among the copies; that one is ours.
@@ -57,7 +55,7 @@ bool keepsOtherVersion(const Variables &variables, Prompts &prompts)
 }
 } // namespace
 
-ReplaceAnswer askToReplace(const Variables &variables, Prompts &prompts)
+ReplaceAnswer askToReplace(const Variables &variables, OpenedFile *expected, Prompts &prompts)
 {
     ReplaceAnswer answer;
     if (isReadOnly(variables.AdventurePath) &&
@@ -76,7 +74,7 @@ ReplaceAnswer askToReplace(const Variables &variables, Prompts &prompts)
                        "d'avant.")
                        .arg(variables.AdventureFileName)))
         return answer;
-    if (isAnotherVersion(variables)) {
+    if (isAnother(expected, variables.AdventurePath)) {
         if (!keepsOtherVersion(variables, prompts))
             return answer;
         answer.otherVersionKept = true;

@@ -19,6 +19,8 @@ using Answer = Prompts::Answer;
 namespace
 {
 const QString Wolf = "Le Loup.usm";
+const QString Names = "Le fichier de l'aventure Le Loup.usm porte aussi d'autres noms. Voulez-vous "
+                      "l'enregistrer sous ce nom seul ? Les autres garderont le texte d'avant.";
 
 struct Editor : TestAdventure {
     struct View : HeadlessView {
@@ -118,14 +120,11 @@ private Q_SLOTS:
     {
         const char *readOnly = "L'aventure Le Loup.usm est protégée en écriture. Voulez-vous la "
                                "remplacer quand même ?";
-        const char *names = "Le fichier de l'aventure Le Loup.usm porte aussi d'autres noms. "
-                            "Voulez-vous l'enregistrer sous ce nom seul ? Les autres garderont le "
-                            "texte d'avant.";
         addTable<int, QByteArray, Answer>({"mode", "question", "answer"},
                                           {{"read-only, yes", 0444, readOnly, Answer::Yes},
                                            {"read-only, no", 0444, readOnly, Answer::No},
-                                           {"other names, yes", 0640, names, Answer::Yes},
-                                           {"other names, no", 0640, names, Answer::No}});
+                                           {"other names, yes", 0640, Names.toUtf8(), Answer::Yes},
+                                           {"other names, no", 0640, Names.toUtf8(), Answer::No}});
     }
     void whatBecomesOfTheOldFileIsAsked()
     {
@@ -152,6 +151,24 @@ private Q_SLOTS:
             QCOMPARE(e.content("autre.usm"), before);
             QVERIFY(!saved || e.save("encore"));
         }
+    }
+
+    // The first save of a new adventure failed, and what it was to replace is another file by now.
+    void whatTookTheNameOfANewAdventureIsAsked()
+    {
+        Editor e;
+        const QString path = e.file(Wolf, "an old file");
+        QVERIFY(::link(qPrintable(path), qPrintable(e.path("autre.usm"))) == 0);
+        e.prompts.expect(Names, "Attention !", Prompts::Buttons::YesNo, Answer::No);
+        e.prompts.expect("Fichier enregistré, incapable d'échanger avec l'original.", "BUG");
+        QVERIFY(e.commands.NewAdventure(path) && QFile::remove(path));
+        e.file(Wolf, "a foreign file");
+        e.prompts.expect("Un autre programme a modifié l'aventure Le Loup.usm depuis son "
+                         "ouverture. Voulez-vous la remplacer par la vôtre ? L'autre version "
+                         "sera gardée sous le nom Le Loup (autre version).usm.",
+                         "Attention !", Prompts::Buttons::YesNo, Answer::Yes);
+        QVERIFY(e.commands.Save());
+        QCOMPARE(e.content("Le Loup (autre version).usm"), "a foreign file");
     }
 
     void aVanishedAdventureIsWrittenAgain()
@@ -205,6 +222,7 @@ private Q_SLOTS:
         const bool opened = e.commands.OpenAdventure("a.usm");
         e.prompts.expect("Erreur pendant l'écriture du fichier.", "BUG");
         const bool made = e.commands.NewAdventure("b.usm");
+        QVERIFY(QFile::remove("a.usm") && ::rmdir(folder.constData()) == 0);
         QVERIFY(QDir::setCurrent(before) && !opened && !made && !e.variables.AdventureOpen);
     }
 };
