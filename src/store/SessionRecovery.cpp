@@ -33,6 +33,15 @@ void tellLeftovers(Prompts &prompts, const QString &folder)
                       .arg(QDir::toNativeSeparators(folder)));
 }
 
+// The author has given it up himself, or the program was killed in between.
+void tellUnplaced(Prompts &prompts, const QString &folder)
+{
+    tell(prompts, QCoreApplication::translate(
+                      "SessionRecovery", "Une aventure enregistrée qui n'a pas pris la place de "
+                                         "l'original est rangée dans le dossier %1.")
+                      .arg(QDir::toNativeSeparators(folder)));
+}
+
 bool has(const SessionState::Marks &marks, int n)
 {
     return marks.test(static_cast<std::size_t>(n));
@@ -97,11 +106,14 @@ std::optional<UnsavedWork> Recovery::offer()
     if (kept)
         return offer(*kept);
     const bool anything = isAnythingAt(m_files.state()) || !m_files.allTyped().isEmpty() ||
-                          !m_files.allTexts().isEmpty() || isAnythingAt(m_files.temporarySave());
-    if (anything) {
+                          !m_files.allTexts().isEmpty();
+    const bool saved = isAnythingAt(m_files.temporarySave());
+    if (anything || saved)
         setAllAside();
+    if (anything)
         tellLeftovers(m_prompts, m_folder);
-    }
+    else if (saved)
+        tellUnplaced(m_prompts, m_folder);
     return std::nullopt;
 }
 
