@@ -64,8 +64,8 @@ public:
     QString file(const QString &name, const QByteArray &bytes) const;
     QString path(const QString &name) const { return m_folder.filePath(name); }
     QByteArray content(const QString &name) const;
-    // Names of what lies in the working folder, sorted, and last of what lies in "Session"; the dated
-    // copies are left out.
+    // Names of what lies in the working folder, sorted, and last of what lies in "Session"; the
+    // dated copies are left out.
     QStringList workingFiles() const;
 
     Variables variables;
