@@ -60,6 +60,12 @@ QByteArray numberLine(int n)
 
 Commands::Commands(Variables &variables, Prompts &prompts) : m_services(variables, prompts) {}
 
+void Commands::open(const UnsavedWork &work)
+{
+    m_services.adventure.OpenUnsaved(work);
+    SaveCurParg(m_services.variables, m_services.view.editingBox(), m_services.prompts);
+}
+
 QByteArray Commands::run(const QStringList &words)
 {
     if (words.isEmpty())

@@ -19,9 +19,9 @@ public:
     // FileError or FormatError on a failure that has no message yet.
     QByteArray run(const QStringList &words);
 
-    // Opens the adventure that a killed program had open, with its unsaved work. Throws
-    // UsmiraError.
-    void open(const UnsavedWork &work) { m_services.adventure.OpenUnsaved(work); }
+    // Opens the adventure that a killed program had open, with its unsaved work, which every
+    // command finds in the adventure then. Throws UsmiraError.
+    void open(const UnsavedWork &work);
 
     // At the end of a script: what was not saved goes, and the author is told.
     void finish(bool save);

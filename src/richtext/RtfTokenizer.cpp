@@ -43,18 +43,19 @@ RtfToken RtfTokenizer::next()
     return token;
 }
 
-void RtfTokenizer::skipGroup()
+bool RtfTokenizer::skipGroup()
 {
     qsizetype depth = 1;
     while (depth > 0) {
         const RtfToken token = next();
         if (token.kind == RtfToken::Kind::End)
-            return;
+            return false;
         if (token.kind == RtfToken::Kind::GroupOpen)
             ++depth;
         else if (token.kind == RtfToken::Kind::GroupClose)
             --depth;
     }
+    return true;
 }
 
 RtfToken RtfTokenizer::control()
@@ -139,4 +140,10 @@ RtfToken RtfTokenizer::text()
     token.bytes = QByteArrayView(from, to);
     m_at += to - from;
     return token;
+}
+
+bool isWholeRtf(QByteArrayView rtf)
+{
+    RtfTokenizer tokenizer(rtf);
+    return tokenizer.next().kind == RtfToken::Kind::GroupOpen && tokenizer.skipGroup();
 }

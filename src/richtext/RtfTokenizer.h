@@ -35,8 +35,9 @@ public:
 
     RtfToken next();
 
-    // Goes behind the end of the group in which the next token stands, whatever is inside it.
-    void skipGroup();
+    // Goes behind the end of the group in which the next token stands, whatever is inside it. False
+    // when the text ends before the group does.
+    bool skipGroup();
 
 private:
     RtfToken control();
@@ -49,3 +50,6 @@ private:
     QByteArrayView m_rtf;
     qsizetype m_at = 0;
 };
+
+// Whether the outermost group comes to its end: not so in a file that was cut.
+bool isWholeRtf(QByteArrayView rtf);

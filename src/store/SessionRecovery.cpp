@@ -5,6 +5,7 @@
 #include "platform/Prompts.h"
 #include "platform/SafeFile.h"
 #include "richtext/RtfPlainText.h"
+#include "richtext/RtfTokenizer.h"
 #include "richtext/TextLimit.h"
 #include "store/DamagedTexts.h"
 #include "store/Journal.h"
@@ -210,6 +211,8 @@ void Recovery::readBox()
         const QString newest = typed.last();
         try {
             const QByteArray rtf = readWholeFile(newest, LargestText);
+            if (!isWholeRtf(rtf))
+                break;
             rtfToPlainText(rtf);
             m_work.box = rtf;
             m_work.state.current = WorkingFiles::numberOf(newest);

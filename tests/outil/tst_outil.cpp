@@ -1,4 +1,9 @@
 #include "outil/Script.h"
+#include "richtext/HiddenBox.h"
+#include "richtext/RtfPlainText.h"
+#include "store/AdventureFile.h"
+#include "store/ParagraphTexts.h"
+#include "store/Session.h"
 #include "support/AdventureBuilder.h"
 
 #include <QJsonArray>
@@ -324,6 +329,29 @@ enregistrer
                 one[QStringLiteral("text")] == QString());
         QVERIFY(!state.at(1).toObject()[QStringLiteral("damaged")].toBool(true));
         QCOMPARE(adventure.content(QStringLiteral("a (illisible 0001).bin")), QByteArray("zut"));
+    }
+
+    void theBoxOfAKilledProgramOutlivesEveryCommand()
+    {
+        TestAdventure killed;
+        Variables &v = killed.variables;
+        const QString path = killed.file(QStringLiteral("a.usm"),
+                                         AdventureBuilder({QStringLiteral("1: Fin")}).bytes());
+        takeOver(v, readAdventure(path));
+        setNames(v, path);
+        HiddenBox box;
+        box.setText(QStringLiteral("pas encore en lieu sûr"));
+        v.CurrentParagraph = 7;
+        v.ParagraphDirty = true;
+        keepBox(v, box);
+        const Outcome outcome = run(killed, {QStringLiteral("--recuperer"), QStringLiteral("-e"),
+                                             QStringLiteral("effacer 1"), QStringLiteral("-e"),
+                                             QStringLiteral("texte-brut 7"), QStringLiteral("-e"),
+                                             QStringLiteral("enregistrer")});
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.output.trimmed(), QByteArray("pas encore en lieu sûr"));
+        takeOver(v, readAdventure(path));
+        QCOMPARE(rtfToPlainText(GetParagraphRtf(v, 7)), QStringLiteral("pas encore en lieu sûr"));
     }
 
     void answersDecideWhatBecomesOfTheChanges_data()

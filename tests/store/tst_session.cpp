@@ -235,7 +235,7 @@ private Q_SLOTS:
         Scene scene;
         const QString before = scene.editor->state();
         for (const auto name : {"x-0003.rtf", "LL-0007.rtf", "Session/Saisie-0009.rtf"})
-            scene.file(QStringLiteral("Dossier Usmira/") + name, "no rtf");
+            scene.file(QStringLiteral("Dossier Usmira/") + name, "{\\rtf1 {\\b cut} ");
         Editor next = scene.restarted();
         next.start();
         QCOMPARE(next.state(), before);
