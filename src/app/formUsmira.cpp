@@ -167,6 +167,9 @@ void formUsmira::connectBox()
     connect(m_ui->frameTabPanel, &TabPanel::tabRefused, this, [this] { m_prompts.beep(); });
     connect(&m_page, &ParagraphPage::changed, &m_status, &StatusLine::refresh);
     connect(&m_page, &ParagraphPage::changed, &m_typed, &TypedSnapshot::follow);
+    connect(&m_typed, &TypedSnapshot::failed, this, [this](const UsmiraError &error) {
+        m_work.announce(failureLine(tr("Rien de ce qui est tapé n'est à l'abri."), error));
+    });
     connectReferences();
 }
 

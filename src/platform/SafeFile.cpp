@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <filesystem>
 
 namespace
@@ -173,6 +174,7 @@ bool isAnythingAt(const QString &path)
 void moveToFolder(const QStringList &paths, const QString &folder)
 {
     QDir().mkpath(folder);
+    const auto dropEmpty = qScopeGuard([&folder] { QDir().rmdir(folder); });
     for (const QString &path : paths)
         if (isAnythingAt(path))
             renameFile(path, folder + u'/' + QFileInfo(path).fileName());

@@ -87,8 +87,9 @@ void renameFile(const QString &source, const QString &target);
 // Whether a name leads to anything, be it a link that leads nowhere.
 bool isAnythingAt(const QString &path);
 
-// Moves files to a folder on the same file system, which is made if need be. Those that are not
-// there are passed over. Throws FileError (Write) at the first that stays.
+// Moves files to a folder on the same file system, which is made if need be and goes again when it
+// stays empty. Those that are not there are passed over. Throws FileError (Write) at the first that
+// stays.
 void moveToFolder(const QStringList &paths, const QString &folder);
 
 // Puts the complete file source in the place of target (links followed; owner, group and

@@ -3,7 +3,6 @@
 #include "platform/Errors.h"
 #include "platform/PartFiles.h"
 #include "platform/SafeFile.h"
-#include "platform/SystemFiles.h"
 #include "store/Journal.h"
 #include "store/SessionRecovery.h"
 #include "store/WorkingFiles.h"
@@ -41,21 +40,22 @@ void copySettings(const WorkingFiles &from, const WorkingFiles &to)
 }
 } // namespace
 
-// A file that is no lock of a running program is told by the lock that the system keeps on it: its
-// age, the process it names and its length say nothing.
+// The folder itself is claimed first: that needs no room on the disk and no right to write, and
+// nobody can remove it by hand. The file is for systems that know no claims. One that is no lock of
+// a running program is told by the lock that the system keeps on it: its age, the process it names
+// and its length say nothing.
 FolderLock::FolderLock(const QString &workingFolder)
     : m_workingFolder(workingFolder), m_file(WorkingFiles(workingFolder).lock())
 {
+    m_taken = !m_claim.take(workingFolder);
+    if (m_taken)
+        return;
     m_file.setStaleLockTime(0);
     try {
         makeSessionFolder(workingFolder);
     } catch (const UsmiraError &) {
         return;
     }
-    // Two programs that start at once must not both take a stale lock away: the second would take
-    // that of the first.
-    FileClaim alone;
-    waitToClaim(alone, workingFolder);
     removeNoFile(WorkingFiles(workingFolder).lock());
     // By this QLockFile takes stale locks away; one that a killed start has left is in its way.
     tryRemoveFile(WorkingFiles(workingFolder).lock() + QStringLiteral(".rmlock"));

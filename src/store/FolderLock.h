@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/SystemFiles.h"
+
 #include <QLockFile>
 #include <QString>
 #include <memory>
@@ -20,6 +22,7 @@ public:
 
 private:
     QString m_workingFolder;
+    FileClaim m_claim;
     QLockFile m_file;
     bool m_taken = false;
 };

@@ -1,5 +1,6 @@
 #include "store/TypedSnapshot.h"
 
+#include "platform/Errors.h"
 #include "store/Session.h"
 
 #include <algorithm>
@@ -10,6 +11,7 @@ constexpr qint64 Pause = 3000; // milliseconds
 // Of unbroken typing. A busy disk may take its time, and yet no more than three seconds are to go.
 constexpr qint64 Soonest = 2000;
 constexpr qint64 Longest = 30000;
+constexpr int Retry = 10000; // after a failure
 
 // Keeping the text takes no more than one part in so many of the time.
 constexpr qint64 Share = 10;
@@ -40,13 +42,24 @@ void TypedSnapshot::take()
     m_timer.stop();
     if (!m_sinceFirst.isValid())
         return;
-    m_sinceFirst.invalidate();
     QElapsedTimer cost;
     cost.start();
     try {
         keepBox(m_variables, m_box);
-    } catch (const std::exception &) {
+    } catch (const UsmiraError &error) {
+        m_sinceFirst.start();
+        m_timer.start(Retry);
+        tellOnce(error);
         return;
     }
+    m_sinceFirst.invalidate();
+    m_told = false;
     m_longest = std::clamp(Share * cost.elapsed(), Soonest, Longest);
+}
+
+void TypedSnapshot::tellOnce(const UsmiraError &error)
+{
+    if (!m_told)
+        Q_EMIT failed(error);
+    m_told = true;
 }

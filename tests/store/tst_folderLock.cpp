@@ -52,6 +52,9 @@ private Q_SLOTS:
         const QString folder = adventure.variables.WorkingFolder;
         write(WorkingFiles(folder).settings(), "settings of the first");
         const WorkingPlace first = takeWorkingFolder(folder, {}, LeftSessions::First);
+#ifndef USMIRA_PORTABLE
+        QDir(WorkingFiles(folder).session()).removeRecursively(); // by a cleaner, say
+#endif
         const WorkingPlace second = takeWorkingFolder(folder, {}, LeftSessions::First);
         const WorkingPlace place = takeWorkingFolder(folder, {}, LeftSessions::First);
         QCOMPARE(first.folder, folder);
