@@ -1,21 +1,32 @@
 #pragma once
 
 #include <QString>
+#include <cerrno>
+#include <string>
 
 // Makes the file calls of the program and of Qt go wrong. Add FaultyCalls.cpp to the sources of the
-// test itself: its functions then stand in front of those of the system. Counted are opening for
-// writing, writing, syncing, renaming, removing and making folders under a prefix.
+// test itself: its functions then stand in front of those of the system. tests/faults puts the same
+// file in front of any program. Counted is every call that changes what lies under a prefix, and
+// every sync of it.
 namespace FaultyCalls
 {
 enum class Fault {
     None,
-    FailOnce, // the call fails, those after it work
-    FailOn,   // it fails and so do all after it, as on a disk that has gone
-    Kill,     // the process ends there; a write is torn in the middle
+    FailOnce,   // the call fails, those after it work
+    FailOn,     // it fails and so do all after it, as on a disk that has gone
+    Kill,       // the process ends there; a write is torn in the middle
+    KillBefore, // it ends without having begun the call
+    KillAfter,  // it ends when the call has been made
+    Short,      // a write takes half of the bytes and says so; other calls are not counted
 };
 
-// From now on the call-th call, counted from 1, goes wrong.
-void arm(const QString &prefix, Fault fault, int call);
+// From now on the call-th call, counted from 1, goes wrong. With EXDEV only the calls are counted
+// that give a file a new name: no other one meets it.
+void arm(const std::string &prefix, Fault fault, int call, int error = EIO);
+inline void arm(const QString &prefix, Fault fault, int call)
+{
+    arm(prefix.toStdString(), fault, call);
+}
 
 // Ends it and gives the number of calls seen.
 int disarm();
