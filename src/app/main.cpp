@@ -4,6 +4,7 @@
 #include "platform/DialogPrompts.h"
 #include "platform/EndSignals.h"
 #include "platform/Failures.h"
+#include "platform/SystemFiles.h"
 #include "platform/Translations.h"
 #include "store/FolderLock.h"
 #include "store/SessionRecovery.h"
@@ -14,6 +15,7 @@
 int main(int argc, char *argv[])
 {
     EndSignals::holdBack();
+    letTooLongWritesFail();
     Application application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("Usmira"));
     QCoreApplication::setApplicationVersion(QStringLiteral(USMIRA_VERSION));

@@ -1,6 +1,7 @@
 #include "outil/Commands.h"
 #include "outil/ScriptPrompts.h"
 #include "platform/Failures.h"
+#include "platform/SystemFiles.h"
 #include "platform/Translations.h"
 #include "store/FolderLock.h"
 #include "store/SessionRecovery.h"
@@ -158,6 +159,7 @@ int main(int argc, char *argv[])
     // No command needs a screen, and standard error is for the commands' own messages.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    letTooLongWritesFail();
     const QGuiApplication application(argc, argv);
     loadTranslations();
     QCoreApplication::setApplicationName(QStringLiteral("Usmira"));

@@ -79,3 +79,7 @@ public:
 private:
     int m_descriptor = -1;
 };
+
+// From now on a write that goes beyond the size that files may have fails like any other, instead
+// of ending the program. Called once, by main.
+void letTooLongWritesFail();
