@@ -8,15 +8,15 @@ const QString Edit = QStringLiteral("texte 4 @/t.rtf");
 const QStringList NextSave{Open, QStringLiteral("texte 8 @/t.rtf"), Save};
 
 // A change between the edit of another paragraph and the save.
-Operation changing(const QString &name, const QString &command)
+Operation changing(const QString &name, const QString &command, bool onlyInMemory = false)
 {
-    return {name, {Edit, command, Save}, {}, NextSave};
+    return {name, {Edit, command, Save}, {}, NextSave, onlyInMemory};
 }
 
 // Writes other files, from a paragraph in its working file and others in the adventure.
 Operation exporting(const QString &name, const QString &command, const QStringList &products)
 {
-    return {name, {Edit, command}, products, {Open, Edit, command}, true};
+    return {name, {Edit, command}, products, {Open, Edit, command}, false, true};
 }
 } // namespace
 
@@ -26,8 +26,8 @@ const QList<Operation> &operations()
         changing(QStringLiteral("éditer"), QStringLiteral("texte 5 @/u.rtf")),
         changing(QStringLiteral("vider"), QStringLiteral("effacer 5")),
         changing(QStringLiteral("enregistrer"), Save),
-        changing(QStringLiteral("fixer"), QStringLiteral("fixe 5 1")),
-        changing(QStringLiteral("phrase"), QStringLiteral("phrase rendez-vous_au_")),
+        changing(QStringLiteral("fixer"), QStringLiteral("fixe 5 1"), true),
+        changing(QStringLiteral("phrase"), QStringLiteral("phrase rendez-vous_au_"), true),
         changing(QStringLiteral("échanger"), QStringLiteral("echanger 2 5")),
         changing(QStringLiteral("mélanger"), QStringLiteral("melanger 1 9 5")),
         changing(QStringLiteral("déplacer"), QStringLiteral("deplacer 2 4 3 haut")),
