@@ -13,6 +13,7 @@
 #include "store/Journal.h"
 #include "store/ParagraphStore.h"
 #include "store/ParagraphTexts.h"
+#include "store/Session.h"
 #include "support/AdventureBuilder.h"
 
 #include <QDir>
@@ -98,6 +99,7 @@ void merge(const QByteArray &bytes)
             rtfToPlainText(GetParagraphRtf(variables, n));
     promise(variables.Written.at(1) == 1 && variables.Written.at(3) == 1,
             "merging removes no paragraph");
+    forgetSession(variables.WorkingFolder);
     DiscardWorkingFiles(variables);
     promise(!QFileInfo::exists(scratch().folder() + QStringLiteral("Session")),
             "a merge leaves nothing behind");

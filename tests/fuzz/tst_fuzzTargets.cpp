@@ -29,7 +29,11 @@ private Q_SLOTS:
     {
         QFETCH(int, target);
         QFETCH(QByteArray, bytes);
-        fuzzTargets().at(target).run(bytes);
+        try {
+            fuzzTargets().at(target).run(bytes);
+        } catch (const std::exception &error) {
+            QFAIL(error.what());
+        }
     }
 
     void aBrokenPromiseIsSeen()
