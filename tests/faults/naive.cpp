@@ -1,21 +1,22 @@
 // usmira-naive-saver ADVENTURE NEW: saves as one would without thinking of faults, and must lose
-// the adventure when it is cut off: it removes the old file, and then copies the new one. When the
-// sweep does not find that out, the sweep is worth nothing.
+// the adventure in each of them: it removes the old file, then copies the new one, and takes a
+// write that took something for one that took everything. When the sweep does not find that out,
+// the sweep is worth nothing.
 
-#include <QCoreApplication>
+#include <QByteArray>
 #include <QFile>
+#include <fcntl.h>
+#include <unistd.h>
 
 int main(int argc, char *argv[])
 {
-    const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3)
+    if (argc != 3)
         return 2;
-    QFile::remove(arguments.at(1));
-    QFile from(arguments.at(2));
-    QFile to(arguments.at(1));
-    return from.open(QIODevice::ReadOnly) && to.open(QIODevice::WriteOnly) &&
-                   to.write(from.readAll()) >= 0 && to.flush()
-               ? 0
-               : 1;
+    QFile from(QFile::decodeName(argv[2]));
+    if (!from.open(QIODevice::ReadOnly))
+        return 2;
+    const QByteArray bytes = from.readAll();
+    ::unlink(argv[1]);
+    const int to = ::open(argv[1], O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    return ::write(to, bytes.constData(), static_cast<std::size_t>(bytes.size())) < 0 ? 1 : 0;
 }
