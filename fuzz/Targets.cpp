@@ -4,7 +4,7 @@
 
 const QList<FuzzTarget> &fuzzTargets()
 {
-    static const QList<FuzzTarget> targets = textTargets() + fileTargets();
+    static const QList<FuzzTarget> targets = textTargets() + fileTargets() + sessionTargets();
     return targets;
 }
 

@@ -15,9 +15,10 @@ struct FuzzTarget {
 
 const QList<FuzzTarget> &fuzzTargets();
 
-// The targets by their files: TextTargets.cpp, FileTargets.cpp.
+// The targets by their files: TextTargets.cpp and so on.
 QList<FuzzTarget> textTargets();
 QList<FuzzTarget> fileTargets();
+QList<FuzzTarget> sessionTargets();
 
 // Throws std::logic_error when a promise does not hold.
 void promise(bool holds, const char *words);
