@@ -35,9 +35,13 @@ bool isKnownMessage(const QByteArray &errors)
     return words.match(QString::fromUtf8(errors)).hasMatch();
 }
 
-bool isSetAside(const QString &name)
+// What was set aside, and the dated copies: one that is not whole is a stray.
+bool isKept(const QString &name, const QByteArray &bytes)
 {
-    return name.startsWith(QStringLiteral("w/Récupération "));
+    const bool isCopy = name.startsWith(QStringLiteral("w/Copies/"));
+    return name.startsWith(QStringLiteral("w/Récupération ")) ||
+           (isCopy && (name.endsWith(u'/') ||
+                       (name.endsWith(QStringLiteral(").usm")) && bytes.endsWith("DONE"))));
 }
 } // namespace
 
@@ -183,7 +187,9 @@ QString Sweep::compare(const State &found, const QList<State> &allowed) const
         };
         if (!has(bytes) && bytes(found) != bytes(m_dropped.first()) &&
             bytes(found) != bytes(m_saved.last()))
-            return product + QStringLiteral(" is neither old nor new");
+            return product + QStringLiteral(" is neither old nor new: ") +
+                   QString::fromLatin1(
+                       bytes(found).first(qMin(40, bytes(found).size())).toPercentEncoding());
     }
     return {};
 }
@@ -197,7 +203,7 @@ QString Sweep::next() const
     const Files files = filesIn(m_run.folder());
     for (auto file = files.begin(); file != files.end(); ++file)
         if (!m_left.contains(file.key()) && !m_operation.products.contains(file.key()) &&
-            !isSetAside(file.key()))
+            !isKept(file.key(), file.value()))
             strays.append(file.key());
     return strays.isEmpty() ? QString()
                             : QStringLiteral("left behind: ") + strays.join(QStringLiteral(", "));
