@@ -51,8 +51,8 @@ QColor readableColour(const QColor &colour, const QColor &page)
     return readable;
 }
 
-PageColours::PageColours(QObject *parent, QTextDocument *document)
-    : QSyntaxHighlighter(parent), m_document(document)
+PageColours::PageColours(QTextDocument *document)
+    : QSyntaxHighlighter(static_cast<QObject *>(document)), m_document(document)
 {
 }
 

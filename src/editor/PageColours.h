@@ -18,7 +18,8 @@ class PageColours : public QSyntaxHighlighter
     Q_OBJECT
 
 public:
-    PageColours(QObject *parent, QTextDocument *document);
+    // Belongs to the document.
+    explicit PageColours(QTextDocument *document);
 
     // A light page needs no work at all.
     void setPage(const QColor &page);

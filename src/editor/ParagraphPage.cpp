@@ -25,6 +25,11 @@ ParagraphPage::ParagraphPage(Variables &variables, Prompts &prompts, const Contr
     m_controls.tabPanel.attach(m_controls.box);
     const AdventureEvents *events = variables.Events.get();
     connect(events, &AdventureEvents::adventureReplaced, this, &ParagraphPage::adventureReplaced);
+    connect(events, &AdventureEvents::numbersChanged, this, [this](const auto &newNumbers) {
+        m_texts.renumber(newNumbers);
+        if (m_shown >= 0)
+            m_shown = numberAfter(m_shown, newNumbers);
+    });
     connect(events, &AdventureEvents::textsChanged, this, [this](const QList<int> &numbers) {
         m_stale |= numbers.contains(m_variables.CurrentParagraph);
     });
@@ -32,6 +37,8 @@ ParagraphPage::ParagraphPage(Variables &variables, Prompts &prompts, const Contr
     connect(box, &RtfBox::edited, this, &ParagraphPage::rtfBox_Change);
     connect(box, &QTextEdit::selectionChanged, this, &ParagraphPage::refreshFormatting);
     connect(box, &QTextEdit::cursorPositionChanged, this, &ParagraphPage::refreshFormatting);
+    for (const auto moved : {&QTextEdit::selectionChanged, &QTextEdit::cursorPositionChanged})
+        connect(box, moved, this, [this] { m_placeBeforeSave.reset(); });
     connect(&m_controls.fixed, &QAbstractButton::clicked, this, &ParagraphPage::btnUnmixable_Click);
     connect(&m_controls.emptyVisited, &QAbstractButton::clicked, this,
             &ParagraphPage::btnVider_Click);
@@ -55,6 +62,7 @@ void ParagraphPage::adventureReplaced()
 {
     m_shown = -1;
     m_visited.clear();
+    m_texts.clear();
     m_controls.fixed.setEnabled(true);
     m_controls.number.setFiltering(true);
 }
@@ -69,10 +77,8 @@ void ParagraphPage::LoadParg(int n)
     const QByteArray rtf = textToShow(m_variables, n, m_prompts);
     // The box may then hold the last copy of the text.
     const bool lastCopy = m_variables.Damaged.at(n) == 1 && n == m_shown && !m_stale;
-    if (!lastCopy && !isShown(n, rtf)) {
-        setText(rtf);
-        m_shown = n;
-    }
+    if (!lastCopy && !isShown(n, rtf))
+        show(n, rtf);
     m_stale = false;
     m_variables.CurrentParagraph = static_cast<qint16>(n);
     m_visited.visit(n);
@@ -92,6 +98,54 @@ bool ParagraphPage::isShown(int n, const QByteArray &rtf) const
     return rtf.isEmpty() ? m_controls.box.textLength() == 0 : rtf == m_controls.box.rtf();
 }
 
+// What is shown stays in the box until the other text could be put in.
+void ParagraphPage::show(int n, const QByteArray &rtf)
+{
+    RtfBox &box = m_controls.box;
+    const QScopedValueRollback loading(m_loading, true);
+    std::optional<VisitedText> next;
+    if (m_variables.Damaged.at(n) == 0)
+        next = m_texts.comeTo(n, rtf);
+    const bool keeps = m_shown >= 0 && m_shown != n && !m_variables.ParagraphDirty;
+    const bool keepsSteps = keeps && box.page().hasSteps();
+    const bool comesBack = next && next->document;
+    VisitedText left = keeps ? leftText() : VisitedText();
+    if (keepsSteps || comesBack)
+        left.document = box.exchange(comesBack ? std::move(next->document) : nullptr);
+    auto stay = qScopeGuard([&] {
+        if (left.document)
+            box.exchange(std::move(left.document));
+    });
+    if (!comesBack)
+        box.setRtf(rtf);
+    stay.dismiss();
+    if (!keepsSteps)
+        left.document.reset();
+    if (keeps)
+        m_texts.leave(m_shown, std::move(left));
+    if (next)
+        next->place.restore(box);
+    noteShown(n, rtf);
+}
+
+VisitedText ParagraphPage::leftText() const
+{
+    const RtfBox &box = m_controls.box;
+    VisitedText left{m_given, m_placeBeforeSave.value_or(TextPlace::in(box)), nullptr};
+    if (m_edited)
+        left.rtf = box.textLength() == 0 ? QByteArray() : box.rtf();
+    return left;
+}
+
+void ParagraphPage::noteShown(int n, const QByteArray &rtf)
+{
+    m_shown = n;
+    m_given = rtf;
+    m_edited = false;
+    m_placeBeforeSave.reset();
+    ++m_shows;
+}
+
 void ParagraphPage::showAgain()
 {
     try {
@@ -105,19 +159,13 @@ void ParagraphPage::showAgain()
 
 void ParagraphPage::showNothing()
 {
-    setText({});
-    m_shown = -1;
+    {
+        const QScopedValueRollback loading(m_loading, true);
+        m_controls.box.setRtf({});
+    }
+    noteShown(-1, {});
     setEditable(false);
     showCurrent();
-}
-
-void ParagraphPage::setText(const QByteArray &rtf)
-{
-    const QScopedValueRollback loading(m_loading, true);
-    m_controls.box.setRtf(rtf);
-    m_given = rtf;
-    m_edited = false;
-    ++m_texts;
 }
 
 void ParagraphPage::showCurrent()
@@ -132,7 +180,11 @@ void ParagraphPage::showCurrent()
 
 void ParagraphPage::SaveCurParg()
 {
+    const bool saves = m_variables.ParagraphDirty;
+    const TextPlace place = TextPlace::in(m_controls.box);
     ::SaveCurParg(m_variables, m_controls.box, m_prompts);
+    if (saves)
+        m_placeBeforeSave = place;
 }
 
 void ParagraphPage::keepingPlace(const std::function<void()> &work)
@@ -140,9 +192,9 @@ void ParagraphPage::keepingPlace(const std::function<void()> &work)
     RtfBox &box = m_controls.box;
     const QTextCursor caret = box.textCursor();
     const int scrolled = box.verticalScrollBar()->value();
-    const int text = m_texts;
+    const int text = m_shows;
     const auto putBack = qScopeGuard([&] {
-        if (m_texts != text)
+        if (m_shows != text)
             return;
         box.setTextCursor(caret);
         box.verticalScrollBar()->setValue(scrolled);

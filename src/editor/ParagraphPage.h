@@ -2,6 +2,7 @@
 
 #include "editor/EditorView.h"
 #include "editor/VisitedList.h"
+#include "editor/VisitedTexts.h"
 
 #include <QObject>
 
@@ -33,7 +34,8 @@ public:
     ParagraphPage(Variables &variables, Prompts &prompts, const Controls &controls);
 
     // n is 0..2000. Showing the text that is shown already moves nothing: neither the author's
-    // place nor what he may undo.
+    // place nor what he may undo. A text visited before comes back with both, as long as what is
+    // stored is what he left.
     void LoadParg(int n) override;
 
     RichTextBox &editingBox() override;
@@ -61,7 +63,9 @@ Q_SIGNALS:
 
 private:
     void adventureReplaced();
-    void setText(const QByteArray &rtf);
+    void show(int n, const QByteArray &rtf);
+    VisitedText leftText() const;
+    void noteShown(int n, const QByteArray &rtf);
     void setEditable(bool on);
     bool isShown(int n, const QByteArray &rtf) const;
     void showNothing();
@@ -76,12 +80,14 @@ private:
     Prompts &m_prompts;
     Controls m_controls;
     VisitedList m_visited;
+    VisitedTexts m_texts;
 
     // What the box was last given, to be shown as paragraph m_shown; -1: nothing of this adventure.
     QByteArray m_given;
     int m_shown = -1;
-    int m_texts = 0;        // how many texts the box was given
-    bool m_edited = false;  // the text is no longer the one that was given
-    bool m_stale = false;   // a command has given the number another text
-    bool m_loading = false; // the program, not the author, is changing the box
+    int m_shows = 0;                            // how many texts the box was given
+    std::optional<TextPlace> m_placeBeforeSave; // until the caret is moved again
+    bool m_edited = false;                      // the text is no longer the one that was given
+    bool m_stale = false;                       // a command has given the number another text
+    bool m_loading = false;                     // the program, not the author, is changing the box
 };

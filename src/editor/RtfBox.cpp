@@ -1,6 +1,7 @@
 #include "editor/RtfBox.h"
 
 #include "editor/PageColours.h"
+#include "editor/PageDocument.h"
 #include "platform/Errors.h"
 #include "platform/Twips.h"
 #include "richtext/RichTextClipboard.h"
@@ -16,16 +17,15 @@
 #include <QMimeData>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QTextBlock>
-#include <QTextDocument>
+#include <QTextLayout>
 #include <algorithm>
 #include <utility>
 
 namespace
 {
-// Pixels. The document's own margin is small and never changes, since a change of it would be an
-// edit of the text; the rest of the page's margin is painted around the viewport.
-constexpr int documentMargin = 8;
+// Pixels. What the page's margin is more than the document's is painted around the viewport.
 constexpr int largestPadding = 24;
 constexpr int narrowestPadded = 240; // a box as narrow as this has no padding to spare
 constexpr int largestGapAbove = 12;
@@ -47,20 +47,11 @@ QColor surroundings(const QPalette &palette)
 
 RtfBox::RtfBox(QWidget *parent) : QTextEdit(parent), m_device(*viewport())
 {
-    // Not before: a child announces itself by an event, for which all members must be there.
-    m_colours = new PageColours(this, document());
-    m_colours->setPage(palette().color(QPalette::Base));
+    // Before there is any event, and a child announces itself by one, for which all members must be
+    // there.
+    exchange(nullptr);
     setFrameShape(QFrame::NoFrame);
     setFont(baseFont());
-    setTabStopDistance(pixelsOfTwips(ParagraphState::DefaultTabTwips));
-    document()->setDocumentMargin(documentMargin);
-    document()->setIndentWidth(pixelsOfTwips(ParagraphState::BulletTwips));
-    // A step of the undo list that changed nothing is announced by the second signal alone.
-    connect(document(), &QTextDocument::contentsChange, this, [this] { m_changed = true; });
-    connect(document(), &QTextDocument::contentsChanged, this, [this] {
-        if (std::exchange(m_changed, false) && !isLoading())
-            Q_EMIT edited();
-    });
     connect(this, &QTextEdit::cursorPositionChanged, this, [this] {
         if (!m_typing)
             m_run.end();
@@ -73,12 +64,53 @@ RtfBox::~RtfBox()
     document()->documentLayout()->setPaintDevice(viewport());
 }
 
+std::unique_ptr<PageDocument> RtfBox::exchange(std::unique_ptr<PageDocument> document)
+{
+    if (!document)
+        document = std::make_unique<PageDocument>(font());
+    if (m_page != nullptr)
+        m_page->disconnect(this);
+    if (!textCursor().block().layout()->preeditAreaText().isEmpty()) {
+        QInputMethodEvent nothingComposed;
+        QTextEdit::inputMethodEvent(&nothingComposed);
+    }
+    std::unique_ptr<PageDocument> left(m_page);
+    m_page = document.release();
+    m_page->setParent(this);
+    // What it is laid out by comes first, so that this is done once.
+    m_page->setDefaultFont(font());
+    m_page->documentLayout()->setPaintDevice(&m_device);
+    m_page->colours().setPage(palette().color(QPalette::Base));
+    setDocument(m_page);
+    if (left)
+        left->setParent(nullptr);
+    connectPage();
+    return left;
+}
+
+void RtfBox::connectPage()
+{
+    connect(m_page, &QTextDocument::contentsChange, this, &RtfBox::changedAt);
+    // A step of the undo list that changed nothing is announced by the second signal alone.
+    m_changed = false;
+    connect(m_page, &QTextDocument::contentsChange, this, [this] { m_changed = true; });
+    connect(m_page, &QTextDocument::contentsChanged, this, [this] {
+        if (std::exchange(m_changed, false) && !isLoading())
+            Q_EMIT edited();
+    });
+    m_run.end();
+    Q_EMIT undoAvailable(m_page->isUndoAvailable());
+    Q_EMIT redoAvailable(m_page->isRedoAvailable());
+}
+
 // What fails is caught where our code ends, before it goes through code that was built without
 // exceptions, and once more around whole events. The text is brought back when the outermost guard
-// ends, since a step of the undo list may be open until then.
+// ends, since a step of the undo list may be open until then; not that of another text which has
+// come into the box meanwhile.
 template <typename Action> void RtfBox::guarded(Action action)
 {
-    const int steps = document()->availableUndoSteps();
+    const QPointer<PageDocument> text = m_page;
+    const int steps = m_page->availableUndoSteps();
     ++m_guards;
     try {
         action();
@@ -90,7 +122,8 @@ template <typename Action> void RtfBox::guarded(Action action)
     --m_guards;
     if (m_guards > 0 || m_failure.isEmpty())
         return;
-    takeBack(steps);
+    if (text == m_page)
+        takeBack(steps);
     report(std::exchange(m_failure, QString()));
 }
 
@@ -116,12 +149,6 @@ void RtfBox::report(const QString &frenchText)
             m_reporting = false;
         },
         Qt::QueuedConnection);
-}
-
-// Not a null value, with which the document would go and look for itself.
-QVariant RtfBox::loadResource(int, const QUrl &)
-{
-    return QByteArrayLiteral("");
 }
 
 void RtfBox::baseFontChanged(const QFont &font)
@@ -222,7 +249,7 @@ void RtfBox::changeEvent(QEvent *event)
     if (event->type() == QEvent::FontChange)
         centrePage();
     else if (event->type() == QEvent::PaletteChange)
-        m_colours->setPage(palette().color(QPalette::Base));
+        m_page->colours().setPage(palette().color(QPalette::Base));
     update();
 }
 
@@ -337,7 +364,7 @@ void RtfBox::centrePage()
     m_padding = std::clamp((room - narrowestPadded) / 8, 0, largestPadding);
     const double column =
         QFontMetricsF(font()).averageCharWidth() * m_pageWidth * m_device.percent() / 100;
-    const int page = qRound(column) + 2 * (documentMargin + m_padding);
+    const int page = qRound(column) + 2 * (qRound(m_page->documentMargin()) + m_padding);
     const int side = std::max(0, (room - page) / 2);
     const int above = std::min(side, largestGapAbove);
     const QMargins margins(side + m_padding, above + m_padding, side + m_padding, 0);

@@ -7,8 +7,9 @@
 
 #include <QTextEdit>
 #include <functional>
+#include <memory>
 
-class PageColours;
+class PageDocument;
 class QPainter;
 
 // The box on the screen: a page of readable width, centred when there is room for more, in the
@@ -28,12 +29,15 @@ public:
 
     QTextDocument *document() const override { return QTextEdit::document(); }
 
+    // Puts a text that has left the box, with its undo list, in the place of the one that is there
+    // and gives that one; nothing stands for a new, empty text. The caret goes to the start. No
+    // edit is announced.
+    std::unique_ptr<PageDocument> exchange(std::unique_ptr<PageDocument> document);
+    const PageDocument &page() const { return *m_page; }
+
     // Both bases have these names; the box's meaning counts.
     using RichTextBox::find;
     using RichTextBox::setText;
-
-    // Never anything: texts refer to nothing outside.
-    QVariant loadResource(int type, const QUrl &name) override;
 
     // What becomes of each typed character, given the one before it (null at the start of the text,
     // a line feed at the start of a line). Its answer is a step of the undo list of its own, which
@@ -53,6 +57,8 @@ public:
 Q_SIGNALS:
     // The text or its formatting was changed by other means than setText, setRtf and loadFile.
     void edited();
+    // The text was changed by whatever means, at a position of the document.
+    void changedAt(int position, int removed, int added);
     // The page was painted, so that more can be painted over an area of the viewport.
     void painted(QPainter &painter, const QRect &area);
     // Something failed inside the box, for the reason that the French text gives. Comes when the
@@ -78,6 +84,7 @@ protected:
 private:
     template <typename Action> void guarded(Action action);
     void takeBack(int undoSteps);
+    void connectPage();
     void report(const QString &frenchText);
     void type(QKeyEvent *event);
     void insertTyped(QKeyEvent *event);
@@ -87,7 +94,7 @@ private:
     void centrePage();
     void paintPage();
 
-    PageColours *m_colours = nullptr;
+    PageDocument *m_page = nullptr; // the document
     KeyPress m_keyPress;
     TypingRun m_run;
     bool m_typing = false;

@@ -70,7 +70,7 @@ ReferenceUnderlines::ReferenceUnderlines(const Variables &variables, RtfBox &box
     connect(events, &AdventureEvents::textsChanged, this, update);
     connect(events, &AdventureEvents::adventureReplaced, this, update);
     connect(&box, &RtfBox::painted, this, &ReferenceUnderlines::paint);
-    connect(box.document(), &QTextDocument::contentsChange, this,
+    connect(&box, &RtfBox::changedAt, this,
             [this](int position, int, int added) { updateBehind(position + added); });
 }
 

@@ -1,0 +1,19 @@
+#pragma once
+
+class QTextEdit;
+
+// Where the author is in a text: the caret with the selection, and what of the text is seen.
+struct TextPlace {
+    int anchor = 0; // positions in the document
+    int caret = 0;
+    int top = 0;    // of what stands at the upper edge of the view
+    int hidden = 0; // pixels of it that are above the edge
+
+    static TextPlace in(const QTextEdit &box);
+
+    // Goes there, or as near to it as the text allows. A text of another width, or zoomed since,
+    // shows the same line at the upper edge.
+    void restore(QTextEdit &box) const;
+
+    bool isStart() const { return anchor == 0 && caret == 0 && top == 0 && hidden == 0; }
+};
