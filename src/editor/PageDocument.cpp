@@ -20,9 +20,8 @@ PageDocument::PageDocument(const QFont &font) : m_colours(new PageColours(this))
     QTextOption option = defaultTextOption();
     option.setTabStopDistance(pixelsOfTwips(ParagraphState::DefaultTabTwips));
     setDefaultTextOption(option);
-    connect(this, &QTextDocument::contentsChange, this, [this](int, int, int added) {
-        m_entered = hasSteps() ? m_entered + added : characterCount();
-    });
+    connect(this, &QTextDocument::contentsChange, this,
+            [this](int, int, int added) { m_entered += added; });
 }
 
 bool PageDocument::hasSteps() const

@@ -19,6 +19,9 @@ public:
     // Whether there is anything to be undone or done again.
     bool hasSteps() const;
 
+    // It was given a text that cannot be undone, and holds nothing else.
+    void noteLoaded() { m_entered = characterCount(); }
+
     // What it takes of the memory, in bytes: an estimate that is rather too high. Text that was
     // removed counts, since the undo list holds it.
     qint64 memory() const;
@@ -29,5 +32,5 @@ protected:
 
 private:
     PageColours *m_colours;
-    qint64 m_entered = 0; // characters, since the undo list was empty
+    qint64 m_entered = 0; // characters, since it was loaded
 };

@@ -93,7 +93,11 @@ void RtfBox::connectPage()
     connect(m_page, &QTextDocument::contentsChange, this, &RtfBox::changedAt);
     // A step of the undo list that changed nothing is announced by the second signal alone.
     m_changed = false;
-    connect(m_page, &QTextDocument::contentsChange, this, [this] { m_changed = true; });
+    connect(m_page, &QTextDocument::contentsChange, this, [this] {
+        m_changed = true;
+        if (isLoading())
+            m_page->noteLoaded();
+    });
     connect(m_page, &QTextDocument::contentsChanged, this, [this] {
         if (std::exchange(m_changed, false) && !isLoading())
             Q_EMIT edited();

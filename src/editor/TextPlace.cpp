@@ -20,13 +20,9 @@ QTextCursor cursorAt(const QTextEdit &box, int position)
 TextPlace TextPlace::in(const QTextEdit &box)
 {
     const QTextCursor caret = box.textCursor();
-    TextPlace place{caret.anchor(), caret.position()};
-    if (box.verticalScrollBar()->value() > 0) {
-        const QTextCursor top = box.cursorForPosition({0, 0});
-        place.top = top.position();
-        place.hidden = -box.cursorRect(top).top();
-    }
-    return place;
+    const QTextCursor top = box.cursorForPosition({0, 0});
+    return {caret.anchor(), caret.position(), top.position(), -box.cursorRect(top).top(),
+            box.viewport()->rect().contains(box.cursorRect())};
 }
 
 void TextPlace::restore(QTextEdit &box) const
@@ -35,13 +31,11 @@ void TextPlace::restore(QTextEdit &box) const
     selection.setPosition(cursorAt(box, caret).position(), QTextCursor::KeepAnchor);
     box.setTextCursor(selection);
     QScrollBar &bar = *box.verticalScrollBar();
-    if (top == 0 && hidden == 0) {
-        bar.setValue(0);
-        return;
-    }
     const int scrolled = bar.value() + box.cursorRect(cursorAt(box, top)).top() + hidden;
     // A long text is laid out, and the bar gets its range, as far as it was asked for.
     box.document()->documentLayout()->hitTest(QPointF(0, scrolled + box.viewport()->height()),
                                               Qt::FuzzyHit);
     bar.setValue(scrolled);
+    if (caretSeen)
+        box.ensureCursorVisible();
 }

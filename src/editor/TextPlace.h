@@ -8,12 +8,11 @@ struct TextPlace {
     int caret = 0;
     int top = 0;    // of what stands at the upper edge of the view
     int hidden = 0; // pixels of it that are above the edge
+    bool caretSeen = true;
 
     static TextPlace in(const QTextEdit &box);
 
     // Goes there, or as near to it as the text allows. A text of another width, or zoomed since,
-    // shows the same line at the upper edge.
+    // shows the same line at the upper edge, but not without a caret that was seen.
     void restore(QTextEdit &box) const;
-
-    bool isStart() const { return anchor == 0 && caret == 0 && top == 0 && hidden == 0; }
 };
