@@ -33,7 +33,7 @@ qint64 PageDocument::memory() const
 {
     constexpr qint64 ofCharacter = 2; // in the store that the undo list refers to
     constexpr qint64 ofShown = 40;    // laid out
-    constexpr qint64 ofBlock = 1500;
+    constexpr qint64 ofBlock = 800;
     constexpr qint64 ofStep = 100;
     constexpr qint64 ofDocument = 20000;
     const qint64 steps = qint64{availableUndoSteps()} + availableRedoSteps();
