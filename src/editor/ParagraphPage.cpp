@@ -115,6 +115,8 @@ void ParagraphPage::show(int n, const QByteArray &rtf)
     auto stay = qScopeGuard([&] {
         if (left.document)
             box.exchange(std::move(left.document));
+        if (keeps)
+            left.place.restore(box);
     });
     if (!comesBack)
         box.setRtf(rtf);

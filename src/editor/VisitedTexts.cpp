@@ -13,6 +13,7 @@ qint64 memoryOf(const VisitedText &text)
 void VisitedTexts::leave(int n, VisitedText text)
 {
     const qint64 bytes = memoryOf(text);
+    m_texts.remove_if([n](const Entry &entry) { return entry.number == n; });
     if (bytes > MostBytes)
         return;
     m_texts.push_front({n, bytes, std::move(text)});
