@@ -1,7 +1,9 @@
 #include "outil/Commands.h"
 
 #include "outil/Script.h"
+#include "platform/SafeFile.h"
 #include "store/AdventureChanges.h"
+#include "store/AdventureFile.h"
 #include "store/ParagraphStore.h"
 #include "store/Session.h"
 
@@ -100,6 +102,9 @@ QString Commands::help()
 void Commands::finish(bool save)
 {
     Variables &variables = m_services.variables;
+    // Nobody will write the new adventure any more that a full disk has left without a session.
+    if (variables.AdventureOpen && !save && isPlaceholder(variables.AdventurePath))
+        tryRemoveFile(variables.AdventurePath);
     if (!variables.AdventureOpen || !hasUnsavedChanges(variables))
         return;
     if (save) {

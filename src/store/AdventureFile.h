@@ -40,6 +40,8 @@ inline constexpr int CurrentVersion = 35;
 
 // What holds the name of a new adventure until it is written.
 inline constexpr auto Placeholder = "Nothing yet";
+// False too when the file at path cannot be read.
+bool isPlaceholder(const QString &path);
 
 // Characters of a target phrase.
 inline constexpr qsizetype LongestPhrase = 32767;

@@ -246,6 +246,14 @@ AdventureContents readAdventure(const QString &path)
     }
 }
 
+bool isPlaceholder(const QString &path)
+{
+    QFile file(path);
+    const QByteArray placeholder(Placeholder);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) &&
+           file.read(placeholder.size() + 1) == placeholder;
+}
+
 int readVersion(const QString &path)
 {
     QFile file(path);

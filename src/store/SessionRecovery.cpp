@@ -174,7 +174,7 @@ Recovery::Adventure Recovery::lookAtAdventure()
 bool Recovery::readNeverWritten()
 {
     const QString &path = m_work.state.adventurePath;
-    if (QFileInfo::exists(path) && readWholeFile(path, LargestText) != Placeholder)
+    if (QFileInfo::exists(path) && !isPlaceholder(path))
         return false;
     m_work.saved.version = CurrentVersion;
     return true;
@@ -259,8 +259,7 @@ void Recovery::finishSave()
 void Recovery::dropSession()
 {
     const QString &path = m_work.state.adventurePath;
-    if (!m_work.state.opened && QFileInfo::exists(path) &&
-        readWholeFile(path, LargestText) == Placeholder)
+    if (!m_work.state.opened && isPlaceholder(path))
         removeFile(path);
     const QStringList typed = m_files.allTyped();
     for (const QString &box : typed)
