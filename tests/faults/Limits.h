@@ -6,8 +6,8 @@
 // folders that may not be written to.
 struct Limit {
     QString name;
-    // Nothing when this system does not let us try.
-    std::optional<Tally> (*tally)(const Sweep &, const ToolRun &);
+    // Every so many sizes, from an offset on; nothing when this system does not let us try.
+    std::optional<Tally> (*tally)(const Sweep &, const ToolRun &, int every, int offset);
 };
 
 const QList<Limit> &limits();

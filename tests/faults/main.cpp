@@ -75,11 +75,11 @@ private:
         for (int next = m_next++; next < m_choice.operations.size(); next = m_next++) {
             const Operation &operation = m_choice.operations.at(next);
             const Sweep sweep(run, operation, start);
-            int offset = m_choice.from;
+            int offset = m_choice.from + next;
             for (const Mode &mode : modes())
                 tell(operation, mode.name, sweep.tally(mode, m_choice.every, offset++));
             for (const Limit &limit : limits())
-                tell(operation, limit.name, limit.tally(sweep, run));
+                tell(operation, limit.name, limit.tally(sweep, run, m_choice.every, offset++));
         }
     }
 
