@@ -39,25 +39,25 @@ QList<QByteArray> helpPages()
     const qsizetype head = help.indexOf("\\pard");
     QList<QByteArray> pages;
     for (qsizetype at = head; at < help.size() && pages.size() < 8; at += 4000)
-        pages.append(help.first(head) + help.sliced(at).first(qMin(1000, help.size() - at)));
+        pages.append(help.first(head) + help.sliced(at).first(qMin(600, help.size() - at)));
     return pages;
 }
 } // namespace
 
 QList<QByteArray> rtfSeeds()
 {
-    return helpPages() +
-           QList<QByteArray>{
-               formatted(), rtfOf(QStringLiteral("Allez au 12 ou au 340")),
-               "{\\rtf1\\ansi\\ansicpg1252\\uc1 a\\u8364\\'80\\u-10179 ?\\u-8704 ?\\line\\tab b}",
-               "\xef\xbb\xbf{\\rtf1\\mac\\deff1{\\fonttbl{\\f1\\fcharset2 "
-               "Symbol;}{\\f2\\fcharset128"
-               " MS;}}\\f2\\'83\\'65\\f1\\'b7{\\*\\unknown x}{\\pict 0011}\\bin3 {{{}}",
-               "{\\rtf1{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt{\\ul "
-               "lien}}}{\\upr{a}{\\*\\ud"
-               " \\u233\\'e9}}{\\footnote n}\\trowd\\cellx10 "
-               "a\\cell\\row{\\pntext\\f1\\'B7\\tab}{\\*\\pn"
-               "\\pnlvlblt}\\fi-284\\li284 b\\par\\page}"};
+    const QByteArray small(
+        R"({\rtf1\ansi\ansicpg1252\uc1 a\u8364\'80\u-10179 ?\u-8704 ?\line\tab b})");
+    const QByteArray fonts(
+        "\xef\xbb\xbf"
+        R"({\rtf1\mac\deff1{\fonttbl{\f1\fcharset2 Symbol;}{\f2\fcharset128 MS;}})"
+        R"(\f2\'83\'65\f1\'b7{\*\unknown x}{\pict 0011}\bin3 {{{}})");
+    const QByteArray others(R"({\rtf1{\field{\*\fldinst HYPERLINK "x"}{\fldrslt{\ul lien}}})"
+                            R"({\upr{a}{\*\ud \u233\'e9}}{\footnote n}\trowd\cellx10 a\cell\row)"
+                            R"({\pntext\f1\'B7\tab}{\*\pn\pnlvlblt}\fi-284\li284 b\par\page})");
+    return helpPages() + QList<QByteArray>{formatted(),
+                                           rtfOf(QStringLiteral("Allez au 12 ou au 340")), small,
+                                           fonts, others};
 }
 
 QList<QByteArray> adventureSeeds()

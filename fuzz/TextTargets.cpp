@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr int LongestText = 2048;
+constexpr int LongestText = 1024;
 
 // Empty when the bytes are no text.
 QByteArray asWritten(const QByteArray &bytes)
