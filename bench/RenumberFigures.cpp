@@ -89,7 +89,7 @@ public:
         const double whole = medianMilliseconds(
             Runs, [&] { editor = opened(); },
             [&] {
-                ParagraphTransaction transaction(editor->variables);
+                ParagraphTransaction transaction(editor->variables, {QStringLiteral("Change"), {}});
                 for (int n = 1; n <= BigAdventure::Paragraphs; ++n)
                     transaction.change({n, n, m_text, {}, false});
                 transaction.commit();

@@ -5,10 +5,10 @@
 #include "store/DamagedTexts.h"
 #include "store/ParagraphTransaction.h"
 
-void rewriteParagraphs(Variables &variables, const QList<int> &numbers, const Rewrite &rewrite,
-                       const Progress &progress)
+void rewriteParagraphs(Variables &variables, const QString &title, const QList<int> &numbers,
+                       const Rewrite &rewrite, const Progress &progress)
 {
-    ParagraphTransaction transaction(variables);
+    ParagraphTransaction transaction(variables, {title, {}});
     HiddenBox box;
     box.setBaseFont(variables.defaultFontName, variables.defaultFontSize);
     QList<int> unreadable;

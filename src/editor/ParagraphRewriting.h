@@ -19,6 +19,6 @@ using Rewrite =
 
 // The numbers must be of written paragraphs, and what the author typed must have been saved. What
 // stays Written and fixed is as before. Throws UnreadableTexts when one cannot be read, else
-// UsmiraError, and then nothing has changed.
-void rewriteParagraphs(Variables &variables, const QList<int> &numbers, const Rewrite &rewrite,
-                       const Progress &progress);
+// UsmiraError, and then nothing has changed. title is what the history calls it.
+void rewriteParagraphs(Variables &variables, const QString &title, const QList<int> &numbers,
+                       const Rewrite &rewrite, const Progress &progress);

@@ -5,6 +5,7 @@
 #include "platform/Failures.h"
 #include "richtext/RichTextBox.h"
 #include "richtext/TextCleaning.h"
+#include "store/CommandHistory.h"
 #include "store/LenientNumbers.h"
 #include "store/LongWork.h"
 
@@ -49,7 +50,11 @@ bool makeAllUniform(Variables &variables, Prompts &prompts, WorkReport &report,
             return makeUniform(box, formatting) ? std::optional(variables.refIndex.at(n))
                                                 : std::nullopt;
         };
-        rewriteParagraphs(variables, writtenParagraphs(variables), rewrite, work.progress());
+        const int before = variables.History->newId();
+        rewriteParagraphs(variables,
+                          QCoreApplication::translate("UniformFormatting", "Uniformiser"),
+                          writtenParagraphs(variables), rewrite, work.progress());
+        announceDone(variables, report, before);
         return true;
     });
 }

@@ -27,12 +27,12 @@ enum class ReadOnly {
     Replaced, // the author has been asked; the new file is marked so too
 };
 
-// One file being written: with writeForLater() the only way in which the program writes files. The
-// target is replaced whole by commit() or left untouched. Every failure throws FileError (Write)
-// and leaves nothing behind; once the new file is in its place nothing fails any more. Only regular
-// files are replaced. The new file has the owner, the group and the permissions of the one that it
-// replaces, as far as the system allows. Where links are followed, in the folders of the author,
-// what a killed program has left half written there goes first.
+// One file being written: with writeForLater() and LaterFile the only way in which the program
+// writes files. The target is replaced whole by commit() or left untouched. Every failure throws
+// FileError (Write) and leaves nothing behind; once the new file is in its place nothing fails any
+// more. Only regular files are replaced. The new file has the owner, the group and the permissions
+// of the one that it replaces, as far as the system allows. Where links are followed, in the
+// folders of the author, what a killed program has left half written there goes first.
 class SafeFile
 {
 public:

@@ -4,6 +4,7 @@
 #include "platform/SafeFile.h"
 #include "platform/SameFile.h"
 #include "store/AdventureFile.h"
+#include "store/CommandHistory.h"
 #include "store/DamagedTexts.h"
 #include "store/ExportTarget.h"
 #include "store/LenientNumbers.h"
@@ -39,11 +40,15 @@ bool AdventureSplit::Export(const SplitRequest &request, const std::function<QSt
     return !path.isEmpty() && reportingFailures(m_prompts, [&] {
         LongWork work(m_report, tr("Exportation..."));
         write(numbers, path, work.progress());
-        m_report.announce(
+        const QString told =
             tr("%n paragraphe(s) exporté(s) : %1", nullptr, static_cast<int>(numbers.size()))
-                .arg(path));
-        if (request.murder)
+                .arg(path);
+        m_report.announce(told);
+        if (request.murder) {
+            const int before = m_variables.History->newId();
             remove(numbers);
+            announceDone(m_variables, m_report, before, told);
+        }
         return true;
     });
 }
@@ -83,7 +88,9 @@ void AdventureSplit::write(const QList<int> &numbers, const QString &path,
 // The fixed marks stay with the numbers, and so do the references to them.
 void AdventureSplit::remove(const QList<int> &numbers)
 {
-    ParagraphTransaction transaction(m_variables);
+    ParagraphTransaction transaction(
+        m_variables,
+        {tr("Scission %1 à %2").arg(numbers.first()).arg(numbers.last()), std::nullopt});
     transaction.widenRange(numbers.first(), numbers.last()); // it is made anew by the commit
     for (const int n : numbers)
         transaction.empty(n, m_variables.Unmixable.at(n) == 1);

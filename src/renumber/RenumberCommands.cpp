@@ -3,6 +3,7 @@
 #include "platform/Failures.h"
 #include "renumber/RenumberParagraphs.h"
 #include "store/AdventureChanges.h"
+#include "store/CommandHistory.h"
 #include "store/LenientNumbers.h"
 #include "store/LongWork.h"
 
@@ -41,7 +42,8 @@ bool RenumberCommands::Swap(double a, double b)
                       tr("C'est la loi"));
     const int first = roundHalfEven(a);
     const int second = roundHalfEven(b);
-    return mayMoveFixed(first, second) && renumber(SwapMap(first, second));
+    return mayMoveFixed(first, second) &&
+           renumber(SwapMap(first, second), tr("Échange %1 et %2").arg(first).arg(second));
 }
 
 bool RenumberCommands::mayMoveFixed(int a, int b)
@@ -64,7 +66,8 @@ bool RenumberCommands::MasterMix(double low, double high, const std::function<do
                       tr("Songez-y"));
     const int first = static_cast<int>(range.low);
     const int last = static_cast<int>(range.high);
-    return renumber(MixMap(first, last, m_variables.Unmixable, random));
+    return renumber(MixMap(first, last, m_variables.Unmixable, random),
+                    tr("MasterMix %1 à %2").arg(first).arg(last));
 }
 
 bool RenumberCommands::MoveBlock(double low, double high, double delta, Towards towards)
@@ -81,8 +84,13 @@ bool RenumberCommands::MoveBlock(double low, double high, double delta, Towards 
                       tr("Zut"));
     if (distance == 0)
         return refuse(tr("Il ne sert à rien de déplacer de 0 unités."), tr("Zut"));
-    return renumber(BlockMoveMap(static_cast<int>(block.low), static_cast<int>(block.high),
-                                 static_cast<int>(distance), towards, m_variables.Unmixable));
+    return renumber(
+        BlockMoveMap(static_cast<int>(block.low), static_cast<int>(block.high),
+                     static_cast<int>(distance), towards, m_variables.Unmixable),
+        tr("Déplacement %1 à %2 de %3")
+            .arg(block.low)
+            .arg(block.high)
+            .arg((lower ? QStringLiteral("-") : QStringLiteral("+")) + QString::number(distance)));
 }
 
 bool RenumberCommands::PackHoles(double low, double high)
@@ -97,15 +105,17 @@ bool RenumberCommands::PackHoles(double low, double high)
     const int last = static_cast<int>(range.high);
     const std::optional<RenumberMap> map =
         PackHolesMap(first, last, m_variables.Written, m_variables.Unmixable);
-    return !map || renumber(*map);
+    return !map || renumber(*map, tr("Combler les Trous %1 à %2").arg(first).arg(last));
 }
 
-bool RenumberCommands::renumber(const RenumberMap &map)
+bool RenumberCommands::renumber(const RenumberMap &map, const QString &title)
 {
     return reportingFailures(m_prompts, [&] {
         LongWork work(m_report, tr("Renumérotation..."));
-        RenumberParagraphs(m_variables, map, work.progress());
+        const int before = m_variables.History->newId();
+        RenumberParagraphs(m_variables, map, title, work.progress());
         setModified(m_variables);
+        announceDone(m_variables, m_report, before);
         return true;
     });
 }

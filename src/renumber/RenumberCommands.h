@@ -46,7 +46,7 @@ public:
 private:
     bool MoveBlock(double low, double high, double delta, Towards towards);
     bool mayMoveFixed(int a, int b);
-    bool renumber(const RenumberMap &map);
+    bool renumber(const RenumberMap &map, const QString &title);
     bool refuse(const QString &text, const QString &title);
     bool refuseRange();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/HistoryStep.h"
 #include "store/Variables.h"
 
 #include <QtGlobal>
@@ -11,13 +12,16 @@ class RenumberMap
 {
 public:
     RenumberMap();
+    explicit RenumberMap(const NumberMap &numbers) : m_numbers(numbers) {}
 
     int of(int n) const { return m_numbers.at(n); }
     void set(int n, int newNumber) { m_numbers.at(n) = static_cast<qint16>(newNumber); }
     void exchange(int a, int b);
 
+    const NumberMap &numbers() const { return m_numbers; }
+
     bool moves(int n) const { return of(n) != n; }
 
 private:
-    ParagraphArray<qint16, Variables::LastParagraph + 1> m_numbers;
+    NumberMap m_numbers;
 };

@@ -1,7 +1,6 @@
 #include "renumber/RenumberParagraphs.h"
 
 #include "platform/Errors.h"
-#include "richtext/HiddenBox.h"
 #include "store/LenientNumbers.h"
 #include "store/ParagraphTransaction.h"
 #include "store/ReferenceIndex.h"
@@ -29,8 +28,9 @@ QString renumberedEntry(QString entry, const RenumberMap &map)
 class Renumbering
 {
 public:
-    Renumbering(Variables &variables, const RenumberMap &map)
-        : m_variables(variables), m_map(map), m_transaction(variables)
+    Renumbering(Variables &variables, const RenumberMap &map, const QString &title)
+        : m_variables(variables), m_map(map), m_transaction(variables, {title, map.numbers()}),
+          m_texts(variables.TargetPhrase, map)
     {
     }
 
@@ -63,36 +63,18 @@ private:
         m_transaction.widenRange(lowest, highest);
     }
 
-    // A text in which the index shows no number that changes is left as it is, even if other
-    // references of it would be written differently.
     void visit(int n)
     {
-        const QString &entry = m_variables.refIndex.at(n);
-        const QString renumbered = renumberedEntry(entry, m_map);
-        const bool rewrites = renumbered != entry;
-        if (!rewrites && !m_map.moves(n))
-            return;
-        if (!load(n) || !m_unreadable.isEmpty())
-            return;
-        if (rewrites)
-            rewriteReferences(m_hiddenBox, m_variables.TargetPhrase, m_map);
-        m_transaction.change({n, m_map.of(n), m_hiddenBox.rtf(),
-                              m_map.moves(n) ? scanned() : renumbered, staysFixed(m_map.of(n))});
-    }
-
-    bool load(int n)
-    {
         try {
-            m_hiddenBox.setRtf(m_transaction.rtf(n));
-            return true;
-        } catch (const UsmiraError &) {
+            const std::optional<TextRenumbering::Text> text = m_texts.of(
+                n, m_variables.refIndex.at(n), [this, n] { return m_transaction.rtf(n); });
+            if (text && m_unreadable.isEmpty())
+                m_transaction.change(
+                    {n, m_map.of(n), text->rtf, text->references, staysFixed(m_map.of(n))});
+        } catch (const UnreadableTexts &) {
             m_unreadable.append(n);
-            return false;
         }
     }
-
-    // A moved text is scanned afresh, so that references that the index missed come into it.
-    QString scanned() const { return referenceEntry(m_hiddenBox.text(), m_variables.TargetPhrase); }
 
     bool staysFixed(int n) const
     {
@@ -103,14 +85,34 @@ private:
     Variables &m_variables;
     const RenumberMap &m_map;
     ParagraphTransaction m_transaction;
-    HiddenBox m_hiddenBox;
+    TextRenumbering m_texts;
     QList<int> m_unreadable;
 };
 } // namespace
 
-void RenumberParagraphs(Variables &variables, const RenumberMap &map, const Progress &progress)
+void RenumberParagraphs(Variables &variables, const RenumberMap &map, const QString &title,
+                        const Progress &progress)
 {
-    Renumbering(variables, map).run(progress);
+    Renumbering(variables, map, title).run(progress);
+}
+
+// A moved text is scanned afresh, so that references that the index missed come into it.
+std::optional<TextRenumbering::Text> TextRenumbering::of(int n, const QString &references,
+                                                         const std::function<QByteArray()> &rtf)
+{
+    const QString renumbered = renumberedEntry(references, m_map);
+    const bool rewrites = renumbered != references;
+    if (!rewrites && !m_map.moves(n))
+        return std::nullopt;
+    try {
+        m_box.setRtf(rtf());
+    } catch (const UsmiraError &) {
+        throw UnreadableTexts({n});
+    }
+    if (rewrites)
+        rewriteReferences(m_box, m_targetPhrase, m_map);
+    return Text{m_box.rtf(),
+                m_map.moves(n) ? referenceEntry(m_box.text(), m_targetPhrase) : renumbered};
 }
 
 // The text changes under the search, which goes on just behind each phrase: also in the digits that

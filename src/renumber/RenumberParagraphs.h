@@ -2,10 +2,12 @@
 
 #include "platform/Progress.h"
 #include "renumber/RenumberMap.h"
+#include "richtext/HiddenBox.h"
 
+#include <QByteArray>
 #include <QString>
-
-class RichTextBox;
+#include <functional>
+#include <optional>
 
 // The engine under every command that gives paragraphs other numbers.
 
@@ -15,8 +17,35 @@ class RichTextBox;
 // along: it stays with a number, and goes with the written paragraph that leaves the number.
 //
 // All or nothing: throws UnreadableTexts with every text that it would have to change and that
-// cannot be read, or FileError, and nothing has changed.
-void RenumberParagraphs(Variables &variables, const RenumberMap &map, const Progress &progress);
+// cannot be read, or FileError, and nothing has changed. title is what the history calls it.
+void RenumberParagraphs(Variables &variables, const RenumberMap &map, const QString &title,
+                        const Progress &progress);
+
+// What the engine does with one text.
+class TextRenumbering
+{
+public:
+    TextRenumbering(const QString &targetPhrase, const RenumberMap &map)
+        : m_targetPhrase(targetPhrase), m_map(map)
+    {
+    }
+
+    struct Text {
+        QByteArray rtf;
+        QString references; // its entry of the index
+    };
+    // The text of paragraph n, with that entry of the index, once the numbers of the map count;
+    // nothing when it stays as it is. A text in which the index shows no number that changes is not
+    // rewritten, even if other references of it would be written differently. rtf is called when
+    // the text is needed. Throws UsmiraError.
+    std::optional<Text> of(int n, const QString &references,
+                           const std::function<QByteArray()> &rtf);
+
+private:
+    QString m_targetPhrase;
+    RenumberMap m_map;
+    HiddenBox m_box;
+};
 
 // Writes the new number of every reference of a text. The characters that the new number takes the
 // place of are as many as the number has digits, whatever stands there: required, so that texts

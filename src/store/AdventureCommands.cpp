@@ -8,6 +8,7 @@
 #include "store/AdventureChanges.h"
 #include "store/AdventureFile.h"
 #include "store/AdventureSave.h"
+#include "store/CommandHistory.h"
 #include "store/DamagedTexts.h"
 #include "store/DatedCopies.h"
 #include "store/DiscardedChanges.h"
@@ -156,6 +157,7 @@ bool AdventureCommands::NewAdventure(const QString &path)
         setNames(created, path);
         reserveAndClaim(created);
         m_variables = std::move(created);
+        forgetHistory(m_variables);
         announceAdventure();
         setModified(m_variables);
         Save();
@@ -184,6 +186,7 @@ bool AdventureCommands::OpenAdventure(const QString &chosen)
         }
         setNames(opened, path);
         m_variables = std::move(opened);
+        forgetHistory(m_variables);
         announceAdventure();
         showCurrentParagraph();
         tellUnreadable(damagedParagraphs(m_variables), m_prompts);

@@ -25,6 +25,9 @@ Q_SIGNALS:
     // Paragraphs were fixed or freed.
     void marksChanged();
 
+    // Other commands can be taken back, or done once more.
+    void historyChanged();
+
     // References are recognised by another phrase, and the index is another one.
     void targetPhraseChanged();
 

@@ -4,6 +4,7 @@
 #include "platform/OpenedFile.h"
 #include "richtext/HiddenBox.h"
 #include "store/AdventureFile.h"
+#include "store/CommandHistory.h"
 #include "store/DamagedTexts.h"
 #include "store/LongWork.h"
 #include "store/ParagraphStore.h"
@@ -12,6 +13,7 @@
 #include "store/ReferenceIndex.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace
 {
@@ -41,7 +43,11 @@ class Incoming
 {
 public:
     Incoming(Variables &variables, const Variables &other)
-        : m_variables(variables), m_other(other), m_transaction(variables)
+        : m_variables(variables), m_other(other),
+          m_transaction(variables,
+                        {QCoreApplication::translate("AdventureMerge", "Importation du %1")
+                             .arg(QFileInfo(other.AdventurePath).fileName()),
+                         std::nullopt})
     {
         m_box.setBaseFont(variables.defaultFontName, variables.defaultFontSize);
     }
@@ -188,6 +194,7 @@ void AdventureMerge::importAll(const Variables &other, Collisions collisions)
             numbers.append(n);
     }
     Incoming incoming(m_variables, other);
+    const int before = m_variables.History->newId();
     QList<int> unreadable; // the one that ended the import
     {
         LongWork work(m_report, tr("Importing..."));
@@ -198,7 +205,8 @@ void AdventureMerge::importAll(const Variables &other, Collisions collisions)
         }
         incoming.commit();
     }
-    m_report.announce(
+    announceDone(
+        m_variables, m_report, before,
         tr("%n paragraphe(s) importé(s) : %1", nullptr, incoming.taken()).arg(other.AdventurePath));
     incoming.tellLost(m_prompts);
     if (!unreadable.isEmpty())

@@ -4,6 +4,7 @@
 #include "platform/Prompts.h"
 #include "store/AdventureChanges.h"
 #include "store/AdventureFile.h"
+#include "store/CommandHistory.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
 #include "store/Session.h"
@@ -30,6 +31,7 @@ QList<int> changedNumbers(const Variables &variables)
 void keepUnsaved(Variables &variables, Prompts &prompts)
 {
     const QList<int> changed = changedNumbers(variables);
+    forgetHistory(variables);
     const QString folder = setWorkingFilesAside(variables);
     setSaved(variables);
     variables.ParagraphDirty = false;
@@ -62,6 +64,7 @@ void discardChanges(Variables &variables, Prompts &prompts)
         return;
     }
     const QList<int> changed = changedNumbers(variables);
+    forgetHistory(variables);
     // Killed from here on, the program sets aside what is still there: some of it is not offered.
     forgetSession(variables.WorkingFolder);
     DiscardWorkingFiles(variables);

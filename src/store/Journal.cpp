@@ -120,13 +120,6 @@ void clearSessionName(const WorkingFiles &files)
     }
 }
 
-// The old text is not removed yet: whoever takes the change back needs it.
-void makeRoom(const WorkingFiles &files, int n)
-{
-    if (isAnythingAt(files.text(n)))
-        renameFile(files.text(n), files.before(n));
-}
-
 bool hasJournal(const WorkingFiles &files)
 {
     return !QFileInfo(files.session()).isSymLink() && isAnythingAt(files.journal());
@@ -218,11 +211,10 @@ void placeJournal(const QString &workingFolder, const Journal &journal)
         const QString parked = files.parked(placed.before);
         if (!QFileInfo::exists(parked))
             continue;
-        makeRoom(files, placed.after);
         renameFile(parked, files.text(placed.after));
     }
     for (const Journal::Emptied &emptied : journal.emptied)
-        makeRoom(files, emptied.number);
+        removeFile(files.text(emptied.number));
     if (isAnythingAt(files.nextState()))
         renameFile(files.nextState(), files.state());
     // The journal goes for certain before anything else happens: placed once more after later
@@ -278,7 +270,7 @@ QString recoverJournal(const QString &workingFolder)
         placeJournal(workingFolder, *journal);
     else
         aside = setJournalAside(workingFolder);
-    const QStringList left = files.allParked() + files.allBefore() + QStringList(files.nextState());
+    const QStringList left = files.allParked() + QStringList(files.nextState());
     for (const QString &path : left)
         removeFile(path);
     removeLeftParts(workingFolder, PartsIn::OwnFolder);

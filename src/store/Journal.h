@@ -58,8 +58,7 @@ void removeSessionFolder(const QString &workingFolder);
 void commitJournal(const QString &workingFolder, const Journal &journal);
 
 // Moves the parked texts to their working files, the session state that goes with them into its
-// place, and then removes the journal. What was there, and the working files of the emptied
-// paragraphs, are kept as WorkingFiles::before(). Throws FileError
+// place, removes the working files of the emptied paragraphs and then the journal. Throws FileError
 // at the first failure; may be called again, and goes on from there.
 void placeJournal(const QString &workingFolder, const Journal &journal);
 

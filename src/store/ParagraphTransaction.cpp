@@ -4,33 +4,43 @@
 #include "platform/SafeFile.h"
 #include "richtext/TextLimit.h"
 #include "store/AdventureChanges.h"
+#include "store/AdventureEvents.h"
+#include "store/HistoryNotes.h"
 #include "store/ParagraphTexts.h"
 #include "store/Session.h"
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <algorithm>
-#include <numeric>
+#include <set>
 
-ParagraphTransaction::ParagraphTransaction(Variables &variables) : m_variables(variables)
+namespace
+{
+void setWrittenRange(Variables &variables, const WrittenRange &range)
+{
+    variables.LowestWritten = static_cast<qint16>(range.lowest);
+    variables.HighestWritten = static_cast<qint16>(range.highest);
+}
+
+bool changesAnything(const Journal &journal)
+{
+    return !journal.placed.isEmpty() || !journal.emptied.isEmpty();
+}
+} // namespace
+
+ParagraphTransaction::ParagraphTransaction(Variables &variables, Name name)
+    : m_variables(variables), m_name(std::move(name)), m_history(*variables.History)
 {
     finishLeftJournal(m_variables);
     setJournalAside(m_variables.WorkingFolder);
-    forgetBefore();
 }
 
 ParagraphTransaction::~ParagraphTransaction()
 {
-    if (m_committed) {
-        forgetBefore();
+    if (m_committed)
         return;
-    }
-    if (m_rangeBefore) {
-        m_variables.LowestWritten = m_rangeBefore->lowest;
-        m_variables.HighestWritten = m_rangeBefore->highest;
-    }
+    if (m_rangeBefore)
+        setWrittenRange(m_variables, *m_rangeBefore);
     for (const auto &[number, change] : m_changes) {
         try {
             removeFile(WorkingFiles(m_variables).parked(number));
@@ -39,7 +49,7 @@ ParagraphTransaction::~ParagraphTransaction()
         }
     }
     tryRemoveFile(WorkingFiles(m_variables).nextState());
-    removeSessionFolder(m_variables.WorkingFolder);
+    removeOtherSteps(m_variables.WorkingFolder, *m_variables.History);
 }
 
 void ParagraphTransaction::change(const Change &change)
@@ -76,21 +86,71 @@ void ParagraphTransaction::widenRange(int low, int high)
 void ParagraphTransaction::commit()
 {
     const Journal decided = journal();
-    const bool changes = !decided.placed.isEmpty() || !decided.emptied.isEmpty();
+    refuseLostTexts(decided);
+    if (changesAnything(decided))
+        m_history = historyWith(m_variables, stepOf(decided),
+                                [this](int n) { return GetParagraphRtf(m_variables, n); });
+    commit(decided);
+}
+
+void ParagraphTransaction::commit(const CommandHistory &history)
+{
+    const Journal decided = journal();
+    refuseLostTexts(decided);
+    m_history = history;
+    commit(decided);
+    if (changesAnything(decided))
+        return;
+    tryKeepSession(m_variables);
+    removeOtherSteps(m_variables.WorkingFolder, m_history);
+    Q_EMIT m_variables.Events->historyChanged();
+}
+
+void ParagraphTransaction::commit(const Journal &journal)
+{
+    const bool changes = changesAnything(journal);
     if (changes) {
-        refuseLostTexts(decided);
-        keepStates(decided);
+        keepStates(journal);
         syncFileSystem(m_variables.WorkingFolder);
-        commitJournal(m_variables.WorkingFolder, decided);
+        commitJournal(m_variables.WorkingFolder, journal);
     }
     m_committed = true;
-    if (changes) {
-        rememberBefore(decided);
-        place(decided);
-    }
-    takeOver(m_variables, decided);
     if (changes)
-        announce(decided);
+        place(journal);
+    takeOver(m_variables, journal);
+    if (!changes)
+        return;
+    removeOtherSteps(m_variables.WorkingFolder, m_history);
+    announce(journal);
+}
+
+// The checksums of the texts from before are not known yet.
+HistoryStep ParagraphTransaction::stepOf(const Journal &journal) const
+{
+    HistoryStep step;
+    step.title = m_name.title;
+    step.numbers = m_name.numbers;
+    step.time = QDateTime::currentDateTime();
+    step.targetPhrase = m_variables.TargetPhrase;
+    Variables after = m_variables;
+    takeOver(after, journal);
+    step.rangeBefore = m_rangeBefore.value_or(range());
+    step.rangeAfter = {after.LowestWritten, after.HighestWritten};
+    std::map<int, QByteArray> concerned; // with the checksums of the texts that come
+    for (const Journal::Emptied &emptied : journal.emptied)
+        concerned[emptied.number];
+    for (const Journal::Placed &placed : journal.placed)
+        concerned[placed.after] = placed.sha256;
+    for (int n = 0; step.numbers && n < NumberMap::count(); ++n)
+        if (step.numbers->at(n) != n)
+            concerned[n];
+    const auto stateIn = [](const Variables &variables, int n, const QByteArray &sha256) {
+        return ParagraphFacts{variables.Written.at(n) == 1, variables.Unmixable.at(n) == 1, sha256,
+                              variables.refIndex.at(n)};
+    };
+    for (const auto &[n, sha256] : concerned)
+        step.paragraphs[n] = {stateIn(m_variables, n, {}), stateIn(after, n, sha256), 0};
+    return step;
 }
 
 // Before the journal counts, the state is the one before the change, and the one after it lies
@@ -108,36 +168,6 @@ void ParagraphTransaction::keepStates(const Journal &journal) const
     Variables after = m_variables;
     takeOver(after, journal);
     writeForLater(WorkingFiles(folder).nextState(), sessionStateBytes(sessionState(after)));
-}
-
-void ParagraphTransaction::rememberBefore(const Journal &journal)
-{
-    m_before.emplace(Before{m_variables, {}});
-    for (const Journal::Placed &placed : journal.placed)
-        m_before->displaced.insert(placed.after);
-    for (const Journal::Emptied &emptied : journal.emptied)
-        m_before->displaced.insert(emptied.number);
-}
-
-// A working file makes room only when the journal is placed.
-QByteArray ParagraphTransaction::textBefore(int n) const
-{
-    if (!m_before || m_before->displaced.count(n) == 0)
-        return GetParagraphRtf(m_variables, n);
-    const QString kept = WorkingFiles(m_variables).before(n);
-    const bool madeRoom = !m_variables.JournalLeft || QFileInfo::exists(kept);
-    if (m_before->state.Extracted.at(n) == 1 && madeRoom)
-        return readWholeFile(kept, LargestText);
-    return GetParagraphRtf(m_before->state, n);
-}
-
-void ParagraphTransaction::forgetBefore()
-{
-    m_before.reset();
-    const QStringList kept = WorkingFiles(m_variables).allBefore();
-    for (const QString &path : kept)
-        tryRemoveFile(path); // one that stays goes at the next start
-    removeSessionFolder(m_variables.WorkingFolder);
 }
 
 Journal ParagraphTransaction::journal() const
@@ -205,15 +235,17 @@ void ParagraphTransaction::takeOver(Variables &variables, const Journal &journal
     }
     if (m_rangeBefore)
         RecomputeWrittenRange(variables);
+    if (m_rangeAfter)
+        setWrittenRange(variables, *m_rangeAfter);
+    variables.History = std::make_shared<const CommandHistory>(m_history);
 }
 
 void ParagraphTransaction::announce(const Journal &journal) const
 {
     setModified(m_variables);
     AdventureEvents &events = *m_variables.Events;
-    ParagraphArray<qint16, 2001> newNumbers;
-    std::iota(newNumbers.begin(), newNumbers.end(), qint16{0});
-    const ParagraphArray<qint16, 2001> unmoved = newNumbers;
+    const NumberMap unmoved = unmovedNumbers();
+    NumberMap newNumbers = unmoved;
     QList<int> changed;
     for (const Journal::Emptied &emptied : journal.emptied)
         changed.append(emptied.number);
@@ -226,4 +258,5 @@ void ParagraphTransaction::announce(const Journal &journal) const
     std::sort(changed.begin(), changed.end());
     Q_EMIT events.textsChanged(changed);
     Q_EMIT events.marksChanged();
+    Q_EMIT events.historyChanged();
 }

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "store/CommandHistory.h"
 #include "store/Journal.h"
 #include "store/Variables.h"
 
 #include <map>
 #include <optional>
-#include <set>
 
 // Changes many paragraphs at once, or none. New texts are parked beside the working files, so that
 // none is held in memory; until commit() neither the adventure nor its files change, and a
@@ -16,8 +16,14 @@
 class ParagraphTransaction
 {
 public:
+    // What the change is called in the history, and the numbers of all paragraphs from commit() on
+    // where it gives them others.
+    struct Name {
+        QString title;
+        std::optional<NumberMap> numbers;
+    };
     // Throws FileError when an earlier change is still to be placed and cannot be.
-    explicit ParagraphTransaction(Variables &variables);
+    ParagraphTransaction(Variables &variables, Name name);
     ~ParagraphTransaction();
     ParagraphTransaction(const ParagraphTransaction &) = delete;
     ParagraphTransaction &operator=(const ParagraphTransaction &) = delete;
@@ -45,41 +51,40 @@ public:
     // lowest to the highest number with a text; without a commit it is as it was.
     void widenRange(int low, int high);
 
+    // The written range is this one from commit() on.
+    void setRange(const WrittenRange &range) { m_rangeAfter = range; }
+
     // Commits and puts everything in place, in the files and in Variables: texts, Written,
     // Extracted, Unmixable, refIndex, a range widened where need be, AdventureModified. Throws
     // UsmiraError before anything has changed: FileError, or because two texts would have one
     // number. A failure after the commit throws nothing: the rest is placed before a working file
     // is used next, see Variables::JournalLeft.
+    //
+    // A change in which something differs is noted in the history, with its step. One whose step
+    // cannot be written is done all the same, and cannot be taken back.
     void commit();
 
-    // RTF of the paragraph that had number n before the commit, also when the adventure has been
-    // saved since: until forgetBefore(), which the end of the transaction and the next one call.
-    // Throws UsmiraError when it cannot be read.
-    QByteArray textBefore(int n) const;
-    void forgetBefore();
+    // The same for a change that takes back others or does them once more: it is not noted itself,
+    // the history is another one from then on. The steps that it keeps have been written.
+    void commit(const CommandHistory &history);
 
 private:
-    struct Range {
-        qint16 lowest;
-        qint16 highest;
-    };
-    struct Before {
-        Variables state;
-        std::set<int> displaced; // numbers whose working files made room
-    };
-    Range range() const { return {m_variables.LowestWritten, m_variables.HighestWritten}; }
+    WrittenRange range() const { return {m_variables.LowestWritten, m_variables.HighestWritten}; }
     Journal journal() const;
-    void rememberBefore(const Journal &journal);
     void refuseLostTexts(const Journal &journal) const;
+    HistoryStep stepOf(const Journal &journal) const;
+    void commit(const Journal &journal);
     void keepStates(const Journal &journal) const;
     void place(const Journal &journal);
     void takeOver(Variables &variables, const Journal &journal) const;
     void announce(const Journal &journal) const;
 
     Variables &m_variables;
-    std::map<int, Journal::Placed> m_changes; // by the number before
-    std::map<int, bool> m_emptied;            // number and whether fixed
-    std::optional<Range> m_rangeBefore;       // when it was widened
-    std::optional<Before> m_before;           // once committed
+    const Name m_name;
+    std::map<int, Journal::Placed> m_changes;  // by the number before
+    std::map<int, bool> m_emptied;             // number and whether fixed
+    std::optional<WrittenRange> m_rangeBefore; // when it was widened
+    std::optional<WrittenRange> m_rangeAfter;  // when it was set
+    CommandHistory m_history;                  // from the commit on
     bool m_committed = false;
 };

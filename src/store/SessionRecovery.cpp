@@ -311,7 +311,11 @@ bool Recovery::isWanted()
 
 std::optional<UnsavedWork> offerUnsavedWork(const QString &workingFolder, Prompts &prompts)
 {
-    return Recovery(workingFolder, prompts).offer();
+    std::optional<UnsavedWork> work = Recovery(workingFolder, prompts).offer();
+    if (work)
+        work->history = keptHistory(workingFolder, work->state.done, work->state.undone);
+    removeOtherSteps(workingFolder, work ? work->history : CommandHistory());
+    return work;
 }
 
 void takeOver(Variables &variables, const UnsavedWork &work, const Progress &progress)
@@ -320,6 +324,7 @@ void takeOver(Variables &variables, const UnsavedWork &work, const Progress &pro
     const bool otherPhrase = work.saved.targetPhrase != state.targetPhrase;
     takeOver(variables, work.saved);
     setNames(variables, state.adventurePath);
+    variables.History = std::make_shared<const CommandHistory>(work.history);
     variables.TargetPhrase = state.targetPhrase;
     variables.LowestWritten = static_cast<qint16>(state.lowest);
     variables.HighestWritten = static_cast<qint16>(state.highest);

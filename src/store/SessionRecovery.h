@@ -2,6 +2,7 @@
 
 #include "platform/Progress.h"
 #include "store/AdventureFile.h"
+#include "store/CommandHistory.h"
 #include "store/SessionState.h"
 
 #include <optional>
@@ -13,6 +14,7 @@ struct UnsavedWork {
     SessionState state;            // its extracted texts lie in the working folder
     AdventureContents saved;       // the adventure as it was opened
     std::optional<QByteArray> box; // RTF of the current paragraph as last typed
+    CommandHistory history;        // what can be taken back
 };
 
 // Looks at what an earlier program has left in a working folder that nobody else works in, once

@@ -1,6 +1,7 @@
 #include "store/SessionState.h"
 
 #include "store/AdventureFile.h"
+#include "store/CommandHistory.h"
 #include "store/SummedLines.h"
 #include "store/WorkingFiles.h"
 
@@ -88,8 +89,14 @@ public:
             m_state.opened = {word.toLongLong(), words.value(2)};
         else if (kind == "saving")
             m_state.saving = {word.toLongLong(), words.value(2)};
-        else if (kind == "range" || kind == "current" || kind == "next" || kind == "emptied")
+        else if (kind == "range" || kind == "current" || kind == "next")
             readNumbers(kind, words);
+        else if (kind == "emptied")
+            m_state.emptied = listOf(words);
+        else if (kind == "done")
+            m_state.done = listOf(words);
+        else if (kind == "undone")
+            m_state.undone = listOf(words);
         else
             readMarks(kind, word);
         return true;
@@ -106,12 +113,17 @@ private:
             m_state.highest = words.value(2).toInt();
         } else if (kind == "current") {
             m_state.current = number;
-        } else if (kind == "next") {
-            m_state.next = number;
         } else {
-            for (const QByteArray &word : words.mid(1))
-                m_state.emptied.append(word.toInt());
+            m_state.next = number;
         }
+    }
+
+    static QList<int> listOf(const QList<QByteArray> &words)
+    {
+        QList<int> list;
+        for (const QByteArray &word : words.mid(1))
+            list.append(word.toInt());
+        return list;
     }
 
     void readMarks(const QByteArray &kind, const QByteArray &word)
@@ -145,6 +157,15 @@ bool canBeEmptied(const SessionState &state)
                emptied.end();
 }
 
+// Steps are counted from 1, and each is named once.
+bool canBeSteps(const SessionState &state)
+{
+    const QList<int> ids = state.done + state.undone;
+    return ids.size() <= CommandHistory::MostKept &&
+           std::all_of(ids.begin(), ids.end(),
+                       [&ids](int id) { return id >= 1 && ids.count(id) == 1; });
+}
+
 bool canBe(const SessionState &state)
 {
     const bool numbersFit = isNumber(state.lowest) && isNumber(state.highest) &&
@@ -154,7 +175,8 @@ bool canBe(const SessionState &state)
            !state.adventurePath.contains(QChar::Null) &&
            !QFileInfo(state.adventurePath).fileName().isEmpty() &&
            state.targetPhrase.size() <= LongestPhrase && canBe(state.opened) &&
-           canBe(state.saving) && (state.extracted & ~state.written).none() && canBeEmptied(state);
+           canBe(state.saving) && (state.extracted & ~state.written).none() &&
+           canBeEmptied(state) && canBeSteps(state);
 }
 } // namespace
 
@@ -179,6 +201,10 @@ QByteArray sessionStateBytes(const SessionState &state)
     bytes += line("unmixable", digits(state.unmixable));
     if (!state.emptied.isEmpty())
         bytes += line("emptied", numbers(state.emptied));
+    if (!state.done.isEmpty())
+        bytes += line("done", numbers(state.done));
+    if (!state.undone.isEmpty())
+        bytes += line("undone", numbers(state.undone));
     if (state.next)
         bytes += line("next", numbers({*state.next}));
     return summed(bytes);
@@ -203,6 +229,8 @@ SessionState sessionState(const Variables &variables)
     state.lowest = variables.LowestWritten;
     state.highest = variables.HighestWritten;
     state.current = variables.CurrentParagraph;
+    state.done = variables.History->keptDone();
+    state.undone = variables.History->keptUndone();
     state.written = marksOf(variables.Written);
     state.extracted = marksOf(variables.Extracted);
     state.unmixable = marksOf(variables.Unmixable);

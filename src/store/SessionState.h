@@ -23,6 +23,8 @@
 //   extracted 0400...                         highest bit first
 //   unmixable 0000...
 //   emptied 0003 0004                         they lose their text
+//   done 0003 0007                            the steps by which commands are taken back, and
+//   undone 0009                               those by which they are done once more
 //   next 0026                                 is being saved: extracted once its file is there
 //   sum SHA256                                of every line above
 struct SessionState {
@@ -42,6 +44,8 @@ struct SessionState {
     Marks extracted;
     Marks unmixable;
     QList<int> emptied; // ascending
+    QList<int> done;    // see CommandHistory
+    QList<int> undone;
     std::optional<int> next;
 };
 

@@ -1,8 +1,12 @@
 #include "store/Variables.h"
 
 #include "store/AdventureEvents.h"
+#include "store/CommandHistory.h"
 
-Variables::Variables() : Events(std::make_shared<AdventureEvents>()) {}
+Variables::Variables()
+    : History(std::make_shared<CommandHistory>()), Events(std::make_shared<AdventureEvents>())
+{
+}
 
 void RecomputeWrittenRange(Variables &variables)
 {

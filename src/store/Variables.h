@@ -6,6 +6,7 @@
 #include <memory>
 
 class AdventureEvents;
+class CommandHistory;
 class OpenedFile;
 struct Journal;
 
@@ -50,6 +51,10 @@ struct Variables {
     // Whatever changes working files calls finishLeftJournal() first; what only reads a text finds
     // it through this.
     std::shared_ptr<const Journal> JournalLeft;
+
+    // What was done to the whole adventure since it was opened, and can be taken back.
+    // Another one takes its place whenever that changes.
+    std::shared_ptr<const CommandHistory> History;
 
     // Announces changes. The flags and arrays that others follow are set through
     // AdventureChanges.h, and by what saves, renumbers and opens.

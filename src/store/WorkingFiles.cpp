@@ -114,9 +114,9 @@ QString WorkingFiles::typed(int n) const
     return numberedText(session() + QStringLiteral("/Saisie-"), n);
 }
 
-QString WorkingFiles::before(int n) const
+QString WorkingFiles::step(int id) const
 {
-    return numberedText(session() + QStringLiteral("/Avant-"), n);
+    return session() + QStringLiteral("/Annuler-") + fourDigits(id) + QStringLiteral(".xyz");
 }
 
 QString WorkingFiles::lock() const
@@ -154,9 +154,9 @@ QStringList WorkingFiles::allTyped() const
     return withNumbers(pathsOf(session(), QStringLiteral("Saisie-[0-2][0-9][0-9][0-9].rtf")));
 }
 
-QStringList WorkingFiles::allBefore() const
+QStringList WorkingFiles::allSteps() const
 {
-    return pathsOf(session(), QStringLiteral("Avant-[0-9][0-9][0-9][0-9].rtf"));
+    return pathsOf(session(), QStringLiteral("Annuler-[0-9]*.xyz"));
 }
 
 int WorkingFiles::numberOf(const QString &path)

@@ -19,7 +19,7 @@ struct Variables;
 //   Session/Etat.xyz                   what is unsaved
 //   Session/Suite.xyz                  the same once the change in the journal is put in place
 //   Session/Saisie-0026.rtf            the box as last typed
-//   Session/Avant-0026.rtf             the working file that paragraph 26 had before a change
+//   Session/Annuler-0007.xyz           what a command on the whole adventure changed
 //   Session/Usmira.lock                the program that works here
 //   Copies/Le Loup (2026-11-21 ...).usm  an adventure as it was, see DatedCopies
 //   Récupération 2026-11-21 0137/      what was set aside; never removed by the program
@@ -60,7 +60,7 @@ public:
     QString state() const;
     QString nextState() const;
     QString typed(int n) const;
-    QString before(int n) const;
+    QString step(int id) const;
     QString lock() const;
     QString copies() const; // without a separator at its end
 
@@ -68,11 +68,11 @@ public:
     QString newRecoveryFolder(const QDateTime &now) const;
 
     // Looks: full paths of all working files of any adventure, of all parked texts, of all boxes as
-    // last typed, and of all texts kept from before a change.
+    // last typed, and of all steps of commands.
     QStringList allTexts() const;
     QStringList allParked() const;
     QStringList allTyped() const;
-    QStringList allBefore() const;
+    QStringList allSteps() const;
 
     // The number in the name of a working file, or of a box as last typed.
     static int numberOf(const QString &path);

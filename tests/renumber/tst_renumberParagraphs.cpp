@@ -29,7 +29,7 @@ public:
 
     void renumber(const RenumberMap &map)
     {
-        RenumberParagraphs(variables, map, [](int, int) {});
+        RenumberParagraphs(variables, map, "MasterMix", [](int, int) {});
         RecomputeWrittenRange(variables);
     }
 

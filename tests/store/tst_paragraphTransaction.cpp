@@ -3,9 +3,11 @@
 #include "richtext/HiddenBox.h"
 #include "richtext/RtfPlainText.h"
 #include "store/AdventureFile.h"
+#include "store/HistoryNotes.h"
 #include "store/ParagraphStore.h"
 #include "store/ParagraphTransaction.h"
 #include "store/Session.h"
+#include "store/WorkingFiles.h"
 #include "support/AdventureBuilder.h"
 #include "support/FaultyCalls.h"
 #include "support/TestTable.h"
@@ -51,7 +53,7 @@ struct Story : TestAdventure {
     }
     void change()
     {
-        ParagraphTransaction transaction(v);
+        ParagraphTransaction transaction(v, {"Commande", {}});
         change(transaction);
     }
 
@@ -73,6 +75,7 @@ struct Story : TestAdventure {
     {
         SessionState state = withNext(sessionStateOf(bytes).value_or(SessionState()));
         state.adventurePath.clear();
+        state.done.clear(); // the step is looked at by itself
         return sessionStateBytes(state);
     }
 
@@ -81,6 +84,8 @@ struct Story : TestAdventure {
     {
         QStringList lines;
         for (const QString &name : workingFiles()) {
+            if (name.contains("Annuler"))
+                continue;
             QByteArray bytes = content("Dossier Usmira/" + name);
             if (name.endsWith("Etat.xyz"))
                 bytes = whatItSays(bytes);
@@ -146,27 +151,32 @@ private Q_SLOTS:
                  "5 1 1 0007/ deux, devenu 5|6 1 0  édité 6|7 1 0  édité 5|8 1 1  huit|9 0 1  |"
                  "10 0 0  |11 0 0  |12 0 0  |2|8");
         QCOMPARE(story.workingFiles().join(u' '),
-                 "a-0002.rtf a-0004.rtf a-0005.rtf a-0006.rtf a-0007.rtf Session/Etat.xyz");
+                 "a-0002.rtf a-0004.rtf a-0005.rtf a-0006.rtf a-0007.rtf Session/Annuler-0001.xyz "
+                 "Session/Etat.xyz");
         QVERIFY(story.v.AdventureModified);
     }
 
-    void textsOfBeforeStayUntilTheyAreForgotten()
+    void notesWhatItChanged()
     {
         Story story;
         const QStringList old = story.state();
-        ParagraphTransaction transaction(story.v);
-        Story::change(transaction);
-        const auto sees = [&](int n) {
-            return old.at(n).endsWith(u' ' + rtfToPlainText(transaction.textBefore(n)));
-        };
-        for (int n = 0; n <= 12; ++n)
-            QVERIFY2(sees(n), qPrintable(old.at(n)));
+        story.change();
+        StepFile file(WorkingFiles(story.v).step(1));
+        QString changed;
+        for (const auto &[n, paragraph] : file.step().paragraphs) {
+            changed += QString::number(n) + u' ';
+            if (paragraph.before.written)
+                QVERIFY(old.at(n).endsWith(u' ' + rtfToPlainText(file.textBefore(n))));
+            if (paragraph.after.written)
+                QVERIFY(paragraph.after == storedState(story.v, n));
+        }
+        QCOMPARE(changed, "2 3 4 5 7 9 ");
+        QCOMPARE(file.step().rangeBefore, (WrittenRange{2, 9}));
+        QCOMPARE(file.step().rangeAfter, (WrittenRange{2, 8}));
         forgetSession(story.folder()); // as a save does
         DiscardWorkingFiles(story.v);
-        for (const int n : {2, 3, 4, 5, 7, 9})
-            QVERIFY2(sees(n), qPrintable(old.at(n)));
-        QCOMPARE(story.workingFiles().filter("Session/Avant-"), story.workingFiles());
-        transaction.forgetBefore();
+        QCOMPARE(story.workingFiles().join(u' '), "Session/Annuler-0001.xyz");
+        forgetHistory(story.v);
         QVERIFY(story.workingFiles().isEmpty());
     }
 
@@ -174,7 +184,7 @@ private Q_SLOTS:
     {
         Story story;
         {
-            ParagraphTransaction transaction(story.v);
+            ParagraphTransaction transaction(story.v, {"Commande", {}});
             transaction.widenRange(0, 2000);
             transaction.change({4, 4, rtfOf("un"), {}, false});
             transaction.change({4, 4, rtfOf("autre"), {}, false});
@@ -191,7 +201,7 @@ private Q_SLOTS:
     {
         for (const int second : {5, 8}) { // taken by another change, and by a text that stays
             Story story;
-            ParagraphTransaction transaction(story.v);
+            ParagraphTransaction transaction(story.v, {"Commande", {}});
             transaction.change({2, second, rtfOf("deux"), {}, false});
             transaction.change({3, 5, rtfOf("trois"), {}, false});
             QVERIFY_THROWS_EXCEPTION(UsmiraError, transaction.commit());
@@ -210,6 +220,7 @@ private Q_SLOTS:
         QFETCH(bool, forGood);
         int refused = 0;
         int done = 0;
+        int stepless = 0;
         for (int call = 1, calls = 1; call <= calls; ++call) {
             Story story;
             FaultyCalls::arm(story.folder(), forGood ? Fault::FailOn : Fault::FailOnce, call);
@@ -227,7 +238,16 @@ private Q_SLOTS:
             finishLeftJournal(story.v);
             recoverJournal(story.folder()); // what could not even be removed goes at last
             QCOMPARE(story.files(), outcome(!threw).files);
+            // There is a step when the change is done and it could be written.
+            const QList<int> kept = story.v.History->keptDone();
+            removeOtherSteps(story.folder(), *story.v.History);
+            QCOMPARE(story.workingFiles().filter("Annuler").size(), kept.size());
+            QVERIFY(!threw || kept.isEmpty());
+            if (!kept.isEmpty())
+                QCOMPARE(StepFile(WorkingFiles(story.v).step(1)).step().paragraphs.size(), 6U);
+            stepless += !threw && kept.isEmpty() ? 1 : 0;
         }
+        QVERIFY2(forGood || stepless > 1, "no step was lost");
         QVERIFY2(refused > 5 && done > 5, "the calls were not reached");
     }
 

@@ -3,8 +3,10 @@
 #include "platform/Failures.h"
 #include "richtext/RichTextBox.h"
 #include "store/AdventureCommands.h"
+#include "store/DamagedTexts.h"
 #include "store/ExportTarget.h"
 #include "store/ParagraphStore.h"
+#include "store/ReferenceIndex.h"
 #include "store/WorkReport.h"
 
 namespace
@@ -31,6 +33,7 @@ bool SingleParagraph::Load()
     const QString path = m_prompts.openName(tr("Ouvrir Fichier RTF"), rtfFilter());
     if (path.isEmpty())
         return false;
+    LoadedParagraph loaded = beforeLoading(box);
     try {
         box.loadFile(path);
     } catch (const UsmiraError &error) {
@@ -38,7 +41,37 @@ bool SingleParagraph::Load()
         return false;
     }
     m_variables.ParagraphDirty = true;
+    noteLoading(loaded, box);
     return true;
+}
+
+// What was typed and not saved yet is what the author wants back, as it would have been saved.
+LoadedParagraph SingleParagraph::beforeLoading(const RichTextBox &box) const
+{
+    const int n = m_variables.CurrentParagraph;
+    LoadedParagraph loaded;
+    loaded.title = tr("Paragraphe chargé : %1").arg(n);
+    if (m_variables.ParagraphDirty && box.textLength() > 0) {
+        loaded.before = box.rtf();
+        loaded.referencesBefore = referenceEntry(box.text(), m_variables.TargetPhrase);
+    } else if (!m_variables.ParagraphDirty) {
+        QList<int> unreadable;
+        loaded.before = readableText(m_variables, n, unreadable).value_or(QByteArray());
+        loaded.referencesBefore = m_variables.refIndex.at(n);
+        loaded.readable = unreadable.isEmpty();
+    }
+    return loaded;
+}
+
+void SingleParagraph::noteLoading(LoadedParagraph &loaded, const RichTextBox &box)
+{
+    if (box.textLength() > 0) {
+        loaded.after = box.rtf();
+        loaded.referencesAfter = referenceEntry(box.text(), m_variables.TargetPhrase);
+    }
+    const int before = m_variables.History->newId();
+    noteLoaded(m_variables, loaded);
+    announceDone(m_variables, m_report, before);
 }
 
 void SingleParagraph::Save()

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "store/HistoryNotes.h"
+
 #include <QCoreApplication>
 
 class AdventureView;
 class Prompts;
+class RichTextBox;
 class WorkReport;
 struct Variables;
 
@@ -17,8 +20,8 @@ public:
     SingleParagraph(Variables &variables, Prompts &prompts, AdventureView &view,
                     WorkReport &report);
 
-    // The file's text becomes the paragraph's, still to be saved. True when the box has changed; a
-    // file that cannot be read changes nothing, without a word.
+    // The file's text becomes the paragraph's, still to be saved, which the history knows of. True
+    // when the box has changed; a file that cannot be read changes nothing, without a word.
     bool Load();
 
     // Saves the paragraph first, then writes the box into the file. A file that cannot be written
@@ -27,6 +30,9 @@ public:
     void Save();
 
 private:
+    LoadedParagraph beforeLoading(const RichTextBox &box) const;
+    void noteLoading(LoadedParagraph &loaded, const RichTextBox &box);
+
     Variables &m_variables;
     Prompts &m_prompts;
     AdventureView &m_view;

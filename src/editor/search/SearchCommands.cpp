@@ -5,6 +5,7 @@
 #include "editor/search/TextReplacing.h"
 #include "platform/Failures.h"
 #include "store/AdventureCommands.h"
+#include "store/CommandHistory.h"
 #include "store/DamagedTexts.h"
 #include "store/LongWork.h"
 #include "store/ParagraphStore.h"
@@ -131,12 +132,14 @@ std::optional<int> SearchCommands::replaceAll(const SearchFor &what, const QStri
         QList<int> numbers = writtenParagraphs(m_variables);
         if (where == Where::CurrentParagraph)
             numbers = numbers.contains(current) ? QList<int>{current} : QList<int>{};
+        const int before = m_variables.History->newId();
         count = replaceInParagraphs(
-            m_variables, m_view.editingBox(), numbers,
+            m_variables, m_view.editingBox(), tr("Remplacer Tous « %1 »").arg(what.text), numbers,
             [&](int, const QString &text) {
                 return replacementsOfAll(text, what.text, by, what.options);
             },
             work.progress());
+        announceDone(m_variables, m_report, before);
         return true;
     });
     return done ? std::optional(count) : std::nullopt;
@@ -197,8 +200,9 @@ int SearchCommands::replaceStored(const MatchFinder &finder, const QString &by,
     QList<int> numbers = writtenParagraphs(m_variables);
     numbers.removeIf([&](int n) { return listed.count(n) == 0; });
     LongWork work(m_report, tr("Remplacement..."));
-    return replaceInParagraphs(
-        m_variables, m_view.editingBox(), numbers,
+    const int before = m_variables.History->newId();
+    const int replaced = replaceInParagraphs(
+        m_variables, m_view.editingBox(), tr("Remplacer la sélection"), numbers,
         [&](int n, const QString &text) {
             QList<Replacement> found = finder.replacements(text, by);
             found.removeIf([&](const Replacement &match) {
@@ -209,4 +213,6 @@ int SearchCommands::replaceStored(const MatchFinder &finder, const QString &by,
             return found;
         },
         work.progress());
+    announceDone(m_variables, m_report, before);
+    return replaced;
 }

@@ -3,6 +3,7 @@
 #include "editor/ParagraphRewriting.h"
 #include "richtext/RichTextBox.h"
 #include "richtext/RtfPlainText.h"
+#include "store/HistoryNotes.h"
 #include "store/ParagraphStore.h"
 #include "store/ReferenceIndex.h"
 
@@ -51,8 +52,9 @@ void replaceInBox(RichTextBox &box, const QList<Replacement> &replacements)
     }
 }
 
-int replaceInParagraphs(Variables &variables, RichTextBox &current, const QList<int> &numbers,
-                        const ReplacementsIn &replacementsIn, const Progress &progress)
+int replaceInParagraphs(Variables &variables, RichTextBox &current, const QString &title,
+                        const QList<int> &numbers, const ReplacementsIn &replacementsIn,
+                        const Progress &progress)
 {
     qsizetype count = 0;
     bool currentChanged = false;
@@ -67,11 +69,12 @@ int replaceInParagraphs(Variables &variables, RichTextBox &current, const QList<
         currentChanged |= n == variables.CurrentParagraph;
         return referenceEntry(box.text(), variables.TargetPhrase);
     };
-    rewriteParagraphs(variables, numbers, rewrite, progress);
+    rewriteParagraphs(variables, title, numbers, rewrite, progress);
     if (currentChanged) {
         replaceInBox(current, replacementsIn(variables.CurrentParagraph, current.text()));
         variables.ParagraphDirty = true;
         SaveCurParg(variables, current);
+        amendLast(variables, variables.CurrentParagraph);
     }
     return static_cast<int>(count);
 }

@@ -34,6 +34,8 @@ using ReplacementsIn = std::function<QList<Replacement>(int n, const QString &te
 // shows the current one. That one must have been saved before, and is saved again; it is empty
 // afterwards and not Written when nothing is left of it, while others stay Written. Returns how
 // much was replaced. Throws as rewriteParagraphs; and FileError when all is replaced but the
-// current paragraph, changed in the box, could not be saved from it.
-int replaceInParagraphs(Variables &variables, RichTextBox &current, const QList<int> &numbers,
-                        const ReplacementsIn &replacementsIn, const Progress &progress);
+// current paragraph, changed in the box, could not be saved from it. title is what the history
+// calls it.
+int replaceInParagraphs(Variables &variables, RichTextBox &current, const QString &title,
+                        const QList<int> &numbers, const ReplacementsIn &replacementsIn,
+                        const Progress &progress);

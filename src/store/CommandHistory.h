@@ -1,0 +1,83 @@
+#pragma once
+
+#include "store/HistoryStep.h"
+
+class WorkReport;
+struct Variables;
+
+// The commands on the whole adventure since it was opened. The newest can be taken back, and what
+// was taken back done once more, as long as their steps are kept: see HistoryStep.
+class CommandHistory
+{
+public:
+    struct Command {
+        int id = 0; // also that of its step
+        QString title;
+        QDateTime time;
+        int changed = 0; // paragraphs with another text, number, mark or list
+        int moved = 0;   // of them those with another number
+        std::optional<NumberMap> numbers;
+        qint64 bytes = 0;  // of its step
+        bool kept = false; // the step is there
+        bool operator==(const Command &) const = default;
+    };
+    static Command commandOf(int id, const HistoryStep &step, qint64 bytes);
+
+    // The oldest first. What is no longer kept stays in the list.
+    const QList<Command> &done() const { return m_done; }
+    // The next to be done once more last.
+    const QList<Command> &undone() const { return m_undone; }
+
+    // The command that is taken back next, or done once more; nothing when none can be.
+    std::optional<Command> nextToTakeBack() const { return lastKept(m_done); }
+    std::optional<Command> nextToRedo() const { return lastKept(m_undone); }
+
+    // An id that no command had yet.
+    int newId() const { return m_lastId + 1; }
+
+    // A command was done. One that has no step keeps all before it from being taken back.
+    void add(const Command &command);
+    // The last commands were taken back: these, the newest first, do them once more.
+    void takenBack(const QList<Command> &redoing);
+    // The last that were taken back were done again: these take them back once more.
+    void redone(const QList<Command> &takingBack);
+    // What a start after a crash finds of what was taken back.
+    void restoreUndone(const QList<Command> &undone);
+    // A step is no good any more: neither it nor what lies behind it is offered.
+    void lose(int id);
+
+    // The ids of the steps that are kept.
+    QList<int> keptDone() const { return keptIds(m_done); }
+    QList<int> keptUndone() const { return keptIds(m_undone); }
+
+    bool operator==(const CommandHistory &) const = default;
+
+    static constexpr int MostKept = 50;
+
+private:
+    static std::optional<Command> lastKept(const QList<Command> &commands);
+    static QList<int> keptIds(const QList<Command> &commands);
+    void append(QList<Command> &commands, const Command &command);
+    void dropOldest();
+
+    QList<Command> m_done;
+    QList<Command> m_undone;
+    int m_lastId = 0;
+};
+
+// Announces the command that was noted since newId() of the history was this, and how it is taken
+// back: "MasterMix 1 à 400 : fait. Ctrl+Alt+Z l'annule."; the words of its own, if it has any, come
+// first, and alone when it changed nothing.
+void announceDone(const Variables &variables, WorkReport &report, int newId,
+                  const QString &words = {});
+
+// The history of the steps that a session names. One that is not whole is left out, and so is what
+// lies behind it in its list.
+CommandHistory keptHistory(const QString &workingFolder, const QList<int> &done,
+                           const QList<int> &undone);
+
+// Removes the steps that the history does not keep. What cannot be removed is harmless.
+void removeOtherSteps(const QString &workingFolder, const CommandHistory &history);
+
+// The open adventure is left, or another version of it: nothing can be taken back any more.
+void forgetHistory(Variables &variables);
