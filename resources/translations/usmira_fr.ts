@@ -32,6 +32,23 @@
     </message>
 </context>
 <context>
+    <name>HistoryCommands</name>
+    <message numerus="yes">
+        <source>%n paragraphe(s) modifié(s) depuis : %1 Les remettre aussi comme avant la commande ?</source>
+        <translation>
+            <numerusform>%n paragraphe a été modifié depuis : %1 Le remettre aussi comme avant la commande ?</numerusform>
+            <numerusform>%n paragraphes ont été modifiés depuis : %1 Les remettre aussi comme avant la commande ?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphe(s) modifié(s) depuis : %1 Les remettre aussi comme après la commande ?</source>
+        <translation>
+            <numerusform>%n paragraphe a été modifié depuis : %1 Le remettre aussi comme après la commande ?</numerusform>
+            <numerusform>%n paragraphes ont été modifiés depuis : %1 Les remettre aussi comme après la commande ?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>StatusLine</name>
     <message numerus="yes">
         <source>%n mot(s)</source>

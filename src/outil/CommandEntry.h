@@ -4,6 +4,7 @@
 #include "editor/search/SearchCommands.h"
 #include "outil/HeadlessView.h"
 #include "renumber/AdventureSplit.h"
+#include "renumber/HistoryCommands.h"
 #include "renumber/RenumberCommands.h"
 #include "store/AdventureCommands.h"
 #include "store/AdventureMerge.h"
@@ -28,6 +29,7 @@ struct CommandServices {
     AdventureMerge merge;
     AdventureSplit split;
     RenumberCommands renumber;
+    HistoryCommands history;
     SearchCommands search;
     ExportCommand exports;
 };
@@ -52,6 +54,7 @@ QByteArray numberLine(int n);
 std::vector<CommandEntry> adventureEntries();
 std::vector<CommandEntry> paragraphEntries();
 std::vector<CommandEntry> renumberEntries();
+std::vector<CommandEntry> historyEntries();
 std::vector<CommandEntry> textEntries();
 std::vector<CommandEntry> viewsEntries();
 std::vector<CommandEntry> publishEntries();

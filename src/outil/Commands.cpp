@@ -4,6 +4,7 @@
 #include "platform/SafeFile.h"
 #include "store/AdventureChanges.h"
 #include "store/AdventureFile.h"
+#include "store/CommandHistory.h"
 #include "store/ParagraphStore.h"
 #include "store/Session.h"
 
@@ -15,8 +16,9 @@ const std::vector<CommandEntry> &entries()
 {
     static const std::vector<CommandEntry> table = [] {
         std::vector<CommandEntry> all;
-        for (const auto &group : {adventureEntries(), paragraphEntries(), renumberEntries(),
-                                  textEntries(), viewsEntries(), publishEntries()})
+        for (const auto &group :
+             {adventureEntries(), paragraphEntries(), renumberEntries(), historyEntries(),
+              textEntries(), viewsEntries(), publishEntries()})
             all.insert(all.end(), group.begin(), group.end());
         return all;
     }();
@@ -35,7 +37,8 @@ bool fits(const CommandEntry &entry, qsizetype arguments)
 CommandServices::CommandServices(Variables &state, Prompts &answers)
     : variables(state), prompts(answers), view(state), adventure(state, answers, view, view),
       merge(state, answers, view), split(state, answers, view), renumber(state, answers, view),
-      search(state, answers, view, view), exports(state, answers, view)
+      history(state, answers, view), search(state, answers, view, view),
+      exports(state, answers, view)
 {
 }
 
@@ -105,6 +108,7 @@ void Commands::finish(bool save)
     // Nobody will write the new adventure any more that a full disk has left without a session.
     if (variables.AdventureOpen && !save && isPlaceholder(variables.AdventurePath))
         tryRemoveFile(variables.AdventurePath);
+    forgetHistory(variables);
     if (!variables.AdventureOpen || !hasUnsavedChanges(variables))
         return;
     if (save) {

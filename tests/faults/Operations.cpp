@@ -4,6 +4,8 @@ namespace
 {
 const QString Save = QStringLiteral("enregistrer");
 const QString Open = QStringLiteral("ouvrir @/a.usm");
+const QString Swap = QStringLiteral("echanger 2 5");
+const QString TakeBack = QStringLiteral("annuler");
 const QString Edit = QStringLiteral("texte 4 @/t.rtf");
 const QStringList NextSave{Open, QStringLiteral("texte 8 @/t.rtf"), Save};
 
@@ -28,12 +30,17 @@ const QList<Operation> &operations()
         changing(QStringLiteral("enregistrer"), Save),
         changing(QStringLiteral("fixer"), QStringLiteral("fixe 5 1"), true),
         changing(QStringLiteral("phrase"), QStringLiteral("phrase rendez-vous_au_"), true),
-        changing(QStringLiteral("échanger"), QStringLiteral("echanger 2 5")),
+        changing(QStringLiteral("échanger"), Swap),
         changing(QStringLiteral("mélanger"), QStringLiteral("melanger 1 9 5")),
         changing(QStringLiteral("déplacer"), QStringLiteral("deplacer 2 4 3 haut")),
         changing(QStringLiteral("combler"), QStringLiteral("combler 1 9")),
         changing(QStringLiteral("remplacer"), QStringLiteral("remplacer Allez Va")),
         changing(QStringLiteral("uniformiser"), QStringLiteral("uniformiser Arial 14")),
+        {QStringLiteral("annuler"), {Edit, Swap, TakeBack, Save}, {}, NextSave},
+        {QStringLiteral("rétablir"),
+         {Edit, Swap, TakeBack, QStringLiteral("retablir"), Save},
+         {},
+         NextSave},
         changing(QStringLiteral("fusionner"), QStringLiteral("fusionner @/b.usm")),
         {QStringLiteral("nouvelle"),
          {QStringLiteral("nouvelle @/n.usm"), Edit, Save},

@@ -10,6 +10,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace
@@ -136,6 +137,26 @@ melanger 4 9
         QCOMPARE(outcome.output, "2\n4\n");
         QVERIFY2(outcome.errors.contains("b.usm existe déjà"), qPrintable(outcome.errors));
         QCOMPARE(outcome.status, 1);
+    }
+
+    void commandsAreTakenBackAndListed()
+    {
+        TestAdventure adventure;
+        adventure.file("a.usm", AdventureBuilder({"1: Va au 4", "4!: Va au 9", "9: Fin"}).bytes());
+        const QByteArray script = "ouvrir '@a.usm'\nechanger 1 2\nechanger 4 9\nenregistrer\n"
+                                  "annuler\nretablir\nannuler 1\nmene 4\nhistorique\nretablir\n"
+                                  "table '@t.csv'\nannuler 9\n";
+        const QByteArray folder = adventure.path("./").toUtf8();
+        const Outcome outcome = run(adventure, {"--oui"}, QByteArray(script).replace('@', folder));
+        QString lines = QString::fromUtf8(outcome.output);
+        lines.replace(QRegularExpression("\\d{4}-\\S+ [\\d:]+"), "T");
+        QCOMPARE(lines, "1\n5\tT\tÉchange 4 et 9\t3\t2\tannulée\n"
+                        "6\tT\tÉchange 1 et 2\t2\t1\tannulée\n");
+        QCOMPARE(outcome.errors, "Zut : Rien n'a été annulé ni rétabli.\n");
+        const QString table = QString::fromUtf8(adventure.content("t.csv"));
+        QVERIFY2(table.endsWith("\r\n1;2;\"Va au 4\"\r\n4;4;\"Va au 9\"\r\n9;9;\"Fin\"\r\n"),
+                 qPrintable(table));
+        QVERIFY(adventure.workingFiles().isEmpty());
     }
 
     void doubtfulReferencesAreListed()

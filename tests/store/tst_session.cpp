@@ -1,4 +1,6 @@
 #include "outil/HeadlessView.h"
+#include "renumber/HistoryCommands.h"
+#include "renumber/RenumberCommands.h"
 #include "richtext/HiddenBox.h"
 #include "richtext/RtfPlainText.h"
 #include "store/AdventureChanges.h"
@@ -126,6 +128,21 @@ struct Scene : TestAdventure {
 
 using Act = std::function<void(Scene &)>;
 
+void exchange(Scene &s)
+{
+    Editor &editor = *s.editor;
+    RenumberCommands(editor.v, editor.prompts, editor.view).Swap(3, 6);
+    editor.save(9, "neuf au 6, depuis");
+}
+void takeBack(Scene &s)
+{
+    HistoryCommands(s.editor->v, s.editor->prompts, s.editor->view).takeBack();
+}
+void redo(Scene &s)
+{
+    HistoryCommands(s.editor->v, s.editor->prompts, s.editor->view).redo();
+}
+
 // Runs action in a process that is killed at its call-th file call. False: it came to its end.
 template <typename Action> bool killed(const Scene &scene, int call, Action action)
 {
@@ -152,6 +169,8 @@ const QByteArray Valid = [] {
     state.extracted.set(2000);
     state.unmixable.set(7);
     state.emptied = {3, 12};
+    state.done = {2, 13};
+    state.undone = {9};
     state.next = 3;
     return sessionStateBytes(state);
 }();
@@ -259,7 +278,9 @@ private Q_SLOTS:
     void aKillLeavesBeforeOrAfter_data()
     {
         addTable<Act>(
-            {"act"}, {{"save a paragraph", [](Scene &s) { s.editor->save(9, "autrement au 3"); }},
+            {"act"}, {{"take a command back", &takeBack},
+                      {"redo a command", &redo},
+                      {"save a paragraph", [](Scene &s) { s.editor->save(9, "autrement au 3"); }},
                       {"save a new paragraph", [](Scene &s) { s.editor->save(11, "onze"); }},
                       {"save one again", [](Scene &s) { s.editor->save(3, "encore au 6"); }},
                       {"empty a paragraph", [](Scene &s) { s.editor->save(9, {}); }},
@@ -269,7 +290,7 @@ private Q_SLOTS:
                       {"another phrase",
                        [](Scene &s) { setTargetPhrase(s.editor->v, "ici", s.editor->v.refIndex); }},
                       {"change many", [](Scene &s) {
-                           ParagraphTransaction transaction(s.editor->v);
+                           ParagraphTransaction transaction(s.editor->v, {"Commande", {}});
                            transaction.widenRange(0, 12);
                            transaction.change({3, 12, rtfOf("trois, devenu 12"), {}, true});
                            transaction.change({9, 3, rtfOf("neuf au 12"), "0012/", false});
@@ -282,9 +303,17 @@ private Q_SLOTS:
         if (FaultyCalls::OutOfReach)
             QSKIP("plain calls hide the faults");
         QFETCH(Act, act);
+        const QByteArray name = QTest::currentDataTag();
+        const auto prepare = [&name](Scene &scene) {
+            if (name == "take a command back" || name == "redo a command")
+                exchange(scene);
+            if (name == "redo a command")
+                takeBack(scene);
+        };
         QString before, after;
         {
             Scene scene;
+            prepare(scene);
             before = scene.editor->state();
             act(scene);
             after = scene.editor->state();
@@ -295,6 +324,7 @@ private Q_SLOTS:
         int done = 0;
         for (int call = 1;; ++call) {
             Scene scene;
+            prepare(scene);
             if (!killed(scene, call, [&] { act(scene); }))
                 break;
             // The next starts are killed as well, until one comes to its end.
@@ -314,9 +344,65 @@ private Q_SLOTS:
             ++(isBefore ? undone : done);
             QVERIFY(scene.aside().isEmpty());
             next.commands.Save();
+            forgetHistory(next.v);
             QVERIFY2(scene.workingFiles().isEmpty(), qPrintable(scene.workingFiles().join(u' ')));
         }
         QVERIFY2(before == after || (undone > 0 && done + undone > 3), "no call was reached");
+    }
+
+    void aFailedCallOfTakingBackLeavesBeforeOrAfter()
+    {
+        if (FaultyCalls::OutOfReach)
+            QSKIP("plain calls hide the faults");
+        for (const Act act : {&takeBack, &redo}) {
+            int undone = 0;
+            for (int call = 1, calls = 1; call <= calls; ++call) {
+                Scene scene;
+                exchange(scene);
+                const QString exchanged = scene.editor->state();
+                takeBack(scene);
+                const QString back = scene.editor->state();
+                if (*act.target<void (*)(Scene &)>() == &takeBack)
+                    redo(scene);
+                const QString before = scene.editor->state();
+                const QString after = before == back ? exchanged : back;
+                FaultyCalls::arm(QFileInfo(scene.path).path(), Fault::FailOnce, call);
+                act(scene);
+                calls = std::max(calls, FaultyCalls::disarm());
+                const QString left = scene.editor->state();
+                QVERIFY(left == before || left == after);
+                undone += left == before ? 1 : 0;
+                // The next program goes on from there.
+                Editor next = scene.restarted();
+                next.start();
+                QCOMPARE(next.state(), left);
+                HistoryCommands history(next.v, next.prompts, next.view);
+                if (next.v.History->nextToTakeBack() && history.takeBack())
+                    QCOMPARE(next.state(), back);
+            }
+            QVERIFY2(undone > 3, "the calls were not reached");
+        }
+    }
+
+    void whatCanBeTakenBackComesBackAfterACrash()
+    {
+        Scene scene;
+        const QString before = scene.editor->state();
+        exchange(scene);
+        scene.editor->save(9, "neuf");
+        scene.editor->commands.Save();
+        QCOMPARE(scene.workingFiles(), QStringList("Session/Annuler-0001.xyz"));
+        scene.editor->save(11, "onze");
+        Editor next = scene.restarted();
+        next.start();
+        QVERIFY(next.v.History->nextToTakeBack());
+        HistoryCommands(next.v, next.prompts, next.view).takeBack();
+        next.save(11, {});
+        QCOMPARE(rtfToPlainText(GetParagraphRtf(next.v, 3)), "trois au 5");
+        QCOMPARE(rtfToPlainText(GetParagraphRtf(next.v, 6)), "six");
+        Editor last = scene.restarted(Prompts::Answer::No);
+        last.start();
+        QVERIFY(scene.workingFiles().filter("Session").isEmpty());
     }
 
     void theBoxIsKeptOnceItCanBe()
@@ -375,6 +461,8 @@ private Q_SLOTS:
                             {"extracted, not written", "\r\nwritten ", "\r\nwritten 0"},
                             {"emptied twice", "emptied 0003 0012", "emptied 0003 0003"},
                             {"emptied and written", "emptied 0003 0012", "emptied 0001 0012"},
+                            {"step 0", "done 0002", "done 0000"},
+                            {"step twice", "undone 0009", "undone 0013"},
                             {"line twice", "next 0003\r\n", "next 0003\r\nnext 0003\r\n"},
                             {"other line", "next 0003\r\n", "next 0003\r\nother\r\n"},
                             {"other version", "Etat 1", "Etat 2"}});
