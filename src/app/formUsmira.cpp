@@ -15,6 +15,7 @@
 #include "platform/Guarded.h"
 #include "platform/SafeFile.h"
 #include "store/AdventureEvents.h"
+#include "store/CommandHistory.h"
 #include "store/LenientNumbers.h"
 #include "store/SampleAdventure.h"
 #include "store/SessionRecovery.h"
@@ -57,7 +58,7 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_adventures(variables, prompts, m_work, m_adventure, *this),
       m_navigation(variables, prompts, m_page),
       m_searchReplace(variables, prompts, m_work, {m_page, m_navigation, m_runner}, this),
-      m_functions(variables, prompts, m_work, *this),
+      m_functions(variables, prompts, m_work, *this), m_history(variables, prompts, m_work),
       m_views(variables, prompts, {m_navigation, m_runner}, *this),
       m_conversions(variables, prompts, m_page, m_work, *this), m_info(variables, prompts, m_page)
 {
@@ -209,6 +210,7 @@ void formUsmira::connectMenus()
                      *m_ui->menuEditCopy, *m_ui->menuEditPaste, *m_ui->menuEditPastePlain,
                      *m_ui->menuEditSelectAll},
                     *m_ui->rtfBox);
+    m_history.connectItems({*m_ui->menuEditTakeBack, *m_ui->menuEditRedoCommand}, m_runner);
     m_functions.connectItems({*m_ui->menuComMasterMix, *m_ui->menuComSwap, *m_ui->menuComBlockMove,
                               *m_ui->menuComPackHoles, *m_ui->menuComTarget, *m_ui->menuComUniform,
                               *m_ui->menuComCount},
@@ -323,6 +325,7 @@ void formUsmira::closeEvent(QCloseEvent *event)
     }
     m_comfort.save();
     if (leaves) {
+        forgetHistory(m_variables);
         m_info.closeHelp();
         m_views.close();
     }

@@ -3,6 +3,7 @@
 #include "app/AdventuresMenu.h"
 #include "app/ConversionsMenu.h"
 #include "app/FunctionsMenu.h"
+#include "app/HistoryMenu.h"
 #include "app/InfoMenu.h"
 #include "app/ViewsMenu.h"
 #include "app/WorkDisplay.h"
@@ -104,6 +105,7 @@ private:
     Navigation m_navigation;
     searchReplace m_searchReplace;
     FunctionsMenu m_functions;
+    HistoryMenu m_history;
     ViewsMenu m_views;
     ConversionsMenu m_conversions;
     InfoMenu m_info;

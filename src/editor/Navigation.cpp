@@ -15,6 +15,8 @@ Navigation::Navigation(const Variables &variables, Prompts &prompts, EditorView 
         m_history.clear();
         Q_EMIT historyChanged();
     });
+    connect(variables.Events.get(), &AdventureEvents::numbersChanged, this,
+            [this](const NumberMap &newNumbers) { m_history.follow(newNumbers); });
 }
 
 void Navigation::goTo(int n)

@@ -15,6 +15,12 @@ void VisitHistory::go(int from, int to)
     ++m_at;
 }
 
+void VisitHistory::follow(const NumberMap &newNumbers)
+{
+    for (int &n : m_way)
+        n = newNumbers.at(n);
+}
+
 std::optional<int> VisitHistory::before() const
 {
     return m_at > 0 ? std::optional(m_way.at(m_at - 1)) : std::nullopt;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/HistoryStep.h"
+
 #include <QList>
 #include <optional>
 
@@ -12,6 +14,9 @@ public:
 
     // The author went from one paragraph to another; what he had gone back from is forgotten.
     void go(int from, int to);
+
+    // Paragraphs have other numbers; it leads to the same texts.
+    void follow(const NumberMap &newNumbers);
 
     // The paragraph visited before and after the current one on the way.
     std::optional<int> before() const;
