@@ -4,6 +4,7 @@
 #include "CompilationFigures.h"
 #include "ConvertFigures.h"
 #include "GraphFigures.h"
+#include "HistoryFigures.h"
 #include "MergeFigures.h"
 #include "ReferenceFigures.h"
 #include "RenumberFigures.h"
@@ -34,6 +35,7 @@ int main(int argc, char *argv[])
     BigAdventure::make(path);
     printCompilationFigures(path, folder.path());
     printRenumberFigures(path, folder.path());
+    printHistoryFigures(path, folder.path());
     printMergeFigures(path, folder.path());
     printSearchFigures(path, folder.path());
     printStoreFigures(path, folder.path());
