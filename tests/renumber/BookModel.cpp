@@ -1,5 +1,6 @@
 #include "BookModel.h"
 
+#include "renumber/RenumberParagraphs.h"
 #include "richtext/RtfPlainText.h"
 
 #include <QRegularExpression>
@@ -35,12 +36,21 @@ bool wasEdited(const BookModel::Paragraph &now, const BookModel::Paragraph &left
     return !now.sameText(left) || now.fixed != left.fixed;
 }
 
+RenumberMap mapOf(const QList<int> &numbers)
+{
+    RenumberMap map;
+    for (int n = 0; n < numbers.size(); ++n)
+        map.set(n, numbers.at(n));
+    return map;
+}
+
 BookModel withOldNumbers(const BookModel &now, const CommandModel &command)
 {
     QList<int> back(command.numbers.size());
     for (int n = 0; n < back.size(); ++n)
         back[command.numbers.at(n)] = n;
     BookModel result = now;
+    TextRenumbering engine(" au ", mapOf(back)); // for the bytes alone
     for (int n = 0; n < back.size(); ++n) {
         const BookModel::Paragraph &paragraph = now.paragraphs.at(n);
         const BookModel::Paragraph &left = command.after.paragraphs.at(n);
@@ -52,8 +62,8 @@ BookModel withOldNumbers(const BookModel &now, const CommandModel &command)
         } else if (!paragraph.text.isEmpty()) {
             old.text = withNumbers(paragraph.text, back);
             old.references = listOf(old.text);
-            if (then != n || old.text != paragraph.text)
-                old.rtf.clear();
+            if (const auto text = engine.of(n, paragraph.references, [&] { return paragraph.rtf; }))
+                old.rtf = text->rtf;
         }
         old.fixed = paragraph.fixed == left.fixed ? command.before.paragraphs.at(then).fixed
                                                   : paragraph.fixed;
@@ -124,16 +134,13 @@ QString difference(const BookModel &book, const BookModel &foretold)
             .arg(foretold.highest)
             .arg(foretold.current);
     for (int n = 0; n < book.paragraphs.size(); ++n) {
-        BookModel::Paragraph paragraph = book.paragraphs.at(n);
+        const BookModel::Paragraph &paragraph = book.paragraphs.at(n);
         const BookModel::Paragraph &told = foretold.paragraphs.at(n);
-        const auto rtf = paragraph.rtf;
-        if (told.rtf.isEmpty())
-            paragraph.rtf.clear();
         if (paragraph != told)
             return QStringLiteral("%1: %2 (%3) %4 %5 instead of %6 (%7) %8 %9")
                 .arg(QString::number(n), paragraph.text, paragraph.references,
-                     QString::number(paragraph.fixed ? 1 : 0), QString::fromLatin1(rtf), told.text,
-                     told.references, QString::number(told.fixed ? 1 : 0),
+                     QString::number(paragraph.fixed ? 1 : 0), QString::fromLatin1(paragraph.rtf),
+                     told.text, told.references, QString::number(told.fixed ? 1 : 0),
                      QString::fromLatin1(told.rtf));
     }
     return {};

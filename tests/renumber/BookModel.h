@@ -16,7 +16,7 @@ struct BookModel {
         bool fixed = false;
         QString text; // empty: not written
         QString references;
-        QByteArray rtf; // empty: not foretold
+        QByteArray rtf;
         bool operator==(const Paragraph &) const = default;
         bool sameText(const Paragraph &other) const
         {

@@ -238,27 +238,16 @@ private:
         if (cancelled)
             return;
         ++steps;
-        const BookModel then = m_scene.book();
         for (qsizetype i = 1; i <= count; ++i) {
             const CommandModel command = from.takeLast();
-            BookModel before = takenBack(m_book, command, asked && answer == Answer::Yes, edited);
-            fillBytes(before, then, i == count);
+            const BookModel before =
+                takenBack(m_book, command, asked && answer == Answer::Yes, edited);
             QList<int> back(command.numbers.size());
             for (int n = 0; n < back.size(); ++n)
                 back[command.numbers.at(n)] = n;
             to.append({m_book, before, back});
             m_book = before;
         }
-    }
-
-    // Bytes that the engine made anew are not foretold; the last book shows them.
-    void fillBytes(BookModel &foretold, const BookModel &book, bool last)
-    {
-        if (!last)
-            return;
-        for (int n = 0; n < foretold.paragraphs.size(); ++n)
-            if (foretold.paragraphs.at(n).rtf.isEmpty())
-                foretold.paragraphs[n].rtf = book.paragraphs.at(n).rtf;
     }
 
     QRandomGenerator m_random;
