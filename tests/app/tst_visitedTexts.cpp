@@ -63,12 +63,12 @@ private Q_SLOTS:
     {
         const auto swap = [](int a, int b) {
             return Command([a, b](WindowFixture &f) {
-                RenumberParagraphs(f.variables, SwapMap(a, b), [](int, int) {});
+                RenumberParagraphs(f.variables, SwapMap(a, b), "Échange", [](int, int) {});
                 f.window->LoadParg(f.current());
             });
         };
         const Command replace = [](WindowFixture &f) {
-            ParagraphTransaction transaction(f.variables);
+            ParagraphTransaction transaction(f.variables, {"Commande", {}});
             transaction.change({14, 12, GetParagraphRtf(f.variables, 12), QString(), false});
             transaction.empty(12, false);
             transaction.commit();
