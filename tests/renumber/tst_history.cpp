@@ -107,13 +107,13 @@ public:
     {
         m_scene.prompts.said.clear();
         const int chance = below(100);
-        if (chance < 30)
+        if (chance < 40)
             edit();
-        else if (chance < 36)
+        else if (chance < 44)
             m_scene.script.adventure.Save();
-        else if (chance < 60)
+        else if (chance < 64)
             command();
-        else if (chance < 82)
+        else if (chance < 80)
             takeBack(1);
         else if (chance < 88)
             takeBack(1 + below(3));
@@ -150,9 +150,22 @@ private:
     int below(int limit) { return m_random.bounded(limit); }
     int number() { return 1 + below(320); }
 
+    // Half of the time one that a command has changed.
+    int numberToEdit()
+    {
+        const QList<CommandModel> &commands = below(2) == 0 ? m_done : m_undone;
+        QList<int> changed;
+        for (int n = 1; !commands.isEmpty() && n <= 320; ++n)
+            if (commands.last().before.paragraphs.at(n) != commands.last().after.paragraphs.at(n))
+                changed.append(n);
+        return changed.isEmpty() || below(2) == 0
+                   ? number()
+                   : changed.at(below(static_cast<int>(changed.size())));
+    }
+
     void edit()
     {
-        const int n = number();
+        const int n = numberToEdit();
         m_what = QString("edit %1").arg(n);
         if (below(4) == 0) {
             setFixed(m_scene.v, n, m_scene.v.Unmixable.at(n) == 0);
@@ -388,6 +401,16 @@ private Q_SLOTS:
         scene.script.history.takeBack();
         QCOMPARE(scene.v.CurrentParagraph, 3);
         QCOMPARE(told.at(40), 3);
+    }
+
+    void theRangeHoldsWhatComesBack()
+    {
+        Scene scene;
+        scene.split(7, 9);
+        scene.write(6, "Six");
+        QVERIFY(scene.script.history.takeBack());
+        QCOMPARE(scene.v.LowestWritten, 1);
+        QCOMPARE(scene.v.HighestWritten, 9);
     }
 
     void manyStepsAreBounded()
