@@ -61,8 +61,8 @@ struct Graphs {
     paraGraphs *window = nullptr;
 };
 
-const QStringList Book{"1: Va au 2 ou au 3", "2: Va au 4", "3!: Va au 2", "4: Va au 5",
-                       "6: Va au 4"};
+const QStringList OpenedBook{"1: Va au 2 ou au 3", "2: Va au 4", "3!: Va au 2", "4: Va au 5",
+                             "6: Va au 4"};
 } // namespace
 
 class tst_paraGraphs : public QObject
@@ -72,7 +72,7 @@ class tst_paraGraphs : public QObject
 private Q_SLOTS:
     void showsWhatIsAskedFor()
     {
-        Graphs graphs(Book, 2);
+        Graphs graphs(OpenedBook, 2);
         QCOMPARE(graphs.nodes(), "2 4 5");
         graphs.enter("txtStart", "1");
         QCOMPARE(graphs.nodes(), "1 2 3 4 2= 5");
@@ -93,7 +93,7 @@ private Q_SLOTS:
 
     void theBookBeginsForItself()
     {
-        Graphs graphs(Book, 3);
+        Graphs graphs(OpenedBook, 3);
         auto &views = child<QComboBox>(*graphs.window, "comboView");
         views.setCurrentIndex(2);
         QCOMPARE(graphs.nodes(), "1 2 3 4 5 6");
@@ -105,7 +105,7 @@ private Q_SLOTS:
 
     void followsTheAdventure()
     {
-        Graphs graphs(Book);
+        Graphs graphs(OpenedBook);
         child<QSpinBox>(*graphs.window, "spinDepth").setValue(2);
         graphs.enter("txtStop", "2");
         graphs.enter("txtStop", "6");
@@ -134,7 +134,7 @@ private Q_SLOTS:
 
     void keysMoveAndChoose()
     {
-        Graphs graphs(Book);
+        Graphs graphs(OpenedBook);
         QCOMPARE(graphs.nodes(), "1 2 3 4 2= 5");
         const auto &preview = child<QPlainTextEdit>(*graphs.window, "txtPreview");
         for (const int key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Space})
@@ -155,7 +155,7 @@ private Q_SLOTS:
 
     void tabGoesRoundInTheOrderOfTheWindow()
     {
-        const Graphs graphs(Book);
+        const Graphs graphs(OpenedBook);
         QStringList names;
         const QWidget *first = &child<QWidget>(*graphs.window, "comboView");
         const QWidget *widget = first;
@@ -173,7 +173,7 @@ private Q_SLOTS:
 
     void clicksChooseAndDragsMove()
     {
-        Graphs graphs(Book);
+        Graphs graphs(OpenedBook);
         QCOMPARE(graphs.nodes(), "1 2 3 4 2= 5");
         const auto place = [&] {
             const GraphDrawing &drawing = graphs.canvas().drawing();
@@ -193,7 +193,7 @@ private Q_SLOTS:
 
     void picturesAreSaved()
     {
-        Graphs graphs(Book);
+        Graphs graphs(OpenedBook);
         QCOMPARE(graphs.nodes(), "1 2 3 4 2= 5");
         const auto save = [&](const char *button, const QString &name) {
             graphs.editor.prompts.expectFileDialog("Enregistrer le Graphe",
