@@ -10,6 +10,7 @@
 #include "richtext/RtfPlainText.h"
 #include "store/AdventureFile.h"
 #include "store/AdventureMerge.h"
+#include "store/CommandHistory.h"
 #include "store/DamagedTexts.h"
 #include "store/ParagraphStore.h"
 #include "store/ParagraphTexts.h"
@@ -68,6 +69,7 @@ void merge(const QByteArray &bytes)
             rtfToPlainText(GetParagraphRtf(variables, n));
     promise(variables.Written.at(1) == 1 && variables.Written.at(3) == 1,
             "merging removes no paragraph");
+    forgetHistory(variables);
     forgetSession(variables.WorkingFolder);
     DiscardWorkingFiles(variables);
     promise(!QFileInfo::exists(scratchFolder().path() + QStringLiteral("Session")),
