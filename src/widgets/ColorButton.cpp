@@ -5,7 +5,7 @@
 namespace
 {
 constexpr int Side = 22;
-constexpr int Margin = 4;
+constexpr int FrameMargin = 4;
 } // namespace
 
 ColorButton::ColorButton(QWidget *parent) : QToolButton(parent) {}
@@ -33,6 +33,7 @@ void ColorButton::paintEvent(QPaintEvent *event)
     painter.setBrush(m_color);
     if (!isEnabled())
         painter.setOpacity(0.35);
-    const QRectF swatch = QRectF(rect()).marginsRemoved({Margin, Margin, Margin, Margin});
+    const QRectF swatch =
+        QRectF(rect()).marginsRemoved({FrameMargin, FrameMargin, FrameMargin, FrameMargin});
     painter.drawRoundedRect(swatch.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
 }
