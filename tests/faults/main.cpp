@@ -58,6 +58,7 @@ public:
     {
         const bool controlled = controlLoses(); // also when the sweep itself finds something
         std::vector<std::thread> threads;
+        threads.reserve(static_cast<std::size_t>(m_choice.threads));
         for (int i = 0; i < m_choice.threads; ++i)
             threads.emplace_back([this] { work(); });
         for (std::thread &thread : threads)
