@@ -499,7 +499,7 @@ private Q_SLOTS:
     {
         QFETCH(quint32, seed);
         const int wanted = qEnvironmentVariableIntValue("USMIRA_WALK_STEPS");
-        const int count = wanted > 0 ? wanted : 60;
+        const int count = wanted > 0 ? wanted : 30;
         Walk walk(300, seed);
         for (int i = 0; i < count && !QTest::currentTestFailed(); ++i) {
             walk.step();
