@@ -5,11 +5,14 @@
 #include "Figures.h"
 #include "PeakMemory.h"
 #include "platform/SafeFile.h"
+#include "renumber/AdventureSplit.h"
 #include "renumber/RenumberCommands.h"
 #include "renumber/RenumberParagraphs.h"
+#include "renumber/RenumberPreview.h"
 #include "richtext/HiddenBox.h"
 #include "store/ParagraphTransaction.h"
 #include "store/ReferenceIndex.h"
+#include "store/references/DoubtfulReferences.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -48,6 +51,31 @@ public:
                                 qFatal("%s failed", qPrintable(name));
                         }),
                     Milliseconds);
+    }
+
+    // The line of each dialog at one key in its boxes; the doubtful references of all texts
+    // are read once for a dialog.
+    void printPreviews()
+    {
+        const std::unique_ptr<BenchEditor> editor = opened();
+        const Variables &variables = editor->variables;
+        const auto figure = [](const QString &what, const std::function<void()> &preview) {
+            printFigure(QStringLiteral("preview: ") + what,
+                        medianMilliseconds(
+                            Runs, [] {}, preview),
+                        Milliseconds);
+        };
+        figure(QStringLiteral("swap"), [&] { previewSwap(variables, 3, 7); });
+        figure(QStringLiteral("MasterMix 1..2000"), [&] { previewMix(variables, 1, 2000); });
+        figure(QStringLiteral("move a block of 500, both ways"),
+               [&] { previewMove(variables, 801, 1300, 700); });
+        figure(QStringLiteral("pack 2000 numbers"), [&] { previewPack(variables, 1, 2000); });
+        figure(QStringLiteral("split 1..1000 with deletion"), [&] {
+            previewSplit(variables, {1, 1000, true});
+        });
+        QList<int> unreadable;
+        figure(QStringLiteral("doubtful references of 2000 texts"),
+               [&] { doubtfulReferences(variables, unreadable); });
     }
 
     // What is computed when every paragraph moves, without the files.
@@ -157,6 +185,7 @@ void printRenumberFigures(const QString &path, const QString &folder)
     bench.printTransaction();
     bench.print(QStringLiteral("swap two paragraphs"),
                 [](RenumberCommands &commands) { return commands.Swap(3, 7); });
+    bench.printPreviews();
     bench.printComputing();
     bench.print(QStringLiteral("MasterMix 1..2000"),
                 [](RenumberCommands &commands) { return mix(commands, BigAdventure::Paragraphs); });

@@ -10,6 +10,20 @@
             <numerusform>%n paragraphes importés : %1</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n nouveau(x)</source>
+        <translation>
+            <numerusform>%n nouveau</numerusform>
+            <numerusform>%n nouveaux</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphe(s) remplacé(s)</source>
+        <translation>
+            <numerusform>%n paragraphe remplacé</numerusform>
+            <numerusform>%n paragraphes remplacés</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>AdventureSplit</name>
@@ -49,6 +63,102 @@
     </message>
 </context>
 <context>
+    <name>NumberPreview</name>
+    <message numerus="yes">
+        <source>%n renvoi(s) douteux.</source>
+        <translation>
+            <numerusform>%n renvoi douteux.</numerusform>
+            <numerusform>%n renvois douteux.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RenumberCommands</name>
+    <message numerus="yes">
+        <source>%n renvoi(s) serai(en)t mal réécrit(s). Les corriger d&apos;abord ?</source>
+        <translation>
+            <numerusform>%n renvoi serait mal réécrit. Le corriger d&apos;abord ?</numerusform>
+            <numerusform>%n renvois seraient mal réécrits. Les corriger d&apos;abord ?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RenumberPreview</name>
+    <message numerus="yes">
+        <source>%n paragraphe(s) change(nt) de numéro</source>
+        <translation>
+            <numerusform>%n paragraphe change de numéro</numerusform>
+            <numerusform>%n paragraphes changent de numéro</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphe(s) mélangé(s)</source>
+        <translation>
+            <numerusform>%n paragraphe mélangé</numerusform>
+            <numerusform>%n paragraphes mélangés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reste(nt) fixe(s)</source>
+        <translation>
+            <numerusform>%n reste fixe</numerusform>
+            <numerusform>%n restent fixes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphe(s) exporté(s).</source>
+        <translation>
+            <numerusform>%n paragraphe exporté.</numerusform>
+            <numerusform>%n paragraphes exportés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphe(s) exporté(s) et effacé(s)</source>
+        <translation>
+            <numerusform>%n paragraphe exporté et effacé</numerusform>
+            <numerusform>%n paragraphes exportés et effacés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renvoi(s) dans %1 y mène(nt) encore</source>
+        <translation>
+            <numerusform>%n renvoi dans %1 y mène encore</numerusform>
+            <numerusform>%n renvois dans %1 y mènent encore</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphe(s)</source>
+        <translation>
+            <numerusform>%n paragraphe</numerusform>
+            <numerusform>%n paragraphes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renvoi(s) réécrit(s) dans %1</source>
+        <translation>
+            <numerusform>%n renvoi réécrit dans %1</numerusform>
+            <numerusform>%n renvois réécrits dans %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SearchCommands</name>
+    <message numerus="yes">
+        <source>%n occurrence(s) dans %1.</source>
+        <translation>
+            <numerusform>%n occurrence dans %1.</numerusform>
+            <numerusform>%n occurrences dans %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphe(s)</source>
+        <translation>
+            <numerusform>%n paragraphe</numerusform>
+            <numerusform>%n paragraphes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>StatusLine</name>
     <message numerus="yes">
         <source>%n mot(s)</source>
@@ -62,6 +172,16 @@
         <translation>
             <numerusform>%n renvoi</numerusform>
             <numerusform>%n renvois</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UniformFormatting</name>
+    <message numerus="yes">
+        <source>%n paragraphe(s) change(nt).</source>
+        <translation>
+            <numerusform>%n paragraphe change.</numerusform>
+            <numerusform>%n paragraphes changent.</numerusform>
         </translation>
     </message>
 </context>

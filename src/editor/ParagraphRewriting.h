@@ -17,6 +17,10 @@ class RichTextBox;
 using Rewrite =
     std::function<std::optional<QString>(int n, const QByteArray &rtf, RichTextBox &box)>;
 
+// How many of these texts would be rewritten, without writing. Throws UnreadableTexts.
+int countRewritten(const Variables &variables, const QList<int> &numbers, const Rewrite &rewrite,
+                   const Progress &progress);
+
 // The numbers must be of written paragraphs, and what the author typed must have been saved. What
 // stays Written and fixed is as before. Throws UnreadableTexts when one cannot be read, else
 // UsmiraError, and then nothing has changed. title is what the history calls it.

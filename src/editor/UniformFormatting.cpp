@@ -11,6 +11,23 @@
 
 #include <QCoreApplication>
 
+namespace
+{
+class Words
+{
+    Q_DECLARE_TR_FUNCTIONS(UniformFormatting)
+};
+
+Rewrite rewriteTo(const Variables &variables, const UniformFormatting &formatting)
+{
+    return [&](int n, const QByteArray &rtf, RichTextBox &box) -> std::optional<QString> {
+        box.setRtf(rtf);
+        return makeUniform(box, formatting) ? std::optional(variables.refIndex.at(n))
+                                            : std::nullopt;
+    };
+}
+} // namespace
+
 std::optional<double> typedFontSize(const QString &size)
 {
     constexpr double least = 1;
@@ -43,18 +60,28 @@ bool makeAllUniform(Variables &variables, Prompts &prompts, WorkReport &report,
     if (!formatting.fontName && !formatting.fontSize)
         return true;
     return reportingFailures(prompts, [&] {
-        LongWork work(report, QCoreApplication::translate("UniformFormatting", "Mise en forme..."));
-        const auto rewrite = [&](int n, const QByteArray &rtf,
-                                 RichTextBox &box) -> std::optional<QString> {
-            box.setRtf(rtf);
-            return makeUniform(box, formatting) ? std::optional(variables.refIndex.at(n))
-                                                : std::nullopt;
-        };
+        LongWork work(report, Words::tr("Mise en forme..."));
         const int before = variables.History->newId();
-        rewriteParagraphs(variables,
-                          QCoreApplication::translate("UniformFormatting", "Uniformiser"),
-                          writtenParagraphs(variables), rewrite, work.progress());
+        rewriteParagraphs(variables, Words::tr("Uniformiser"), writtenParagraphs(variables),
+                          rewriteTo(variables, formatting), work.progress());
         announceDone(variables, report, before);
         return true;
     });
+}
+
+QString countedUniform(const Variables &variables, WorkReport &report,
+                       const UniformFormatting &formatting)
+{
+    LongWork work(report, Words::tr("Comptage..."));
+    const bool asked = formatting.fontName || formatting.fontSize;
+    try {
+        const int count = asked ? countRewritten(variables, writtenParagraphs(variables),
+                                                 rewriteTo(variables, formatting), work.progress())
+                                : 0;
+        return count == 0 ? Words::tr("Aucun paragraphe ne change.")
+                          : Words::tr("%n paragraphe(s) change(nt).", nullptr, count);
+    } catch (const UnreadableTexts &unreadable) {
+        return Words::tr("Paragraphes illisibles : %1")
+            .arg(paragraphNames(unreadable.paragraphs()));
+    }
 }

@@ -25,3 +25,7 @@ bool makeUniform(RichTextBox &box, const UniformFormatting &formatting);
 // paragraph is to be shown again. A failure is told, and false.
 bool makeAllUniform(Variables &variables, Prompts &prompts, WorkReport &report,
                     const UniformFormatting &formatting);
+
+// What the author is told of how many paragraphs that would change. Nothing is written.
+QString countedUniform(const Variables &variables, WorkReport &report,
+                       const UniformFormatting &formatting);

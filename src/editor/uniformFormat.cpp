@@ -23,6 +23,11 @@ uniformFormat::uniformFormat(Variables &variables, Prompts &prompts, WorkReport 
     connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
                    [this] { OKButton_Click(); });
     connect(m_ui->CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+    connectGuarded(m_ui->count, &QPushButton::clicked, this, prompts, [this] { countAll(); });
+    for (const QComboBox *box : {m_ui->comboFonts, m_ui->comboSizes})
+        connect(box, &QComboBox::currentTextChanged, this, &uniformFormat::forgetCount);
+    for (const QCheckBox *box : {m_ui->chFonts, m_ui->chSizes})
+        connect(box, &QCheckBox::toggled, this, &uniformFormat::forgetCount);
 }
 
 uniformFormat::~uniformFormat() = default;
@@ -65,12 +70,33 @@ void uniformFormat::OKButton_Click()
         m_prompts.beep(); // the author has not meant the size that is there again
         return;
     }
+    WorkInDialog work(m_report, *m_ui->barWork);
+    if (makeAllUniform(m_variables, m_prompts, work, formatting()))
+        accept();
+}
+
+UniformFormatting uniformFormat::formatting() const
+{
     UniformFormatting formatting;
     if (m_ui->chFonts->isChecked())
         formatting.fontName = m_ui->comboFonts->currentText();
     if (m_ui->chSizes->isChecked())
-        formatting.fontSize = typedFontSize(m_size);
+        formatting.fontSize = typedFontSize(m_ui->comboSizes->currentText());
+    return formatting;
+}
+
+void uniformFormat::countAll()
+{
+    const UniformFormatting wanted = formatting();
+    if (m_ui->chSizes->isChecked() && !wanted.fontSize) {
+        m_ui->preview->say(tr("La taille doit être entre 1 et 1638 points."));
+        return;
+    }
     WorkInDialog work(m_report, *m_ui->barWork);
-    if (makeAllUniform(m_variables, m_prompts, work, formatting))
-        accept();
+    m_ui->preview->say(countedUniform(m_variables, work, wanted));
+}
+
+void uniformFormat::forgetCount()
+{
+    m_ui->preview->say(QString());
 }

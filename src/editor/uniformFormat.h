@@ -25,6 +25,9 @@ private:
     void comboSizes_Click();
     bool checkSize();
     void OKButton_Click();
+    UniformFormatting formatting() const;
+    void countAll();
+    void forgetCount();
 
     Variables &m_variables;
     Prompts &m_prompts;

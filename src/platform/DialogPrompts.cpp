@@ -61,11 +61,18 @@ DialogPrompts::DialogPrompts()
 
 Prompts::Answer DialogPrompts::message(const QString &text, const QString &title, Buttons buttons)
 {
+    return question(text, QString(), title, buttons);
+}
+
+Prompts::Answer DialogPrompts::question(const QString &text, const QString &note,
+                                        const QString &title, Buttons buttons)
+{
     QMessageBox box(QApplication::activeWindow());
     box.setWindowTitle(title);
     // A file name in the text may look like markup.
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
+    box.setInformativeText(note);
     const QList<Answer> answers = answersOf(buttons);
     QList<QPushButton *> shown;
     for (const Answer answer : answers)

@@ -14,6 +14,8 @@ public:
     DialogPrompts();
 
     Answer message(const QString &text, const QString &title, Buttons buttons) override;
+    Answer question(const QString &text, const QString &note, const QString &title,
+                    Buttons buttons) override;
     void beginIn(const QString &folder) override { m_adventureFolder = folder; }
     QString openName(const QString &title, const QString &filter) override;
     QString saveName(const QString &title, const QString &filter, const QString &defaultExtension,

@@ -17,6 +17,14 @@ public:
 
     virtual Answer message(const QString &text, const QString &title, Buttons buttons) = 0;
 
+    // A question with a note below it that says what the answers lead to; it is left out where
+    // there is no room for one.
+    virtual Answer question(const QString &text, const QString & /*note*/, const QString &title,
+                            Buttons buttons)
+    {
+        return message(text, title, buttons);
+    }
+
     // A message that is to be read, but is no failure of the command.
     virtual void notice(const QString &text, const QString &title)
     {

@@ -30,10 +30,9 @@ bool AdventureSplit::Export(const SplitRequest &request)
 
 bool AdventureSplit::Export(const SplitRequest &request, const std::function<QString()> &choose)
 {
-    const QList<int> numbers = writtenNumbers(request);
+    const QList<int> numbers = writtenNumbers(m_variables, request);
     if (numbers.isEmpty()) {
-        m_prompts.message(tr("Tous les paragraphes dans cet intervalle sont vides."), tr("Zut"),
-                          Prompts::Buttons::Ok);
+        m_prompts.message(nothingWritten(), tr("Zut"), Prompts::Buttons::Ok);
         return false;
     }
     const QString path = choose();
@@ -54,14 +53,19 @@ bool AdventureSplit::Export(const SplitRequest &request, const std::function<QSt
 }
 
 // What is asked for above 2000 ends there: no number of its own comes of it.
-QList<int> AdventureSplit::writtenNumbers(const SplitRequest &request) const
+QList<int> AdventureSplit::writtenNumbers(const Variables &variables, const SplitRequest &request)
 {
     const auto [low, high] = std::minmax({roundHalfEven(request.low), roundHalfEven(request.high)});
     QList<int> numbers;
     for (int n = low; n <= std::min(high, Variables::LastParagraph); ++n)
-        if (m_variables.Written.at(n) == 1)
+        if (variables.Written.at(n) == 1)
             numbers.append(n);
     return numbers;
+}
+
+QString AdventureSplit::nothingWritten()
+{
+    return tr("Tous les paragraphes dans cet intervalle sont vides.");
 }
 
 void AdventureSplit::write(const QList<int> &numbers, const QString &path,

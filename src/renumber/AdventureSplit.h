@@ -40,9 +40,12 @@ public:
     // choose gives the file, or an empty name to end the command.
     bool Export(const SplitRequest &request, const std::function<QString()> &choose);
 
+    // The written paragraphs that are asked for, ascending, and what the author is told when there
+    // are none.
+    static QList<int> writtenNumbers(const Variables &variables, const SplitRequest &request);
+    static QString nothingWritten();
+
 private:
-    // Written ones, ascending.
-    QList<int> writtenNumbers(const SplitRequest &request) const;
     void write(const QList<int> &numbers, const QString &path, const Progress &progress) const;
     void remove(const QList<int> &numbers);
 

@@ -1,31 +1,14 @@
 #include "renumber/RenumberCommands.h"
 
 #include "platform/Failures.h"
-#include "renumber/RenumberParagraphs.h"
+#include "renumber/RenumberEffect.h"
 #include "store/AdventureChanges.h"
 #include "store/CommandHistory.h"
-#include "store/LenientNumbers.h"
+#include "store/DamagedTexts.h"
 #include "store/LongWork.h"
+#include "store/references/DoubtfulReferences.h"
 
-namespace
-{
-struct Range {
-    qint64 low;
-    qint64 high;
-};
-
-Range orderedRange(double low, double high)
-{
-    const Range range{roundHalfEven(low), roundHalfEven(high)};
-    return range.low <= range.high ? range : Range{range.high, range.low};
-}
-
-bool isWithin(const Range &range)
-{
-    return range.low >= 1 && range.high <= Variables::LastParagraph;
-}
-
-} // namespace
+#include <algorithm>
 
 RenumberCommands::RenumberCommands(Variables &variables, Prompts &prompts, WorkReport &report)
     : m_variables(variables), m_prompts(prompts), m_report(report)
@@ -34,16 +17,11 @@ RenumberCommands::RenumberCommands(Variables &variables, Prompts &prompts, WorkR
 
 bool RenumberCommands::Swap(double a, double b)
 {
-    const auto isNumber = [](double n) { return n >= 1 && n <= Variables::LastParagraph; };
-    if (!isNumber(a) || !isNumber(b))
-        return refuse(tr("Vous devez spécifier deux chiffres différents "
-                         "entre 1 et %1.")
-                          .arg(Variables::LastParagraph),
-                      tr("C'est la loi"));
-    const int first = roundHalfEven(a);
-    const int second = roundHalfEven(b);
-    return mayMoveFixed(first, second) &&
-           renumber(SwapMap(first, second), tr("Échange %1 et %2").arg(first).arg(second));
+    return carryOut(planSwap(a, b), [this](const NumberPair &numbers) {
+        return mayMoveFixed(numbers.first, numbers.second) &&
+               renumber(SwapMap(numbers.first, numbers.second),
+                        tr("Échange %1 et %2").arg(numbers.first).arg(numbers.second));
+    });
 }
 
 bool RenumberCommands::mayMoveFixed(int a, int b)
@@ -57,78 +35,92 @@ bool RenumberCommands::mayMoveFixed(int a, int b)
 
 bool RenumberCommands::MasterMix(double low, double high, const std::function<double()> &random)
 {
-    const Range range = orderedRange(low, high);
-    if (!isWithin(range))
-        return refuseRange();
-    if (range.high - range.low + 1 <= 3)
-        return refuse(tr("MasterMix n'aura aucun effet si vous Mélangez 3 paragraphes "
-                         "ou moins."),
-                      tr("Songez-y"));
-    const int first = static_cast<int>(range.low);
-    const int last = static_cast<int>(range.high);
-    return renumber(MixMap(first, last, m_variables.Unmixable, random),
-                    tr("MasterMix %1 à %2").arg(first).arg(last));
+    return carryOut(planMix(low, high), [&](const NumberPair &range) {
+        return renumber(MixMap(range.first, range.second, m_variables.Unmixable, random),
+                        tr("MasterMix %1 à %2").arg(range.first).arg(range.second));
+    });
 }
 
 bool RenumberCommands::MoveBlock(double low, double high, double delta, Towards towards)
 {
-    const Range block = orderedRange(low, high);
-    const qint64 distance = roundHalfEven(delta);
-    const bool lower = towards == Towards::Lower;
-    const Range span{lower ? block.low - distance : block.low,
-                     lower ? block.high : block.high + distance};
-    if (!isWithin(span))
-        return refuse(tr("Tous les paragraphes doivent être (et rester) "
-                         "entre 1 et %1.")
-                          .arg(Variables::LastParagraph),
-                      tr("Zut"));
-    if (distance == 0)
-        return refuse(tr("Il ne sert à rien de déplacer de 0 unités."), tr("Zut"));
-    return renumber(
-        BlockMoveMap(static_cast<int>(block.low), static_cast<int>(block.high),
-                     static_cast<int>(distance), towards, m_variables.Unmixable),
-        tr("Déplacement %1 à %2 de %3")
-            .arg(block.low)
-            .arg(block.high)
-            .arg((lower ? QStringLiteral("-") : QStringLiteral("+")) + QString::number(distance)));
+    return carryOut(planMove(low, high, delta, towards), [this](const BlockMove &move) {
+        return renumber(
+            BlockMoveMap(move.low, move.high, move.distance, move.towards, m_variables.Unmixable),
+            tr("Déplacement %1 à %2 de %3")
+                .arg(move.low)
+                .arg(move.high)
+                .arg((move.towards == Towards::Lower ? QStringLiteral("-") : QStringLiteral("+")) +
+                     QString::number(move.distance)));
+    });
 }
 
 bool RenumberCommands::PackHoles(double low, double high)
 {
-    const Range range = orderedRange(low, high);
-    if (!isWithin(range))
-        return refuseRange();
-    // Two numbers are refused too, although the text lets one expect otherwise: required.
-    if (range.high - range.low <= 1)
-        return refuse(tr("L'intervalle doit couvrir au moins 2 paragraphes."), tr("Zut"));
-    const int first = static_cast<int>(range.low);
-    const int last = static_cast<int>(range.high);
-    const std::optional<RenumberMap> map =
-        PackHolesMap(first, last, m_variables.Written, m_variables.Unmixable);
-    return !map || renumber(*map, tr("Combler les Trous %1 à %2").arg(first).arg(last));
+    return carryOut(planPack(low, high), [this](const NumberPair &range) {
+        const std::optional<RenumberMap> map =
+            PackHolesMap(range.first, range.second, m_variables.Written, m_variables.Unmixable);
+        return !map ||
+               renumber(*map, tr("Combler les Trous %1 à %2").arg(range.first).arg(range.second));
+    });
+}
+
+template <typename Plan, typename Action>
+bool RenumberCommands::carryOut(const Planned<Plan> &planned, const Action &action)
+{
+    if (const auto *refusal = std::get_if<Refusal>(&planned)) {
+        m_prompts.message(refusal->text, refusal->title, Prompts::Buttons::Ok);
+        return false;
+    }
+    return action(std::get<Plan>(planned));
 }
 
 bool RenumberCommands::renumber(const RenumberMap &map, const QString &title)
 {
     return reportingFailures(m_prompts, [&] {
+        const std::optional<Garbled> garbled = askAboutGarbled(map);
+        if (!garbled)
+            return false;
         LongWork work(m_report, tr("Renumérotation..."));
         const int before = m_variables.History->newId();
-        RenumberParagraphs(m_variables, map, title, work.progress());
+        RenumberParagraphs(m_variables, map, {title, *garbled}, work.progress());
         setModified(m_variables);
         announceDone(m_variables, m_report, before);
         return true;
     });
 }
 
-bool RenumberCommands::refuse(const QString &text, const QString &title)
+// Nothing: the author goes on with neither.
+std::optional<Garbled> RenumberCommands::askAboutGarbled(const RenumberMap &map)
 {
-    m_prompts.message(text, title, Prompts::Buttons::Ok);
-    return false;
+    const int count = countGarbled(map);
+    if (count == 0)
+        return Garbled::AsTheyStand;
+    const QString question =
+        tr("%n renvoi(s) serai(en)t mal réécrit(s). Les corriger d'abord ?", nullptr, count);
+    switch (m_prompts.message(question, tr("Attention"), Prompts::Buttons::YesNoCancel)) {
+    case Prompts::Answer::Yes:
+        return Garbled::MendedBefore;
+    case Prompts::Answer::No:
+        return Garbled::AsTheyStand;
+    default:
+        return std::nullopt;
+    }
 }
 
-bool RenumberCommands::refuseRange()
+// A text that cannot be read ends the renumbering later.
+int RenumberCommands::countGarbled(const RenumberMap &map) const
 {
-    return refuse(
-        tr("Vous devez spécifier des paragraphes entre 1 et %1.").arg(Variables::LastParagraph),
-        tr("Zut"));
+    const NumberSet moved = movedNumbers(map);
+    QList<int> unreadable;
+    qsizetype count = 0;
+    for (int n = 0; n <= Variables::LastParagraph; ++n) {
+        if (m_variables.Written.at(n) == 0 || !isRewritten(m_variables.refIndex.at(n), moved))
+            continue;
+        const QString text = readablePlainText(m_variables, n, unreadable).value_or(QString());
+        const QList<DoubtfulReference> doubtful =
+            doubtfulReferences(n, text, m_variables.TargetPhrase);
+        count += std::count_if(doubtful.begin(), doubtful.end(),
+                               [](const DoubtfulReference &one) { return one.garbled; });
+    }
+    return static_cast<int>(count);
 }

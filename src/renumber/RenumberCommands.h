@@ -1,7 +1,8 @@
 #pragma once
 
 #include "platform/Prompts.h"
-#include "renumber/MapBuilders.h"
+#include "renumber/RenumberParagraphs.h"
+#include "renumber/RenumberPlans.h"
 #include "store/Variables.h"
 
 #include <QCoreApplication>
@@ -14,8 +15,10 @@ class WorkReport;
 // dialog closes. When a number is refused, the author says No or a file fails, the author has been
 // told, nothing has changed and the dialog stays.
 //
+// Where references would be garbled the author is asked before it begins, after all else, whether
+// they are to be mended first.
+//
 // The current paragraph must have been saved, and its number is to be shown again afterwards.
-// A fraction goes to the nearest whole number, a half to the even one.
 class RenumberCommands
 {
     Q_DECLARE_TR_FUNCTIONS(RenumberCommands)
@@ -23,7 +26,7 @@ class RenumberCommands
 public:
     RenumberCommands(Variables &variables, Prompts &prompts, WorkReport &report);
 
-    // Exchanges two numbers. A fraction is rounded only once it is known to be within 1..2000.
+    // Exchanges two numbers.
     bool Swap(double a, double b);
 
     // Shuffles the numbers between low and high, both of which stay. random gives numbers within
@@ -46,9 +49,11 @@ public:
 private:
     bool MoveBlock(double low, double high, double delta, Towards towards);
     bool mayMoveFixed(int a, int b);
+    template <typename Plan, typename Action>
+    bool carryOut(const Planned<Plan> &planned, const Action &action);
     bool renumber(const RenumberMap &map, const QString &title);
-    bool refuse(const QString &text, const QString &title);
-    bool refuseRange();
+    std::optional<Garbled> askAboutGarbled(const RenumberMap &map);
+    int countGarbled(const RenumberMap &map) const;
 
     Variables &m_variables;
     Prompts &m_prompts;

@@ -4,6 +4,7 @@
 #include "store/LenientNumbers.h"
 #include "store/ParagraphTransaction.h"
 #include "store/ReferenceIndex.h"
+#include "store/references/DoubtfulReferences.h"
 
 #include <algorithm>
 
@@ -28,9 +29,9 @@ QString renumberedEntry(QString entry, const RenumberMap &map)
 class Renumbering
 {
 public:
-    Renumbering(Variables &variables, const RenumberMap &map, const QString &title)
-        : m_variables(variables), m_map(map), m_transaction(variables, {title, map.numbers()}),
-          m_texts(variables.TargetPhrase, map)
+    Renumbering(Variables &variables, const RenumberMap &map, const RenumberWay &way)
+        : m_variables(variables), m_map(map), m_transaction(variables, {way.title, map.numbers()}),
+          m_texts(variables.TargetPhrase, map, way.garbled)
     {
     }
 
@@ -90,18 +91,18 @@ private:
 };
 } // namespace
 
-void RenumberParagraphs(Variables &variables, const RenumberMap &map, const QString &title,
+void RenumberParagraphs(Variables &variables, const RenumberMap &map, const RenumberWay &way,
                         const Progress &progress)
 {
-    Renumbering(variables, map, title).run(progress);
+    Renumbering(variables, map, way).run(progress);
 }
 
 // A moved text is scanned afresh, so that references that the index missed come into it.
 std::optional<TextRenumbering::Text> TextRenumbering::of(int n, const QString &references,
                                                          const std::function<QByteArray()> &rtf)
 {
-    const QString renumbered = renumberedEntry(references, m_map);
-    const bool rewrites = renumbered != references;
+    QString renumbered = renumberedEntry(references, m_map);
+    bool rewrites = renumbered != references;
     if (!rewrites && !m_map.moves(n))
         return std::nullopt;
     try {
@@ -109,10 +110,23 @@ std::optional<TextRenumbering::Text> TextRenumbering::of(int n, const QString &r
     } catch (const UsmiraError &) {
         throw UnreadableTexts({n});
     }
+    if (rewrites && m_garbled == Garbled::MendedBefore && mend()) {
+        const QString scanned = referenceEntry(m_box.text(), m_targetPhrase);
+        renumbered = renumberedEntry(scanned, m_map);
+        rewrites = renumbered != scanned;
+    }
     if (rewrites)
         rewriteReferences(m_box, m_targetPhrase, m_map);
     return Text{m_box.rtf(),
                 m_map.moves(n) ? referenceEntry(m_box.text(), m_targetPhrase) : renumbered};
+}
+
+// Whether there was anything to mend.
+bool TextRenumbering::mend()
+{
+    const QList<Replacement> mends = mendsOfGarbled(m_box.text(), m_targetPhrase);
+    replaceInBox(m_box, mends);
+    return !mends.isEmpty();
 }
 
 // The text changes under the search, which goes on just behind each phrase: also in the digits that

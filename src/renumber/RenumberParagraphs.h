@@ -11,22 +11,32 @@
 
 // The engine under every command that gives paragraphs other numbers.
 
+// What becomes of the references that would be garbled (see isGarbled): they come out as they do,
+// or they are mended first in the texts that are to be rewritten.
+enum class Garbled { AsTheyStand, MendedBefore };
+
+struct RenumberWay {
+    QString title; // what the history calls it
+    Garbled garbled = Garbled::AsTheyStand;
+};
+
 // Gives the written paragraphs the numbers of the map, with their texts, and rewrites the
 // references to them in every text that the reference index shows to have one. The written range
 // goes from the lowest to the highest number with a text afterwards. The fixed mark does not move
 // along: it stays with a number, and goes with the written paragraph that leaves the number.
 //
 // All or nothing: throws UnreadableTexts with every text that it would have to change and that
-// cannot be read, or FileError, and nothing has changed. title is what the history calls it.
-void RenumberParagraphs(Variables &variables, const RenumberMap &map, const QString &title,
+// cannot be read, or FileError, and nothing has changed.
+void RenumberParagraphs(Variables &variables, const RenumberMap &map, const RenumberWay &way,
                         const Progress &progress);
 
 // What the engine does with one text.
 class TextRenumbering
 {
 public:
-    TextRenumbering(const QString &targetPhrase, const RenumberMap &map)
-        : m_targetPhrase(targetPhrase), m_map(map)
+    TextRenumbering(const QString &targetPhrase, const RenumberMap &map,
+                    Garbled garbled = Garbled::AsTheyStand)
+        : m_targetPhrase(targetPhrase), m_map(map), m_garbled(garbled)
     {
     }
 
@@ -42,8 +52,11 @@ public:
                            const std::function<QByteArray()> &rtf);
 
 private:
+    bool mend();
+
     QString m_targetPhrase;
     RenumberMap m_map;
+    Garbled m_garbled;
     HiddenBox m_box;
 };
 

@@ -1,6 +1,7 @@
 #include "renumber/blockMove.h"
 
 #include "platform/Guarded.h"
+#include "renumber/NumberPreview.h"
 #include "renumber/RenumberCommands.h"
 #include "store/LenientNumbers.h"
 #include "ui_blockMove.h"
@@ -16,6 +17,11 @@ blockMove::blockMove(const Variables &variables, Prompts &prompts, RenumberComma
                    [this] { MoveDown_Click(); });
     connectGuarded(m_ui->MoveUp, &QPushButton::clicked, this, prompts, [this] { MoveUp_Click(); });
     Form_Load();
+    new NumberPreview(m_variables, *this, *m_ui->preview, [this] {
+        return previewMove(m_variables, lenientNumber(m_ui->txtLow->text()),
+                           lenientNumber(m_ui->txtHigh->text()),
+                           lenientNumber(m_ui->txtDelta->text()));
+    });
 }
 
 blockMove::~blockMove() = default;

@@ -1,6 +1,7 @@
 #include "renumber/exchangeDlog.h"
 
 #include "platform/Guarded.h"
+#include "renumber/NumberPreview.h"
 #include "renumber/RenumberCommands.h"
 #include "store/LenientNumbers.h"
 #include "ui_exchangeDlog.h"
@@ -15,6 +16,10 @@ exchangeDlog::exchangeDlog(const Variables &variables, Prompts &prompts, Renumbe
     connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
                    [this] { OKButton_Click(); });
     Form_Load();
+    new NumberPreview(m_variables, *this, *m_ui->preview, [this] {
+        return previewSwap(m_variables, lenientNumber(m_ui->txtOne->text()),
+                           lenientNumber(m_ui->txtTwo->text()));
+    });
 }
 
 exchangeDlog::~exchangeDlog() = default;

@@ -1,6 +1,7 @@
 #include "renumber/masterMix.h"
 
 #include "platform/Guarded.h"
+#include "renumber/NumberPreview.h"
 #include "renumber/RenumberCommands.h"
 #include "store/LenientNumbers.h"
 #include "ui_masterMix.h"
@@ -17,6 +18,10 @@ masterMix::masterMix(const Variables &variables, Prompts &prompts, RenumberComma
     connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
                    [this] { OKButton_Click(); });
     Form_Load();
+    new NumberPreview(m_variables, *this, *m_ui->preview, [this] {
+        return previewMix(m_variables, lenientNumber(m_ui->txtLowerLimit->text()),
+                          lenientNumber(m_ui->txtUpperLimit->text()));
+    });
 }
 
 masterMix::~masterMix() = default;

@@ -1,6 +1,7 @@
 #include "renumber/packHoles.h"
 
 #include "platform/Guarded.h"
+#include "renumber/NumberPreview.h"
 #include "renumber/RenumberCommands.h"
 #include "store/LenientNumbers.h"
 #include "ui_packHoles.h"
@@ -15,6 +16,10 @@ packHoles::packHoles(const Variables &variables, Prompts &prompts, RenumberComma
     connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
                    [this] { OKButton_Click(); });
     Form_Load();
+    new NumberPreview(m_variables, *this, *m_ui->preview, [this] {
+        return previewPack(m_variables, lenientNumber(m_ui->txtLow->text()),
+                           lenientNumber(m_ui->txtHigh->text()));
+    });
 }
 
 packHoles::~packHoles() = default;

@@ -2,6 +2,7 @@
 
 #include "platform/Guarded.h"
 #include "renumber/AdventureSplit.h"
+#include "renumber/NumberPreview.h"
 #include "store/LenientNumbers.h"
 #include "store/Variables.h"
 #include "ui_splitFile.h"
@@ -16,6 +17,9 @@ splitFile::splitFile(const Variables &variables, Prompts &prompts, AdventureSpli
     connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
                    [this] { OKButton_Click(); });
     Form_Load();
+    auto *preview = new NumberPreview(m_variables, *this, *m_ui->preview,
+                                      [this] { return previewSplit(m_variables, request()); });
+    connect(m_ui->Murder, &QCheckBox::toggled, preview, &NumberPreview::update);
 }
 
 splitFile::~splitFile() = default;
@@ -27,7 +31,12 @@ void splitFile::Form_Load()
 
 void splitFile::OKButton_Click()
 {
-    if (m_split.Export({lenientNumber(m_ui->txtLow->text()), lenientNumber(m_ui->txtHigh->text()),
-                        m_ui->Murder->isChecked()}))
+    if (m_split.Export(request()))
         accept();
+}
+
+SplitRequest splitFile::request() const
+{
+    return {lenientNumber(m_ui->txtLow->text()), lenientNumber(m_ui->txtHigh->text()),
+            m_ui->Murder->isChecked()};
 }

@@ -5,6 +5,7 @@
 #include <memory>
 
 class AdventureSplit;
+struct SplitRequest;
 struct Variables;
 
 namespace Ui
@@ -24,6 +25,7 @@ public:
 private:
     void Form_Load();
     void OKButton_Click();
+    SplitRequest request() const;
 
     const Variables &m_variables;
     AdventureSplit &m_split;

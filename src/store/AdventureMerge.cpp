@@ -170,12 +170,12 @@ std::optional<AdventureMerge::Collisions> AdventureMerge::askToReplace(const Var
     }
     if (collisions == 0)
         return Collisions::Kept;
-    switch (m_prompts.message(
+    switch (m_prompts.question(
         tr("ATTENTION : %1 paragraphes du fichier à importer ont les mêmes numéros que ceux du "
            "fichier actuel. Voulez-vous REMPLACER les paragraphes de l'aventure actuelle par ceux "
            "de l'aventure importée ?")
             .arg(collisions),
-        tr("Attention !"), Prompts::Buttons::YesNoCancel)) {
+        preview(other), tr("Attention !"), Prompts::Buttons::YesNoCancel)) {
     case Prompts::Answer::Yes:
         return Collisions::Replaced;
     case Prompts::Answer::No:
@@ -185,7 +185,7 @@ std::optional<AdventureMerge::Collisions> AdventureMerge::askToReplace(const Var
     }
 }
 
-void AdventureMerge::importAll(const Variables &other, Collisions collisions)
+QList<int> AdventureMerge::wanted(const Variables &other, Collisions collisions) const
 {
     QList<int> numbers;
     for (int n = 0; n <= Variables::LastParagraph; ++n) {
@@ -193,6 +193,42 @@ void AdventureMerge::importAll(const Variables &other, Collisions collisions)
         if (other.Written.at(n) == 1 && (free || collisions == Collisions::Replaced))
             numbers.append(n);
     }
+    return numbers;
+}
+
+// The first text that cannot be read ends the import, and an empty one does not come.
+AdventureMerge::Arrivals AdventureMerge::arrivals(const Variables &other,
+                                                  Collisions collisions) const
+{
+    Arrivals arrivals;
+    const QList<int> numbers = wanted(other, collisions);
+    QList<int> unreadable;
+    for (const int n : numbers) {
+        const std::optional<QString> text = readablePlainText(other, n, unreadable);
+        if (!text)
+            break;
+        if (!text->isEmpty())
+            ++(m_variables.Written.at(n) == 1 ? arrivals.replaced : arrivals.added);
+    }
+    return arrivals;
+}
+
+QString AdventureMerge::preview(const Variables &other) const
+{
+    const auto added = [](int n) {
+        return n == 0 ? tr("aucun nouveau") : tr("%n nouveau(x)", nullptr, n);
+    };
+    const Arrivals yes = arrivals(other, Collisions::Replaced);
+    const QString replaced = yes.replaced == 0
+                                 ? tr("aucun paragraphe remplacé")
+                                 : tr("%n paragraphe(s) remplacé(s)", nullptr, yes.replaced);
+    return tr("Oui : %1 et %2. Non : %3.")
+        .arg(replaced, added(yes.added), added(arrivals(other, Collisions::Kept).added));
+}
+
+void AdventureMerge::importAll(const Variables &other, Collisions collisions)
+{
+    const QList<int> numbers = wanted(other, collisions);
     Incoming incoming(m_variables, other);
     const int before = m_variables.History->newId();
     QList<int> unreadable; // the one that ended the import

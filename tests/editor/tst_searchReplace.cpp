@@ -6,6 +6,7 @@
 #include "store/ParagraphTexts.h"
 #include "store/WorkingFiles.h"
 #include "support/TestTable.h"
+#include "widgets/PreviewLine.h"
 
 #include <QCheckBox>
 #include <QFile>
@@ -255,8 +256,12 @@ private Q_SLOTS:
         const QByteArray ninth = GetParagraphRtf(search.variables, 9);
         search.fill("loup", "au 2");
         search.tick("chWW");
+        const auto &line = child<PreviewLine>(search.dialog, "preview");
+        search.press("count");
+        QCOMPARE(line.accessibleName(), "4 occurrences dans 2 paragraphes.");
         search.prompts.expect("Remplacements effectués : 4.", "Remplacer Tous");
         search.press("RemplacerTous");
+        QVERIFY(line.accessibleName().isEmpty()); // what was counted is so no more
         QCOMPARE(textOf(search.variables, 2), "Le au 2. Un au 2 ?");
         QCOMPARE(search.box().text(), "Va au au 2, au 2 ou au 9.");
         QCOMPARE(GetParagraphRtf(search.variables, 5), search.box().rtf());

@@ -3,6 +3,7 @@
 #include "richtext/HiddenBox.h"
 #include "store/ParagraphTexts.h"
 #include "support/TestTable.h"
+#include "widgets/PreviewLine.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -35,15 +36,19 @@ private Q_SLOTS:
         WindowFixture fixture(
             AdventureBuilder({"2: x", "5: x", "9: x"}).rawText(2, mixed).rawText(5, uniform));
         const QString unsized = "Garamond";
+        QString counted;
         const auto apply = [&](const char *box, const char *combo, const QString &text) {
             const auto work = [&](QDialog &dialog) {
                 child<QComboBox>(dialog, combo).setCurrentText(text);
                 child<QCheckBox>(dialog, box).setChecked(true);
+                ::click(dialog, "count");
+                counted = child<PreviewLine>(dialog, "preview").accessibleName();
                 ::click(dialog, "OKButton");
             };
             return fixture.inDialog([&] { fixture.trigger("menuComUniform"); }, work);
         };
         QCOMPARE(apply("chFonts", "comboFonts", unsized), "uniformFormat");
+        QCOMPARE(counted, "2 paragraphes changent.");
         HiddenBox box;
         box.setRtf(GetParagraphRtf(fixture.variables, 2));
         box.select(0, box.textLength());
@@ -60,6 +65,7 @@ private Q_SLOTS:
             box.select(0, box.textLength());
             QCOMPARE(box.selFontSize().value_or(0), size);
         }
+        QCOMPARE(counted, "3 paragraphes changent.");
         QCOMPARE(fixture.prompts.beeps(), 2); // and the dialog stayed
     }
 };

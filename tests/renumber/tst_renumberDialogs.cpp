@@ -6,8 +6,11 @@
 #include "store/WorkingFiles.h"
 #include "support/TestTable.h"
 #include "widgets/NumberBox.h"
+#include "widgets/PreviewLine.h"
 
 #include <QCheckBox>
+#include <QClipboard>
+#include <QTreeWidget>
 
 namespace
 {
@@ -108,6 +111,41 @@ private Q_SLOTS:
             QTEST(name, "name");
             QVERIFY(fixture.editorHasFocus() && !fixture.variables.AdventureModified);
         }
+    }
+
+    // "au 026" is doubtful, and garbled with any number that changes in its text.
+    void theLineFollowsTheBoxesAndLeadsToTheDoubtful()
+    {
+        const WindowFixture fixture(
+            AdventureBuilder({"3: Trois, au  9.", "5: Cinq, au 3, au 026.", "9: Neuf."}));
+        inDialog(fixture, "Ctrl+E", [&](const QDialog &dialog) {
+            auto &line = child<PreviewLine>(dialog, "preview");
+            QCOMPARE(line.accessibleName(), "Rien ne change.");
+            const QSize size = dialog.size();
+            fill(dialog, "3|7");
+            QTRY_COMPARE(line.accessibleName(), "1 paragraphe change de numéro ; 1 renvoi réécrit "
+                                                "dans 1 paragraphe. 1 renvoi douteux.");
+            fill(dialog, "3|0");
+            QVERIFY(line.accessibleName().startsWith("Vous devez spécifier deux chiffres"));
+            fill(dialog, "5|9");
+            QVERIFY(line.accessibleName().endsWith(" 1 renvoi douteux."));
+            QCOMPARE(dialog.size(), size);
+            QString copied;
+            QTimer::singleShot(0, &line, [&] {
+                auto *list = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+                auto &rows = child<QTreeWidget>(*list, "doubtful");
+                rows.setFocus();
+                rows.selectAll();
+                QVERIFY(QTest::qWaitForWindowActive(list));
+                QTest::keySequence(&rows, QKeySequence::Copy);
+                copied = QApplication::clipboard()->text();
+                click(*list, "close");
+            });
+            line.setFocus(Qt::TabFocusReason);
+            QTest::keyClick(&line, Qt::Key_Return);
+            QVERIFY2(copied.startsWith("3\tau  9\tIl y a une espace"), qPrintable(copied));
+            QVERIFY(!copied.contains('\n') && dialog.isVisible());
+        });
     }
 
     // Enter in a box either confirms or is refused like a letter.

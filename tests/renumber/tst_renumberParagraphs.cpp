@@ -29,7 +29,7 @@ public:
 
     void renumber(const RenumberMap &map)
     {
-        RenumberParagraphs(variables, map, "MasterMix", [](int, int) {});
+        RenumberParagraphs(variables, map, {"MasterMix", Garbled::AsTheyStand}, [](int, int) {});
         RecomputeWrittenRange(variables);
     }
 

@@ -1,11 +1,11 @@
 #include "editor/references/ReferenceMenu.h"
 
 #include "editor/RtfBox.h"
-#include "editor/references/ReferenceMends.h"
 #include "editor/references/ReferenceUnderlines.h"
 #include "platform/Guarded.h"
 #include "richtext/TextPositions.h"
 #include "store/Variables.h"
+#include "store/references/ReferenceMends.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/references/ReferenceMarks.h"
+#include "store/references/ReferenceMarks.h"
 
 #include <QObject>
 #include <QRectF>

@@ -4,6 +4,7 @@
 #include "editor/search/MatchFinder.h"
 #include "editor/search/TextReplacing.h"
 #include "platform/Failures.h"
+#include "richtext/RichTextBox.h"
 #include "store/AdventureCommands.h"
 #include "store/CommandHistory.h"
 #include "store/DamagedTexts.h"
@@ -56,9 +57,13 @@ SearchCommands::SearchCommands(Variables &variables, Prompts &prompts, Adventure
 bool SearchCommands::isGiven(const QString &text)
 {
     if (text.isEmpty())
-        m_prompts.message(tr("Vous devez chercher pour quelque chose."), tr("Tsé"),
-                          Prompts::Buttons::Ok);
+        m_prompts.message(nothingGiven(), tr("Tsé"), Prompts::Buttons::Ok);
     return !text.isEmpty();
+}
+
+QString SearchCommands::nothingGiven()
+{
+    return tr("Vous devez chercher pour quelque chose.");
 }
 
 QString SearchCommands::textOf(int n) const
@@ -143,6 +148,37 @@ std::optional<int> SearchCommands::replaceAll(const SearchFor &what, const QStri
         return true;
     });
     return done ? std::optional(count) : std::nullopt;
+}
+
+SearchCommands::Count SearchCommands::countAll(const SearchFor &what, const QString &by,
+                                               Where where) const
+{
+    LongWork work(m_report, tr("Recherche..."));
+    const Progress progress = work.progress();
+    Count count;
+    const int current = m_variables.CurrentParagraph;
+    for (int n = 0; n <= Variables::LastParagraph; ++n) {
+        progress(n, Variables::LastParagraph);
+        const bool shown = n == current;
+        if (!shown && (m_variables.Written.at(n) == 0 || where == Where::CurrentParagraph))
+            continue;
+        const QString text = shown ? m_view.editingBox().text() : textOf(n);
+        const auto matches = replacementsOfAll(text, what.text, by, what.options).size();
+        count.matches += static_cast<int>(matches);
+        count.paragraphs += matches > 0 ? 1 : 0;
+    }
+    return count;
+}
+
+QString SearchCommands::countedText(const SearchFor &what, const QString &by, Where where) const
+{
+    if (what.text.isEmpty())
+        return nothingGiven();
+    const Count count = countAll(what, by, where);
+    if (count.matches == 0)
+        return tr("Aucune occurrence.");
+    return tr("%n occurrence(s) dans %1.", nullptr, count.matches)
+        .arg(tr("%n paragraphe(s)", nullptr, count.paragraphs));
 }
 
 QString SearchCommands::replacedText(int count)

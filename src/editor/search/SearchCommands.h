@@ -64,7 +64,19 @@ public:
     enum class Where { CurrentParagraph, Everywhere };
     std::optional<int> replaceAll(const SearchFor &what, const QString &by, Where where);
 
-    // What the author is told of it.
+    // What replaceAll would find, with what is in the box for the current paragraph, saved or not.
+    // A text that cannot be read holds no match.
+    struct Count {
+        int matches = 0;
+        int paragraphs = 0;
+    };
+    Count countAll(const SearchFor &what, const QString &by, Where where) const;
+
+    // What the author is told of it: "5 occurrences dans 3 paragraphes.", or that there is nothing
+    // to search for.
+    QString countedText(const SearchFor &what, const QString &by, Where where) const;
+
+    // What the author is told of what was replaced.
     static QString replacedText(int count);
 
     // The list's lines of paragraph n; one that cannot be read has none, and its number is noted.
@@ -78,6 +90,7 @@ public:
                        const QList<ListedMatch> &matches);
 
 private:
+    static QString nothingGiven();
     QString textOf(int n) const;
     std::optional<FoundMatch> firstMatch(const SearchFor &what, int low, int high) const;
     bool mayErase(const QString &question);

@@ -41,17 +41,6 @@ QList<Replacement> replacementsOfAll(const QString &text, const QString &needle,
     return replacements;
 }
 
-// From the last to the first, so that the positions of those before hold.
-void replaceInBox(RichTextBox &box, const QList<Replacement> &replacements)
-{
-    const RichTextBox::EditStep step(box);
-    for (qsizetype i = replacements.size() - 1; i >= 0; --i) {
-        const Replacement &replacement = replacements.at(i);
-        box.select(static_cast<int>(replacement.position), static_cast<int>(replacement.length));
-        box.setSelText(replacement.text);
-    }
-}
-
 int replaceInParagraphs(Variables &variables, RichTextBox &current, const QString &title,
                         const QList<int> &numbers, const ReplacementsIn &replacementsIn,
                         const Progress &progress)

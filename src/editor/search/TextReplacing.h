@@ -2,6 +2,7 @@
 
 #include "platform/Progress.h"
 #include "richtext/FindText.h"
+#include "richtext/Replacements.h"
 #include "store/Variables.h"
 
 #include <QList>
@@ -9,23 +10,13 @@
 
 class RichTextBox;
 
-// Replacing parts of the texts of paragraphs. Positions are those of RichTextBox.
-
-struct Replacement {
-    qsizetype position;
-    qsizetype length;
-    QString text;
-};
+// Replacing parts of the texts of paragraphs.
 
 // Every match of needle in a text, from the start, to be replaced by another text. The search goes
 // on behind each replacement: what it has brought in is not searched, but counts for whether what
 // follows is a whole word.
 QList<Replacement> replacementsOfAll(const QString &text, const QString &needle, const QString &by,
                                      FindOptions options);
-
-// Puts ascending replacements, made for the box's text, into it as one step of the undo list. Each
-// takes the formatting of the first character that it replaces. Throws LimitError.
-void replaceInBox(RichTextBox &box, const QList<Replacement> &replacements);
 
 // What is to be replaced in the text of paragraph n. Asked more than once for the same text.
 using ReplacementsIn = std::function<QList<Replacement>(int n, const QString &text)>;

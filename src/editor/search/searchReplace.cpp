@@ -38,6 +38,7 @@ searchReplace::searchReplace(Variables &variables, Prompts &prompts, WorkReport 
     connectControls();
     connect(variables.Events.get(), &AdventureEvents::adventureReplaced, this,
             &searchReplace::forgetMatch);
+    connectCount();
 }
 
 searchReplace::~searchReplace() = default;
@@ -51,6 +52,7 @@ void searchReplace::connectControls()
     connectTo(m_ui->Suivant, &searchReplace::Suivant_Click);
     connectTo(m_ui->Remplacer, &searchReplace::Remplacer_Click);
     connectTo(m_ui->RemplacerTous, &searchReplace::RemplacerTous_Click);
+    connectTo(m_ui->count, &searchReplace::countAll);
     connectTo(m_ui->listAll, &searchReplace::listAll_Click);
     connect(m_ui->Fermer, &QPushButton::clicked, this, &searchReplace::Fermer_Click);
     connect(&m_list, &MatchWindow::left, this, &searchReplace::left);
@@ -62,6 +64,20 @@ void searchReplace::connectControls()
     }
     const auto *back = new QShortcut(QKeySequence::Find, &m_list);
     connect(back, &QShortcut::activated, this, &searchReplace::Form_Activate);
+}
+
+// What was counted holds until a field or a text changes.
+void searchReplace::connectCount()
+{
+    for (const QLineEdit *field : {m_ui->txtSearch, m_ui->txtReplace})
+        connect(field, &QLineEdit::textChanged, this, &searchReplace::forgetCount);
+    for (const QCheckBox *box : {m_ui->ch1P, m_ui->chMM, m_ui->chWW})
+        connect(box, &QCheckBox::toggled, this, &searchReplace::forgetCount);
+    const AdventureEvents *events = m_variables.Events.get();
+    connect(events, &AdventureEvents::textsChanged, this, &searchReplace::forgetCount);
+    connect(events, &AdventureEvents::adventureReplaced, this, &searchReplace::forgetCount);
+    connect(m_editor.view.editingBox().document(), &QTextDocument::contentsChanged, this,
+            &searchReplace::forgetCount);
 }
 
 // The focus that a command gives to the box is that of the main window, which stays behind.
@@ -196,13 +212,27 @@ void searchReplace::Remplacer_Click()
 
 void searchReplace::RemplacerTous_Click()
 {
-    using Where = SearchCommands::Where;
-    const std::optional<int> count = m_commands.replaceAll(
-        wanted(), m_ui->txtReplace->text(),
-        m_ui->ch1P->isChecked() ? Where::CurrentParagraph : Where::Everywhere);
+    const std::optional<int> count =
+        m_commands.replaceAll(wanted(), m_ui->txtReplace->text(), where());
     if (count)
         m_prompts.message(SearchCommands::replacedText(*count), tr("Remplacer Tous"),
                           Prompts::Buttons::Ok);
+}
+
+SearchCommands::Where searchReplace::where() const
+{
+    return m_ui->ch1P->isChecked() ? SearchCommands::Where::CurrentParagraph
+                                   : SearchCommands::Where::Everywhere;
+}
+
+void searchReplace::countAll()
+{
+    m_ui->preview->say(m_commands.countedText(wanted(), m_ui->txtReplace->text(), where()));
+}
+
+void searchReplace::forgetCount()
+{
+    m_ui->preview->say(QString());
 }
 
 void searchReplace::Fermer_Click()

@@ -47,17 +47,21 @@ protected:
 
 private:
     void connectControls();
+    void connectCount();
     void run(void (searchReplace::*handler)());
     void txtSearch_Change();
     void Suivant_Click();
     void Remplacer_Click();
     void RemplacerTous_Click();
     void Fermer_Click();
+    void countAll();
+    void forgetCount();
     void listAll_Click();
     void showListed(const ListedMatch &match);
     void replaceListed();
 
     SearchFor wanted() const;
+    SearchCommands::Where where() const;
     void forgetMatch();
     bool matchIsSelected() const;
     void setFound(int position);

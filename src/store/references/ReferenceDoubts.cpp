@@ -1,4 +1,4 @@
-#include "editor/references/ReferenceDoubts.h"
+#include "store/references/ReferenceDoubts.h"
 
 #include <QCoreApplication>
 #include <algorithm>

@@ -1,5 +1,5 @@
-#include "editor/references/ReferenceMends.h"
 #include "store/ReferenceIndex.h"
+#include "store/references/ReferenceMends.h"
 #include "support/TestTable.h"
 
 #include <QRandomGenerator>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editor/references/ReferenceDoubts.h"
+#include "store/references/ReferenceDoubts.h"
 
 #include <QStringView>
 #include <optional>

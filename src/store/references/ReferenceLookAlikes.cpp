@@ -1,4 +1,4 @@
-#include "editor/references/ReferenceLookAlikes.h"
+#include "store/references/ReferenceLookAlikes.h"
 
 #include "platform/Ascii.h"
 

@@ -1,8 +1,8 @@
-#include "editor/references/ReferenceMends.h"
+#include "store/references/ReferenceMends.h"
 
-#include "editor/references/ReferenceLookAlikes.h"
 #include "platform/Ascii.h"
 #include "store/Variables.h"
+#include "store/references/ReferenceLookAlikes.h"
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "editor/references/ReferenceMarks.h"
-#include "editor/search/TextReplacing.h"
+#include "richtext/Replacements.h"
+#include "store/references/ReferenceMarks.h"
 
 // What mends a doubtful reference: some characters of its line replaced by others, and no more of
 // them than has to be. The positions are in the line, ascending; -1 is the break before it, -2 the

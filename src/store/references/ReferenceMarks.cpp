@@ -1,9 +1,9 @@
-#include "editor/references/ReferenceMarks.h"
+#include "store/references/ReferenceMarks.h"
 
-#include "editor/references/ReferenceLookAlikes.h"
 #include "platform/Ascii.h"
 #include "store/LenientNumbers.h"
 #include "store/ReferenceIndex.h"
+#include "store/references/ReferenceLookAlikes.h"
 
 #include <QRegularExpression>
 #include <algorithm>
