@@ -1,5 +1,6 @@
 #include "widgets/PreviewLine.h"
 
+#include <QFocusEvent>
 #include <algorithm>
 
 namespace
@@ -49,4 +50,12 @@ QSize PreviewLine::minimumSizeHint() const
 int PreviewLine::heightForWidth(int width) const
 {
     return std::max(QLabel::heightForWidth(width), m_rows * fontMetrics().lineSpacing());
+}
+
+// The link is all that there is to stop at, and Tab would reach it only at the second time.
+void PreviewLine::focusInEvent(QFocusEvent *event)
+{
+    QLabel::focusInEvent(event);
+    if (event->reason() != Qt::MouseFocusReason && !hasSelectedText())
+        focusNextPrevChild(true);
 }

@@ -27,6 +27,9 @@ public:
 Q_SIGNALS:
     void linkChosen();
 
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+
 private:
     int m_rows = 2;
 };
