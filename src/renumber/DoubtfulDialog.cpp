@@ -2,10 +2,9 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QHeaderView>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
-#include <QShortcut>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -31,8 +30,7 @@ DoubtfulDialog::DoubtfulDialog(const QList<DoubtfulReference> &references, const
     layout->setSpacing(gap);
     layout->addWidget(m_list);
     layout->addWidget(close, 0, Qt::AlignRight);
-    const auto *copying = new QShortcut(QKeySequence::Copy, m_list);
-    connect(copying, &QShortcut::activated, this, &DoubtfulDialog::copy);
+    m_list->installEventFilter(this);
     fill(references, phrase);
     resize(Comfortable.boundedTo(screen()->availableSize()));
 }
@@ -60,6 +58,16 @@ void DoubtfulDialog::fill(const QList<DoubtfulReference> &references, const QStr
     m_list->resizeColumnToContents(1);
     if (!rows.isEmpty())
         m_list->setCurrentItem(rows.first());
+}
+
+// By itself the list copies a single word.
+bool DoubtfulDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool copies = event->type() == QEvent::KeyPress &&
+                        static_cast<QKeyEvent *>(event)->matches(QKeySequence::Copy);
+    if (copies)
+        copy();
+    return copies || QDialog::eventFilter(watched, event);
 }
 
 // In the order of the list, whatever order they were chosen in.

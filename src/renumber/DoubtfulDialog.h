@@ -16,6 +16,9 @@ public:
     DoubtfulDialog(const QList<DoubtfulReference> &references, const QString &phrase,
                    QWidget *parent);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void fill(const QList<DoubtfulReference> &references, const QString &phrase);
     void copy() const;
