@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QTimer>
 #include <algorithm>
+#include <iterator>
 
 NumberPreview::NumberPreview(const Variables &variables, QDialog &dialog, PreviewLine &line,
                              const Preview &preview)
