@@ -63,7 +63,8 @@ private Q_SLOTS:
     {
         const auto swap = [](int a, int b) {
             return Command([a, b](WindowFixture &f) {
-                RenumberParagraphs(f.variables, SwapMap(a, b), "Échange", [](int, int) {});
+                RenumberParagraphs(f.variables, SwapMap(a, b), {"Échange", Garbled::AsTheyStand},
+                                   [](int, int) {});
                 f.window->LoadParg(f.current());
             });
         };
