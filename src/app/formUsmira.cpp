@@ -202,6 +202,7 @@ void formUsmira::connectSearchReplace()
                  [this] { m_searchReplace.searchAgain(); });
     m_menuStates.watch(*m_ui->menuEdit);
     connect(&m_searchReplace, &searchReplace::left, this, &formUsmira::saveOnLeaving);
+    connect(m_ui->rtfBox, &RtfBox::edited, &m_searchReplace, &searchReplace::forgetCount);
 }
 
 void formUsmira::connectMenus()

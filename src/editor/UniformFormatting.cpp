@@ -80,8 +80,7 @@ QString countedUniform(const Variables &variables, WorkReport &report,
                                 : 0;
         return count == 0 ? Words::tr("Aucun paragraphe ne change.")
                           : Words::tr("%n paragraphe(s) change(nt).", nullptr, count);
-    } catch (const UnreadableTexts &unreadable) {
-        return Words::tr("Paragraphes illisibles : %1")
-            .arg(paragraphNames(unreadable.paragraphs()));
+    } catch (const UsmiraError &error) {
+        return failureText(error);
     }
 }

@@ -26,6 +26,7 @@ bool makeUniform(RichTextBox &box, const UniformFormatting &formatting);
 bool makeAllUniform(Variables &variables, Prompts &prompts, WorkReport &report,
                     const UniformFormatting &formatting);
 
-// What the author is told of how many paragraphs that would change. Nothing is written.
+// What the author is told of how many paragraphs that would change, or of why they cannot be.
+// Nothing is written.
 QString countedUniform(const Variables &variables, WorkReport &report,
                        const UniformFormatting &formatting);

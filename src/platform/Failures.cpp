@@ -100,6 +100,11 @@ QString failureText(const QString &words, const UsmiraError &error)
     return below.isEmpty() ? words : words + u'\n' + below;
 }
 
+QString failureText(const UsmiraError &error)
+{
+    return failureText(words(error), error);
+}
+
 QString failureLine(const QString &words, const UsmiraError &error)
 {
     return failureText(words, error).replace(u'\n', u' ');
@@ -109,8 +114,8 @@ void reportFailure(Prompts &prompts, const UsmiraError &error)
 {
     if (dynamic_cast<const NotAllowed *>(&error) != nullptr)
         return;
-    prompts.message(failureText(words(error), error),
-                    QCoreApplication::translate("Failures", "BUG"), Prompts::Buttons::Ok);
+    prompts.message(failureText(error), QCoreApplication::translate("Failures", "BUG"),
+                    Prompts::Buttons::Ok);
 }
 
 void reportUnforeseen(Prompts &prompts)

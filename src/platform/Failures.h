@@ -10,6 +10,9 @@ QString paragraphNames(const QList<int> &paragraphs);
 // what is written, a wrong form in what is read; what the author did not allow is no failure.
 void reportFailure(Prompts &prompts, const UsmiraError &error);
 
+// What the author is told of such a failure.
+QString failureText(const UsmiraError &error);
+
 // The words of a command, and on a line of its own below them which file and why, in French:
 // "/home/moi/Le Loup.usm : le disque est plein.". What is not known is left out.
 QString failureText(const QString &words, const UsmiraError &error);

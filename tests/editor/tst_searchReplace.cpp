@@ -257,6 +257,13 @@ private Q_SLOTS:
         search.fill("loup", "au 2");
         search.tick("chWW");
         const auto &line = child<PreviewLine>(search.dialog, "preview");
+        search.window->LoadParg(9);
+        search.type(" Loup ");
+        search.press("count");
+        QCOMPARE(line.accessibleName(), "5 occurrences dans 3 paragraphes.");
+        search.trigger("menuEditUndo"); // in the box of another paragraph than at first
+        QVERIFY(line.accessibleName().isEmpty());
+        search.window->LoadParg(5);
         search.press("count");
         QCOMPARE(line.accessibleName(), "4 occurrences dans 2 paragraphes.");
         search.prompts.expect("Remplacements effectués : 4.", "Remplacer Tous");
@@ -287,7 +294,10 @@ private Q_SLOTS:
         QFile::remove(WorkingFiles(search.variables).text(9));
         search.variables.Extracted.at(9) = 1;
         search.prompts.expect(attention, "Attention", OkCancel);
-        search.prompts.expect("Erreur de lecture de fichier. Paragraphes illisibles : 9.", "BUG");
+        const QString failure = "Erreur de lecture de fichier. Paragraphes illisibles : 9.";
+        search.press("count");
+        QCOMPARE(child<PreviewLine>(search.dialog, "preview").accessibleName(), failure);
+        search.prompts.expect(failure, "BUG");
         search.press("RemplacerTous");
         QVERIFY(search.box().text().contains("loup") && !search.variables.AdventureModified);
         search.variables.Extracted.at(9) = 0;

@@ -156,17 +156,21 @@ SearchCommands::Count SearchCommands::countAll(const SearchFor &what, const QStr
     LongWork work(m_report, tr("Recherche..."));
     const Progress progress = work.progress();
     Count count;
-    const int current = m_variables.CurrentParagraph;
+    QList<int> unreadable;
     for (int n = 0; n <= Variables::LastParagraph; ++n) {
         progress(n, Variables::LastParagraph);
-        const bool shown = n == current;
+        const bool shown = n == m_variables.CurrentParagraph;
         if (!shown && (m_variables.Written.at(n) == 0 || where == Where::CurrentParagraph))
             continue;
-        const QString text = shown ? m_view.editingBox().text() : textOf(n);
+        const QString text =
+            shown ? m_view.editingBox().text()
+                  : readablePlainText(m_variables, n, unreadable).value_or(QString());
         const auto matches = replacementsOfAll(text, what.text, by, what.options).size();
         count.matches += static_cast<int>(matches);
         count.paragraphs += matches > 0 ? 1 : 0;
     }
+    if (!unreadable.isEmpty())
+        throw UnreadableTexts(unreadable);
     return count;
 }
 
@@ -174,11 +178,17 @@ QString SearchCommands::countedText(const SearchFor &what, const QString &by, Wh
 {
     if (what.text.isEmpty())
         return nothingGiven();
-    const Count count = countAll(what, by, where);
-    if (count.matches == 0)
-        return tr("Aucune occurrence.");
-    return tr("%n occurrence(s) dans %1.", nullptr, count.matches)
-        .arg(tr("%n paragraphe(s)", nullptr, count.paragraphs));
+    try {
+        const Count count = countAll(what, by, where);
+        const QString there = where == Where::CurrentParagraph
+                                  ? tr("le paragraphe %1").arg(m_variables.CurrentParagraph)
+                                  : tr("%n paragraphe(s)", nullptr, count.paragraphs);
+        return count.matches == 0
+                   ? tr("Aucune occurrence.")
+                   : tr("%n occurrence(s) dans %1.", nullptr, count.matches).arg(there);
+    } catch (const UsmiraError &error) {
+        return failureText(error);
+    }
 }
 
 QString SearchCommands::replacedText(int count)

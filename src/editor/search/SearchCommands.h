@@ -65,15 +65,15 @@ public:
     std::optional<int> replaceAll(const SearchFor &what, const QString &by, Where where);
 
     // What replaceAll would find, with what is in the box for the current paragraph, saved or not.
-    // A text that cannot be read holds no match.
+    // Throws UnreadableTexts, as it would replace nothing then.
     struct Count {
         int matches = 0;
         int paragraphs = 0;
     };
     Count countAll(const SearchFor &what, const QString &by, Where where) const;
 
-    // What the author is told of it: "5 occurrences dans 3 paragraphes.", or that there is nothing
-    // to search for.
+    // What the author is told of it: "5 occurrences dans 3 paragraphes.", or why there is nothing
+    // to count.
     QString countedText(const SearchFor &what, const QString &by, Where where) const;
 
     // What the author is told of what was replaced.

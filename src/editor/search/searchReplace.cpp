@@ -66,7 +66,8 @@ void searchReplace::connectControls()
     connect(back, &QShortcut::activated, this, &searchReplace::Form_Activate);
 }
 
-// What was counted holds until a field or a text changes.
+// What was counted holds until a field or a text changes; the window knows when what is in the box
+// does.
 void searchReplace::connectCount()
 {
     for (const QLineEdit *field : {m_ui->txtSearch, m_ui->txtReplace})
@@ -76,8 +77,6 @@ void searchReplace::connectCount()
     const AdventureEvents *events = m_variables.Events.get();
     connect(events, &AdventureEvents::textsChanged, this, &searchReplace::forgetCount);
     connect(events, &AdventureEvents::adventureReplaced, this, &searchReplace::forgetCount);
-    connect(m_editor.view.editingBox().document(), &QTextDocument::contentsChanged, this,
-            &searchReplace::forgetCount);
 }
 
 // The focus that a command gives to the box is that of the main window, which stays behind.

@@ -38,6 +38,9 @@ public:
     // Repeats the search; without a search text the window comes for one.
     void searchAgain();
 
+    // The text in the editing box was changed: what was counted is so no more.
+    void forgetCount();
+
 Q_SIGNALS:
     // The author has gone from here, or from the list, to another window.
     void left();
@@ -55,7 +58,6 @@ private:
     void RemplacerTous_Click();
     void Fermer_Click();
     void countAll();
-    void forgetCount();
     void listAll_Click();
     void showListed(const ListedMatch &match);
     void replaceListed();
