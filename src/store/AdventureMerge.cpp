@@ -196,34 +196,34 @@ QList<int> AdventureMerge::wanted(const Variables &other, Collisions collisions)
     return numbers;
 }
 
-// The first text that cannot be read ends the import, and an empty one does not come.
-AdventureMerge::Arrivals AdventureMerge::arrivals(const Variables &other,
-                                                  Collisions collisions) const
-{
-    Arrivals arrivals;
-    const QList<int> numbers = wanted(other, collisions);
-    QList<int> unreadable;
-    for (const int n : numbers) {
-        const std::optional<QString> text = readablePlainText(other, n, unreadable);
-        if (!text)
-            break;
-        if (!text->isEmpty())
-            ++(m_variables.Written.at(n) == 1 ? arrivals.replaced : arrivals.added);
-    }
-    return arrivals;
-}
-
+// The first text that cannot be read ends the import, and an empty one does not come. With
+// "Non" those that would be replaced are not read.
 QString AdventureMerge::preview(const Variables &other) const
 {
-    const auto added = [](int n) {
+    int replaced = 0;
+    int added = 0;
+    int addedAlone = 0;
+    bool replacing = true;
+    QList<int> unreadable;
+    for (const int n : wanted(other, Collisions::Replaced)) {
+        const bool free = m_variables.Written.at(n) == 0;
+        const std::optional<QString> text = readablePlainText(other, n, unreadable);
+        if (!text && free)
+            break;
+        replacing = replacing && text;
+        if (!text || text->isEmpty())
+            continue;
+        replaced += replacing && !free ? 1 : 0;
+        added += replacing && free ? 1 : 0;
+        addedAlone += free ? 1 : 0;
+    }
+    const auto newOnes = [](int n) {
         return n == 0 ? tr("aucun nouveau") : tr("%n nouveau(x)", nullptr, n);
     };
-    const Arrivals yes = arrivals(other, Collisions::Replaced);
-    const QString replaced = yes.replaced == 0
-                                 ? tr("aucun paragraphe remplacé")
-                                 : tr("%n paragraphe(s) remplacé(s)", nullptr, yes.replaced);
     return tr("Oui : %1 et %2. Non : %3.")
-        .arg(replaced, added(yes.added), added(arrivals(other, Collisions::Kept).added));
+        .arg(replaced == 0 ? tr("aucun paragraphe remplacé")
+                           : tr("%n paragraphe(s) remplacé(s)", nullptr, replaced),
+             newOnes(added), newOnes(addedAlone));
 }
 
 void AdventureMerge::importAll(const Variables &other, Collisions collisions)

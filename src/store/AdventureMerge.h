@@ -31,14 +31,9 @@ public:
 
 private:
     enum class Collisions { Replaced, Kept };
-    struct Arrivals {
-        int replaced = 0;
-        int added = 0;
-    };
 
     std::optional<Collisions> askToReplace(const Variables &other);
     QString preview(const Variables &other) const;
-    Arrivals arrivals(const Variables &other, Collisions collisions) const;
     // What is to come in, ascending.
     QList<int> wanted(const Variables &other, Collisions collisions) const;
     void importAll(const Variables &other, Collisions collisions);

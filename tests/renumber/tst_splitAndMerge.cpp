@@ -95,6 +95,8 @@ private Q_SLOTS:
                     [&](const QList<int> &numbers) { changed = numbers; });
             e.expectQuestion(2, answer);
             e.merge(bytes);
+            QCOMPARE(e.prompts.note(),
+                     "Oui : 1 paragraphe remplacé et 1 nouveau. Non : 1 nouveau.");
             QCOMPARE(e.state(), state);
             QCOMPARE(changed.contains(9), answer != Answer::Cancel);
             QCOMPARE(changed.contains(3), answer == Answer::Yes);
@@ -144,7 +146,8 @@ private Q_SLOTS:
         QVERIFY(e.workingFiles().isEmpty());
     }
 
-    // What stands before it comes in, and what can no longer be read is kept.
+    // What stands before it comes in, and what can no longer be read is kept. Whatever the answer,
+    // the note below the question has said what comes.
     void aTextThatCannotBeReadEndsTheImport()
     {
         Editor e;
@@ -160,6 +163,14 @@ private Q_SLOTS:
             e.state(),
             QString(Untouched).replace("2-5", "2-5*").replace("3! Fin ()", "3 Six au 1 (0001/)"));
         QCOMPARE(e.content("Le Loup (illisible 0003).bin"), "zut");
+        QCOMPARE(e.prompts.note(),
+                 "Oui : 1 paragraphe remplacé et aucun nouveau. Non : aucun nouveau.");
+        Editor kept;
+        kept.expectQuestion(2, Answer::No);
+        kept.merge(AdventureBuilder({"1: x", "2: x", "3: x", "7: x"}).rawText(2, "zut").bytes());
+        QCOMPARE(kept.prompts.note(),
+                 "Oui : aucun paragraphe remplacé et 1 nouveau. Non : 2 nouveaux.");
+        QVERIFY(kept.v.Written.at(1) == 1 && kept.v.Written.at(7) == 1);
     }
 
     void aRangeBecomesAnAdventure()

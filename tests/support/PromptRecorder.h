@@ -27,10 +27,19 @@ public:
 
     int beeps() const { return m_beeps; }
 
+    // What stood below the last question that had a note.
+    const QString &note() const { return m_note; }
+
     // What happens while a box stands.
     std::function<void()> meanwhile = [] {};
 
     Answer message(const QString &text, const QString &title, Buttons buttons) override;
+    Answer question(const QString &text, const QString &note, const QString &title,
+                    Buttons buttons) override
+    {
+        m_note = note;
+        return message(text, title, buttons);
+    }
     QString openName(const QString &title, const QString &filter) override;
     QString saveName(const QString &title, const QString &filter, const QString &defaultExtension,
                      const QString &proposed) override;
@@ -54,5 +63,6 @@ private:
     QList<Box> m_boxes;
     QList<FileDialog> m_fileDialogs;
     QString m_fileKind;
+    QString m_note;
     int m_beeps = 0;
 };
