@@ -5,13 +5,13 @@
 #include "store/ParagraphTexts.h"
 #include "store/Session.h"
 #include "support/AdventureBuilder.h"
+#include "support/TestTable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace
 {
@@ -157,6 +157,30 @@ melanger 4 9
         QVERIFY2(table.endsWith("\r\n1;2;\"Va au 4\"\r\n4;4;\"Va au 9\"\r\n9;9;\"Fin\"\r\n"),
                  qPrintable(table));
         QVERIFY(adventure.workingFiles().isEmpty());
+    }
+
+    // Only in texts that are rewritten: nothing of 5 is.
+    void garbledReferencesAreMendedWhenTheScriptSaysSo()
+    {
+        const QString question = "Attention : 2 renvois seraient mal réécrits. Les corriger "
+                                 "d'abord ?\n";
+        for (const auto &[name, options, first, text, errors] :
+             Table<QStringList, QByteArray, QByteArray, QString>{
+                 {"unasked", {}, "4 5", "Va au 3, au 026 ou au  30", {}},
+                 {"no answer", {}, "3 7", "Va au 3, au 026 ou au  30", question},
+                 {"mended", {"--oui"}, "3 7", "Va au 7, au 26 ou au 30", {}},
+                 {"as they stand", {"--non"}, "3 7", "Va au 7, au 266 ou au 300", {}}}) {
+            TestAdventure adventure;
+            adventure.file("a.usm", AdventureBuilder({"1: Va au 3, au 026 ou au  30", "3: Fin",
+                                                      "5: Va au 026", "7: Fin"})
+                                        .bytes());
+            const QByteArray script = "ouvrir '" + adventure.path("a.usm").toUtf8() +
+                                      "'\nechanger " + first + "\ntexte-brut 1\n";
+            const Outcome outcome = run(adventure, options, script);
+            QCOMPARE(outcome.errors, errors);
+            QCOMPARE(outcome.status, errors.isEmpty() ? 0 : 1);
+            QCOMPARE(outcome.output.trimmed(), errors.isEmpty() ? text : QByteArray());
+        }
     }
 
     void doubtfulReferencesAreListed()
