@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -11,7 +12,7 @@
 namespace
 {
 constexpr int Columns = 3;
-constexpr QSize Comfortable{640, 320};
+constexpr QSize Comfortable{840, 320};
 } // namespace
 
 DoubtfulDialog::DoubtfulDialog(const QList<DoubtfulReference> &references, const QString &phrase,
@@ -42,7 +43,7 @@ void DoubtfulDialog::fill(const QList<DoubtfulReference> &references, const QStr
     m_list->setToolTip(tr("Ctrl+C copie les lignes choisies"));
     m_list->setHeaderLabels({tr("Paragraphe"), tr("Mots"), tr("Raison")});
     m_list->setRootIsDecorated(false);
-    m_list->setWordWrap(true);
+    m_list->header()->setStretchLastSection(false); // a narrow list scrolls to the whole reason
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     QList<QTreeWidgetItem *> rows;
     for (const DoubtfulReference &reference : references) {
@@ -54,8 +55,8 @@ void DoubtfulDialog::fill(const QList<DoubtfulReference> &references, const QStr
         rows.last()->setTextAlignment(2, Qt::AlignLeft | Qt::AlignTop);
     }
     m_list->addTopLevelItems(rows);
-    m_list->resizeColumnToContents(0);
-    m_list->resizeColumnToContents(1);
+    for (int column = 0; column < Columns; ++column)
+        m_list->resizeColumnToContents(column);
     if (!rows.isEmpty())
         m_list->setCurrentItem(rows.first());
 }
