@@ -69,7 +69,9 @@ public:
         figure(QStringLiteral("MasterMix 1..2000"), [&] { previewMix(variables, 1, 2000); });
         figure(QStringLiteral("move a block of 500, both ways"),
                [&] { previewMove(variables, 801, 1300, 700); });
-        figure(QStringLiteral("pack 2000 numbers"), [&] { previewPack(variables, 1, 2000); });
+        Variables holed = variables;
+        holed.Written.at(2) = 0;
+        figure(QStringLiteral("pack 2000 numbers"), [&] { previewPack(holed, 1, 2000); });
         figure(QStringLiteral("split 1..1000 with deletion"), [&] {
             previewSplit(variables, {1, 1000, true});
         });
