@@ -121,12 +121,20 @@ std::optional<TextRenumbering::Text> TextRenumbering::of(int n, const QString &r
                 m_map.moves(n) ? referenceEntry(m_box.text(), m_targetPhrase) : renumbered};
 }
 
-// Whether there was anything to mend.
+// Whether there was anything to mend. One doubt may hide another: without its second blank,
+// "au  1 250" is read with the digits behind it.
 bool TextRenumbering::mend()
 {
-    const QList<Replacement> mends = mendsOfGarbled(m_box.text(), m_targetPhrase);
-    replaceInBox(m_box, mends);
-    return !mends.isEmpty();
+    constexpr int MostDoubts = 4; // of one reference
+    bool mended = false;
+    for (int i = 0; i < MostDoubts; ++i) {
+        const QList<Replacement> mends = mendsOfGarbled(m_box.text(), m_targetPhrase);
+        if (mends.isEmpty())
+            break;
+        replaceInBox(m_box, mends);
+        mended = true;
+    }
+    return mended;
 }
 
 // The text changes under the search, which goes on just behind each phrase: also in the digits that
