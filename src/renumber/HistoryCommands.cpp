@@ -34,7 +34,7 @@ QByteArray storable(const QByteArray &rtf)
 }
 
 // Written texts that cannot be read and make room for others.
-QList<int> lostTexts(Book &now, const Book &then)
+QList<int> lostTexts(BookTexts &now, const BookTexts &then)
 {
     QList<int> lost;
     for (int n = 0; n < NumberMap::count(); ++n) {
@@ -47,7 +47,7 @@ QList<int> lostTexts(Book &now, const Book &then)
 }
 
 // The number that the text of a paragraph had before; without a text, the number stays.
-int followed(int n, const Book &now, const Book &before)
+int followed(int n, const BookTexts &now, const BookTexts &before)
 {
     int number = n;
     for (int k = 0; now.at(n).facts.written && k < NumberMap::count(); ++k)
@@ -117,7 +117,7 @@ std::optional<TakeBack::Edited> HistoryCommands::askAboutEdited(Way way, const S
     if (!asks)
         return TakeBack::Edited::Stay;
     TakeBack trial(m_variables, TakeBack::Edited::Stay);
-    Book book = Book::stored(m_variables);
+    BookTexts book = BookTexts::stored(m_variables);
     for (const Step &step : steps)
         book = trial.before(book, step.file);
     const auto count = static_cast<int>(trial.edited().size());
@@ -147,15 +147,15 @@ void HistoryCommands::apply(Way way, const Steps &steps, TakeBack::Edited edited
     LongWork work(m_report, way == Way::Back ? tr("Annulation...") : tr("Rétablissement..."));
     ParagraphTransaction transaction(m_variables, {});
     TakeBack takeBack(m_variables, edited);
-    Book now = Book::stored(m_variables); // it remembers which texts cannot be read
-    Book book = now;
-    Book *from = &now;
+    BookTexts now = BookTexts::stored(m_variables); // it remembers which texts cannot be read
+    BookTexts book = now;
+    BookTexts *from = &now;
     CommandHistory history = *m_variables.History;
     int id = history.newId();
     int current = m_variables.CurrentParagraph;
     QList<Command> reverse;
     for (const Step &step : steps) {
-        Book before = takeBack.before(*from, step.file);
+        BookTexts before = takeBack.before(*from, step.file);
         reverse.append(noteReverse(step, id++, *from, before));
         current = followed(current, *from, before);
         book = std::move(before);
@@ -179,7 +179,7 @@ void HistoryCommands::apply(Way way, const Steps &steps, TakeBack::Edited edited
 }
 
 // What takes this back in its turn: it leads from the book as it is to the one before the command.
-Command HistoryCommands::noteReverse(const Step &step, int id, Book &from, Book &to) const
+Command HistoryCommands::noteReverse(const Step &step, int id, BookTexts &from, BookTexts &to) const
 {
     HistoryStep reverse;
     reverse.title = step.command.title;
@@ -210,11 +210,11 @@ Command HistoryCommands::noteReverse(const Step &step, int id, Book &from, Book 
 }
 
 // Each number has one origin, so that no two changes are of the same paragraph.
-void HistoryCommands::change(ParagraphTransaction &transaction, const Book &to) const
+void HistoryCommands::change(ParagraphTransaction &transaction, const BookTexts &to) const
 {
     const auto isFixed = [this](int n) { return m_variables.Unmixable.at(n) == 1; };
     for (int n = 0; n < NumberMap::count(); ++n) {
-        const Book::Paragraph &paragraph = to.at(n);
+        const BookTexts::Paragraph &paragraph = to.at(n);
         const ParagraphFacts &facts = paragraph.facts;
         const int from = paragraph.origin;
         const bool leaves = !facts.written && m_variables.Written.at(from) == 1;

@@ -43,8 +43,9 @@ private:
     Steps stepsOf(Way way, qsizetype count) const;
     std::optional<TakeBack::Edited> askAboutEdited(Way way, const Steps &steps);
     void apply(Way way, const Steps &steps, TakeBack::Edited edited);
-    CommandHistory::Command noteReverse(const Step &step, int id, Book &from, Book &to) const;
-    void change(ParagraphTransaction &transaction, const Book &to) const;
+    CommandHistory::Command noteReverse(const Step &step, int id, BookTexts &from,
+                                        BookTexts &to) const;
+    void change(ParagraphTransaction &transaction, const BookTexts &to) const;
     void lose(Way way, const StepLost &lost);
 
     Variables &m_variables;

@@ -17,7 +17,7 @@ const HistoryStep::Paragraph *paragraphOf(const HistoryStep &step, int n)
     return found == step.paragraphs.end() ? nullptr : &found->second;
 }
 
-WrittenRange widened(WrittenRange range, const Book &book)
+WrittenRange widened(WrittenRange range, const BookTexts &book)
 {
     for (int n = 0; n < NumberMap::count(); ++n) {
         if (!book.at(n).facts.written)
@@ -29,9 +29,9 @@ WrittenRange widened(WrittenRange range, const Book &book)
 }
 } // namespace
 
-Book Book::stored(const Variables &variables)
+BookTexts BookTexts::stored(const Variables &variables)
 {
-    Book book;
+    BookTexts book;
     for (int n = 0; n < NumberMap::count(); ++n) {
         Paragraph &paragraph = book.at(n);
         paragraph.facts = {variables.Written.at(n) == 1,
@@ -45,7 +45,7 @@ Book Book::stored(const Variables &variables)
     return book;
 }
 
-const ParagraphFacts &knownFacts(Book::Paragraph &paragraph)
+const ParagraphFacts &knownFacts(BookTexts::Paragraph &paragraph)
 {
     ParagraphFacts &facts = paragraph.facts;
     if (!facts.written || !facts.sha256.isEmpty())
@@ -65,11 +65,11 @@ TakeBack::TakeBack(const Variables &variables, Edited edited)
 {
 }
 
-Book TakeBack::before(Book &book, const std::shared_ptr<StepFile> &file)
+BookTexts TakeBack::before(BookTexts &book, const std::shared_ptr<StepFile> &file)
 {
     const HistoryStep &step = file->step();
     m_otherPhrase = step.targetPhrase != m_variables.TargetPhrase;
-    Book result = book;
+    BookTexts result = book;
     if (step.numbers)
         renumber(book, file, result);
     else
@@ -79,7 +79,7 @@ Book TakeBack::before(Book &book, const std::shared_ptr<StepFile> &file)
 }
 
 // Lists that go by another phrase say nothing.
-bool TakeBack::isAsLeft(Book::Paragraph &paragraph, const ParagraphFacts &left) const
+bool TakeBack::isAsLeft(BookTexts::Paragraph &paragraph, const ParagraphFacts &left) const
 {
     const ParagraphFacts &facts = paragraph.facts;
     if (facts.written != left.written)
@@ -89,27 +89,28 @@ bool TakeBack::isAsLeft(Book::Paragraph &paragraph, const ParagraphFacts &left) 
 }
 
 // The text that paragraph n had; its origin is not known here.
-Book::Paragraph TakeBack::restored(const std::shared_ptr<StepFile> &file, int n) const
+BookTexts::Paragraph TakeBack::restored(const std::shared_ptr<StepFile> &file, int n) const
 {
     const HistoryStep::Paragraph *paragraph = paragraphOf(file->step(), n);
     if (paragraph == nullptr)
         throw StepLost(file->path());
-    Book::Paragraph result{paragraph->before, [file, n] { return file->textBefore(n); }, n, false};
+    BookTexts::Paragraph result{paragraph->before, [file, n] { return file->textBefore(n); }, n,
+                                false};
     if (m_otherPhrase && paragraph->before.written)
         result.facts.references =
             referenceEntry(rtfToPlainText(file->textBefore(n)), m_variables.TargetPhrase);
     return result;
 }
 
-void TakeBack::renumber(Book &book, const std::shared_ptr<StepFile> &file, Book &result)
+void TakeBack::renumber(BookTexts &book, const std::shared_ptr<StepFile> &file, BookTexts &result)
 {
     const HistoryStep &step = file->step();
     const RenumberMap back(inverseOf(*step.numbers));
     TextRenumbering texts(m_variables.TargetPhrase, back);
     QList<int> unreadable;
     for (int n = 0; n < NumberMap::count(); ++n) {
-        Book::Paragraph &now = book.at(n);
-        Book::Paragraph &then = result.at(back.of(n));
+        BookTexts::Paragraph &now = book.at(n);
+        BookTexts::Paragraph &then = result.at(back.of(n));
         const HistoryStep::Paragraph *paragraph = paragraphOf(step, n);
         then = now;
         try {
@@ -130,7 +131,8 @@ void TakeBack::renumber(Book &book, const std::shared_ptr<StepFile> &file, Book 
     takeBackMarks(book, step, result);
 }
 
-void TakeBack::takeBackMarks(const Book &book, const HistoryStep &step, Book &result) const
+void TakeBack::takeBackMarks(const BookTexts &book, const HistoryStep &step,
+                             BookTexts &result) const
 {
     for (int n = 0; n < NumberMap::count(); ++n) {
         const int left = step.numbers->at(n);
@@ -142,10 +144,11 @@ void TakeBack::takeBackMarks(const Book &book, const HistoryStep &step, Book &re
     }
 }
 
-void TakeBack::restoreTexts(Book &book, const std::shared_ptr<StepFile> &file, Book &result)
+void TakeBack::restoreTexts(BookTexts &book, const std::shared_ptr<StepFile> &file,
+                            BookTexts &result)
 {
     for (const auto &[n, paragraph] : file->step().paragraphs) {
-        Book::Paragraph &now = book.at(n);
+        BookTexts::Paragraph &now = book.at(n);
         const bool edited =
             now.facts.fixed != paragraph.after.fixed || !isAsLeft(now, paragraph.after);
         if (edited)
@@ -160,7 +163,7 @@ void TakeBack::restoreTexts(Book &book, const std::shared_ptr<StepFile> &file, B
 }
 
 // No session names a step 0, so that what a kill leaves of the file goes at the next start.
-Book::Paragraph TakeBack::rewritten(const QByteArray &rtf)
+BookTexts::Paragraph TakeBack::rewritten(const QByteArray &rtf)
 {
     if (!m_rewritten) {
         makeSessionFolder(m_variables.WorkingFolder);

@@ -10,7 +10,7 @@ struct Variables;
 
 // The texts, marks and lists of a whole adventure as they are, or as they were before commands that
 // are taken back one after the other. No text is in memory: each is read where it lies.
-struct Book {
+struct BookTexts {
     struct Paragraph {
         ParagraphFacts facts;             // the checksum is empty until it is asked for
         std::function<QByteArray()> text; // reads it, when it is written. Throws UsmiraError.
@@ -18,7 +18,7 @@ struct Book {
         bool asStored = true;             // its text is the one that is stored there
     };
     // As it is stored now.
-    static Book stored(const Variables &variables);
+    static BookTexts stored(const Variables &variables);
 
     Paragraph &at(int n) { return paragraphs.at(n); }
     const Paragraph &at(int n) const { return paragraphs.at(n); }
@@ -28,7 +28,7 @@ struct Book {
 };
 
 // The same with the checksum of its text. One that cannot be read has a checksum that no text has.
-const ParagraphFacts &knownFacts(Book::Paragraph &paragraph);
+const ParagraphFacts &knownFacts(BookTexts::Paragraph &paragraph);
 
 // Takes commands back in a book, from the newest to the oldest; nothing that is stored changes.
 //
@@ -47,7 +47,7 @@ public:
     // The book before the command. Checksums that are asked for stay in book. Throws StepLost; and
     // UnreadableTexts when a text that cannot be read would have to be rewritten. What comes of it
     // is read through this object.
-    Book before(Book &book, const std::shared_ptr<StepFile> &file);
+    BookTexts before(BookTexts &book, const std::shared_ptr<StepFile> &file);
 
     // The numbers, as stored now, of those that were edited since a command that was no
     // renumbering; ascending.
@@ -56,12 +56,12 @@ public:
 private:
     using StepParagraph = HistoryStep::Paragraph;
 
-    bool isAsLeft(Book::Paragraph &paragraph, const ParagraphFacts &left) const;
-    Book::Paragraph restored(const std::shared_ptr<StepFile> &file, int n) const;
-    void renumber(Book &book, const std::shared_ptr<StepFile> &file, Book &result);
-    void takeBackMarks(const Book &book, const HistoryStep &step, Book &result) const;
-    void restoreTexts(Book &book, const std::shared_ptr<StepFile> &file, Book &result);
-    Book::Paragraph rewritten(const QByteArray &rtf);
+    bool isAsLeft(BookTexts::Paragraph &paragraph, const ParagraphFacts &left) const;
+    BookTexts::Paragraph restored(const std::shared_ptr<StepFile> &file, int n) const;
+    void renumber(BookTexts &book, const std::shared_ptr<StepFile> &file, BookTexts &result);
+    void takeBackMarks(const BookTexts &book, const HistoryStep &step, BookTexts &result) const;
+    void restoreTexts(BookTexts &book, const std::shared_ptr<StepFile> &file, BookTexts &result);
+    BookTexts::Paragraph rewritten(const QByteArray &rtf);
 
     const Variables &m_variables;
     const Edited m_behaviour;
