@@ -7,8 +7,8 @@
 #include "editor/search/SearchCommands.h"
 #include "platform/SafeFile.h"
 #include "renumber/AdventureSplit.h"
-#include "renumber/HistoryCommands.h"
 #include "renumber/RenumberCommands.h"
+#include "renumber/history/HistoryCommands.h"
 #include "store/AdventureMerge.h"
 #include "store/WorkingFiles.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "renumber/HistoryCommands.h"
+#include "renumber/history/HistoryCommands.h"
 
 #include <QCoreApplication>
 

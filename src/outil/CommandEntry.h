@@ -4,8 +4,8 @@
 #include "editor/search/SearchCommands.h"
 #include "outil/HeadlessView.h"
 #include "renumber/AdventureSplit.h"
-#include "renumber/HistoryCommands.h"
 #include "renumber/RenumberCommands.h"
+#include "renumber/history/HistoryCommands.h"
 #include "store/AdventureCommands.h"
 #include "store/AdventureMerge.h"
 

@@ -2,8 +2,8 @@
 #include "outil/CommandEntry.h"
 #include "outil/Commands.h"
 #include "platform/SafeFile.h"
-#include "renumber/HistoryCommands.h"
-#include "renumber/NumberTable.h"
+#include "renumber/history/HistoryCommands.h"
+#include "renumber/history/NumberTable.h"
 #include "store/ExportTarget.h"
 
 #include <algorithm>

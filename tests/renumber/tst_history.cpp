@@ -2,7 +2,7 @@
 #include "convert/rtf/SingleParagraph.h"
 #include "editor/UniformFormatting.h"
 #include "outil/CommandEntry.h"
-#include "renumber/NumberTable.h"
+#include "renumber/history/NumberTable.h"
 #include "store/AdventureChanges.h"
 #include "store/AdventureEvents.h"
 #include "store/ParagraphStore.h"

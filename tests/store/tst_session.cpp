@@ -1,6 +1,6 @@
 #include "outil/HeadlessView.h"
-#include "renumber/HistoryCommands.h"
 #include "renumber/RenumberCommands.h"
+#include "renumber/history/HistoryCommands.h"
 #include "richtext/HiddenBox.h"
 #include "richtext/RtfPlainText.h"
 #include "store/AdventureChanges.h"

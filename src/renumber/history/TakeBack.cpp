@@ -1,4 +1,4 @@
-#include "renumber/TakeBack.h"
+#include "renumber/history/TakeBack.h"
 
 #include "renumber/RenumberParagraphs.h"
 #include "richtext/RtfPlainText.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Prompts.h"
-#include "renumber/TakeBack.h"
+#include "renumber/history/TakeBack.h"
 #include "store/CommandHistory.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "renumber/HistoryCommands.h"
+#include "renumber/history/HistoryCommands.h"
 
 #include "platform/Failures.h"
 #include "richtext/HiddenBox.h"

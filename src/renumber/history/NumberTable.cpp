@@ -1,4 +1,4 @@
-#include "renumber/NumberTable.h"
+#include "renumber/history/NumberTable.h"
 
 #include "store/CommandHistory.h"
 #include "store/Variables.h"
