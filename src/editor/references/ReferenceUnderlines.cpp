@@ -3,6 +3,7 @@
 #include "editor/RtfBox.h"
 #include "store/AdventureEvents.h"
 #include "store/Variables.h"
+#include "widgets/Shade.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
@@ -25,13 +26,6 @@ struct ReadLine : QTextBlockUserData {
 };
 
 constexpr double faint = 0.45; // of the text's colour
-
-QColor shade(const QPalette &palette, double share)
-{
-    QColor colour = palette.color(QPalette::Text);
-    colour.setAlphaF(static_cast<float>(share));
-    return colour;
-}
 
 QColor doubtColour(const QPalette &palette)
 {
