@@ -1,10 +1,9 @@
 #include "editor/FirstWords.h"
 #include "outil/CommandEntry.h"
 #include "outil/Commands.h"
-#include "platform/SafeFile.h"
+#include "outil/Script.h"
 #include "renumber/history/HistoryCommands.h"
 #include "renumber/history/NumberTable.h"
-#include "store/ExportTarget.h"
 
 #include <algorithm>
 
@@ -50,19 +49,32 @@ QByteArray historique(CommandServices &script, const QStringList & /*arguments*/
         lines += historyLine(command, Commands::tr("annulée"));
     const QList<CommandHistory::Command> &done = history.done();
     for (auto command = done.rbegin(); command != done.rend(); ++command)
-        lines += historyLine(*command, command->kept ? Commands::tr("faite")
-                                                     : Commands::tr("faite pour de bon"));
+        lines += historyLine(*command, command->kept() ? Commands::tr("faite")
+                                                       : Commands::tr("faite pour de bon"));
     return lines;
+}
+
+// The point behind the command with this ID; 0 is the opening.
+qsizetype pointOf(const CommandHistory &history, const QString &word)
+{
+    const QList<CommandHistory::Command> &done = history.done();
+    for (qsizetype i = 0; i < done.size(); ++i)
+        if (word == QString::number(done.at(i).id))
+            return i + 1;
+    if (word != QStringLiteral("0"))
+        throw UsageError(Commands::tr("0 ou ID d'une commande faite attendu : %1").arg(word));
+    return 0;
 }
 
 QByteArray table(CommandServices &script, const QStringList &arguments)
 {
     const Variables &variables = script.variables;
-    refuseOwnFiles(variables, arguments.first());
-    const QList<NumberRow> rows = numberRows(variables, 0, variables.History->done().size());
-    writeWholeFile(arguments.first(),
-                   numberCsv(rows, [&](int n) { return firstWords(variables, n); }),
-                   Durability::Full, Links::Follow);
+    const CommandHistory &history = *variables.History;
+    const QList<NumberRow> rows = numberRows(
+        variables, pointOf(history, arguments.value(1, QStringLiteral("0"))),
+        arguments.size() > 2 ? pointOf(history, arguments.at(2)) : history.done().size());
+    saveNumberCsv(variables, arguments.first(),
+                  numberCsv(rows, [&](int n) { return firstWords(variables, n); }));
     return {};
 }
 } // namespace
@@ -80,9 +92,9 @@ std::vector<CommandEntry> historyEntries()
          QT_TRANSLATE_NOOP("Commands", "liste les commandes : ID, heure, titre, paragraphes "
                                        "changés, numéros changés, état"),
          true, &historique},
-        {"table", "FICHIER.csv",
-         QT_TRANSLATE_NOOP("Commands", "écrit l'ancien et le nouveau numéro de chaque paragraphe "
-                                       "depuis l'ouverture"),
+        {"table", "FICHIER.csv [DE] [A]",
+         QT_TRANSLATE_NOOP("Commands", "écrit l'ancien et le nouveau numéro de chaque paragraphe ; "
+                                       "DE et A : 0 (l'ouverture) ou un ID"),
          true, &table},
     };
 }

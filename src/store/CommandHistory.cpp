@@ -36,7 +36,7 @@ QList<Command> wholeOf(const WorkingFiles &files, const QList<int> &ids)
 Command CommandHistory::commandOf(int id, const HistoryStep &step, qint64 bytes)
 {
     return {id,           step.title, step.time, changedParagraphs(step), movedParagraphs(step),
-            step.numbers, bytes,      true};
+            step.numbers, bytes,      Step::Kept};
 }
 
 void CommandHistory::add(const Command &command)
@@ -74,7 +74,7 @@ void CommandHistory::append(QList<Command> &commands, const Command &command)
 {
     m_lastId = std::max(m_lastId, command.id);
     commands.append(command);
-    if (!command.kept)
+    if (!command.kept())
         lose(command.id);
 }
 
@@ -85,8 +85,11 @@ void CommandHistory::lose(int id)
                                        [id](const Command &command) { return command.id == id; });
         if (lost == commands->end())
             continue;
-        for (auto command = commands->begin(); command != lost + 1; ++command)
-            command->kept = false;
+        if (lost->kept())
+            lost->step = Step::Spoilt;
+        for (auto command = commands->begin(); command != lost; ++command)
+            if (command->kept())
+                command->step = Step::Blocked;
     }
 }
 
@@ -97,26 +100,38 @@ void CommandHistory::dropOldest()
     int steps = 0;
     for (QList<Command> *commands : {&m_undone, &m_done}) {
         for (auto command = commands->rbegin(); command != commands->rend(); ++command) {
-            if (!command->kept)
+            if (!command->kept())
                 break;
             bytes += command->bytes;
             if (++steps > MostKept || bytes > LargestHistory)
-                command->kept = false;
+                command->step = Step::TooOld;
         }
     }
 }
 
 std::optional<Command> CommandHistory::lastKept(const QList<Command> &commands)
 {
-    return !commands.isEmpty() && commands.last().kept ? std::optional(commands.last())
-                                                       : std::nullopt;
+    return !commands.isEmpty() && commands.last().kept() ? std::optional(commands.last())
+                                                         : std::nullopt;
+}
+
+int CommandHistory::countDownTo(const QList<Command> &commands, int id)
+{
+    int count = 0;
+    for (auto command = commands.rbegin(); command != commands.rend() && command->kept();
+         ++command) {
+        ++count;
+        if (command->id == id)
+            return count;
+    }
+    return 0;
 }
 
 QList<int> CommandHistory::keptIds(const QList<Command> &commands)
 {
     QList<int> ids;
     for (const Command &command : commands)
-        if (command.kept)
+        if (command.kept())
             ids.append(command.id);
     return ids;
 }
@@ -131,7 +146,7 @@ void announceDone(const Variables &variables, WorkReport &report, int newId, con
         if (words.isEmpty())
             told.append(
                 QCoreApplication::translate("CommandHistory", "%1 : fait.").arg(command.title));
-        told.append(command.kept
+        told.append(command.kept()
                         ? QCoreApplication::translate("CommandHistory", "Ctrl+Alt+Z l'annule.")
                         : QCoreApplication::translate(
                               "CommandHistory", "Cette commande ne pourra pas être annulée."));

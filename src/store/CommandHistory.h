@@ -10,6 +10,15 @@ struct Variables;
 class CommandHistory
 {
 public:
+    // What has become of a step: it is there, or the command cannot be taken back (or done once
+    // more) any more, and this is why.
+    enum class Step {
+        Kept,
+        TooOld, // there are enough newer ones
+        Unwritten,
+        Spoilt,  // it was there, and is no good any more
+        Blocked, // it comes behind one that is not kept either
+    };
     struct Command {
         int id = 0; // also that of its step
         QString title;
@@ -17,8 +26,9 @@ public:
         int changed = 0; // paragraphs with another text, number, mark or list
         int moved = 0;   // of them those with another number
         std::optional<NumberMap> numbers;
-        qint64 bytes = 0;  // of its step
-        bool kept = false; // the step is there
+        qint64 bytes = 0; // of its step
+        Step step = Step::Unwritten;
+        bool kept() const { return step == Step::Kept; }
         bool operator==(const Command &) const = default;
     };
     static Command commandOf(int id, const HistoryStep &step, qint64 bytes);
@@ -31,6 +41,11 @@ public:
     // The command that is taken back next, or done once more; nothing when none can be.
     std::optional<Command> nextToTakeBack() const { return lastKept(m_done); }
     std::optional<Command> nextToRedo() const { return lastKept(m_undone); }
+
+    // How many commands are taken back, or done once more, down to this one and with it; 0 when
+    // that cannot be.
+    int countToTakeBack(int id) const { return countDownTo(m_done, id); }
+    int countToRedo(int id) const { return countDownTo(m_undone, id); }
 
     // An id that no command had yet.
     int newId() const { return m_lastId + 1; }
@@ -56,6 +71,7 @@ public:
 
 private:
     static std::optional<Command> lastKept(const QList<Command> &commands);
+    static int countDownTo(const QList<Command> &commands, int id);
     static QList<int> keptIds(const QList<Command> &commands);
     void append(QList<Command> &commands, const Command &command);
     void dropOldest();

@@ -33,7 +33,7 @@ CommandHistory::Command noteStep(const Variables &variables, int id, HistoryStep
         command = CommandHistory::commandOf(id, step, size);
     } catch (const UsmiraError &) {
         command = CommandHistory::commandOf(id, step, 0);
-        command.kept = false;
+        command.step = CommandHistory::Step::Unwritten;
     }
     return command;
 }

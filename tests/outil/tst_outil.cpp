@@ -145,7 +145,7 @@ melanger 4 9
         adventure.file("a.usm", AdventureBuilder({"1: Va au 4", "4!: Va au 9", "9: Fin"}).bytes());
         const QByteArray script = "ouvrir '@a.usm'\nechanger 1 2\nechanger 4 9\nenregistrer\n"
                                   "annuler\nretablir\nannuler 1\nmene 4\nhistorique\nretablir\n"
-                                  "table '@t.csv'\nannuler 9\n";
+                                  "table '@t.csv'\ntable '@back.csv' 7 0\nannuler 9\n";
         const QByteArray folder = adventure.path("./").toUtf8();
         const Outcome outcome = run(adventure, {"--oui"}, QByteArray(script).replace('@', folder));
         QString lines = QString::fromUtf8(outcome.output);
@@ -156,6 +156,7 @@ melanger 4 9
         const QString table = QString::fromUtf8(adventure.content("t.csv"));
         QVERIFY2(table.endsWith("\r\n1;2;\"Va au 4\"\r\n4;4;\"Va au 9\"\r\n9;9;\"Fin\"\r\n"),
                  qPrintable(table));
+        QVERIFY(adventure.content("back.csv").contains("\n2;1;\"Va au 4\"\r\n"));
         QVERIFY(adventure.workingFiles().isEmpty());
     }
 

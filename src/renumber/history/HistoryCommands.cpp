@@ -16,17 +16,6 @@ using Command = CommandHistory::Command;
 
 namespace
 {
-qsizetype countDownTo(const QList<Command> &done, int id)
-{
-    qsizetype count = 0;
-    for (auto command = done.rbegin(); command != done.rend() && command->kept; ++command) {
-        ++count;
-        if (command->id == id)
-            return count;
-    }
-    return 0;
-}
-
 // Working files hold RTF, also where a file of an older version had an empty text.
 QByteArray storable(const QByteArray &rtf)
 {
@@ -72,18 +61,20 @@ bool HistoryCommands::redo()
     return m_variables.History->nextToRedo() && run(Way::Again, 1);
 }
 
-bool HistoryCommands::canTakeBackTo(int id) const
-{
-    return countDownTo(m_variables.History->done(), id) > 0;
-}
-
 bool HistoryCommands::takeBackTo(int id)
 {
-    return canTakeBackTo(id) && run(Way::Back, countDownTo(m_variables.History->done(), id));
+    return run(Way::Back, m_variables.History->countToTakeBack(id));
 }
 
-bool HistoryCommands::run(Way way, qsizetype count)
+bool HistoryCommands::redoTo(int id)
 {
+    return run(Way::Again, m_variables.History->countToRedo(id));
+}
+
+bool HistoryCommands::run(Way way, int count)
+{
+    if (count == 0)
+        return false;
     return reportingFailures(m_prompts, [&] {
         try {
             const Steps steps = stepsOf(way, count);
@@ -98,7 +89,7 @@ bool HistoryCommands::run(Way way, qsizetype count)
     });
 }
 
-HistoryCommands::Steps HistoryCommands::stepsOf(Way way, qsizetype count) const
+HistoryCommands::Steps HistoryCommands::stepsOf(Way way, int count) const
 {
     const CommandHistory &history = *m_variables.History;
     const QList<Command> &commands = way == Way::Back ? history.done() : history.undone();
@@ -170,9 +161,19 @@ void HistoryCommands::apply(Way way, const Steps &steps, TakeBack::Edited edited
     transaction.commit(history);
     kept.textsAreReplaced();
     m_variables.CurrentParagraph = static_cast<qint16>(current);
+    tell(way, steps, reverse.last().kept());
+}
+
+void HistoryCommands::tell(Way way, const Steps &steps, bool reversible) const
+{
     QString told = (way == Way::Back ? tr("Annulé : %1.") : tr("Rétabli : %1."))
                        .arg(steps.last().command.title);
-    if (reverse.last().kept)
+    const auto more = static_cast<int>(steps.size()) - 1;
+    if (more > 0)
+        told = (way == Way::Back ? tr("Annulé : %1, et %n commande(s) d'après.", nullptr, more)
+                                 : tr("Rétabli : %1, et %n commande(s) d'avant.", nullptr, more))
+                   .arg(steps.last().command.title);
+    if (reversible)
         told += u' ' + (way == Way::Back ? tr("Ctrl+Alt+Y rétablit la commande.")
                                          : tr("Ctrl+Alt+Z annule la commande."));
     m_report.announce(told);

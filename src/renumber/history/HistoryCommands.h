@@ -27,9 +27,10 @@ public:
     bool takeBack();
     // All commands down to this one, and it, at once.
     bool takeBackTo(int id);
-    bool canTakeBackTo(int id) const;
     // The command that was taken back last.
     bool redo();
+    // All that were taken back since this one, and it, at once.
+    bool redoTo(int id);
 
 private:
     enum class Way { Back, Again };
@@ -39,13 +40,14 @@ private:
     };
     using Steps = QList<Step>; // in the order in which they are taken back
 
-    bool run(Way way, qsizetype count);
-    Steps stepsOf(Way way, qsizetype count) const;
+    bool run(Way way, int count);
+    Steps stepsOf(Way way, int count) const;
     std::optional<TakeBack::Edited> askAboutEdited(Way way, const Steps &steps);
     void apply(Way way, const Steps &steps, TakeBack::Edited edited);
     CommandHistory::Command noteReverse(const Step &step, int id, BookTexts &from,
                                         BookTexts &to) const;
     void change(ParagraphTransaction &transaction, const BookTexts &to) const;
+    void tell(Way way, const Steps &steps, bool reversible) const;
     void lose(Way way, const StepLost &lost);
 
     Variables &m_variables;

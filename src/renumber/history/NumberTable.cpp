@@ -1,6 +1,8 @@
 #include "renumber/history/NumberTable.h"
 
+#include "platform/SafeFile.h"
 #include "store/CommandHistory.h"
+#include "store/ExportTarget.h"
 #include "store/Variables.h"
 
 #include <QCoreApplication>
@@ -8,14 +10,14 @@
 
 namespace
 {
-// From one point to a later one.
-NumberMap numbersBetween(const CommandHistory &history, qsizetype from, qsizetype to)
+// At a point, of each number now.
+NumberMap numbersAt(const CommandHistory &history, qsizetype point)
 {
     NumberMap numbers = unmovedNumbers();
-    for (qsizetype i = from; i < to; ++i)
+    for (qsizetype i = point; i < history.done().size(); ++i)
         if (const auto &moved = history.done().at(i).numbers)
             numbers = composed(numbers, *moved);
-    return numbers;
+    return inverseOf(numbers);
 }
 
 // Quotation marks in it are doubled.
@@ -27,31 +29,38 @@ QString quoted(QString text)
 
 QList<NumberRow> numberRows(const Variables &variables, qsizetype from, qsizetype to)
 {
-    const CommandHistory &history = *variables.History;
-    const qsizetype last = history.done().size();
-    const NumberMap fromNow = inverseOf(numbersBetween(history, to, last));
-    const NumberMap before = inverseOf(numbersBetween(history, from, to));
+    const NumberMap before = numbersAt(*variables.History, from);
+    const NumberMap after = numbersAt(*variables.History, to);
     QList<NumberRow> rows;
-    for (int n = 0; n <= Variables::LastParagraph; ++n) {
-        const int after = fromNow.at(n);
+    for (int n = 0; n <= Variables::LastParagraph; ++n)
         if (variables.Written.at(n) == 1)
-            rows.append({before.at(after), after, n});
-    }
+            rows.append({before.at(n), after.at(n), n});
     std::sort(rows.begin(), rows.end(),
               [](const NumberRow &a, const NumberRow &b) { return a.after < b.after; });
     return rows;
 }
 
+QStringList numberTableHead()
+{
+    return {QCoreApplication::translate("NumberTable", "Ancien numéro"),
+            QCoreApplication::translate("NumberTable", "Nouveau numéro"),
+            QCoreApplication::translate("NumberTable", "Premiers mots")};
+}
+
 QByteArray numberCsv(const QList<NumberRow> &rows, const std::function<QString(int)> &words)
 {
-    const auto head = [](const char *text) {
-        return quoted(QCoreApplication::translate("NumberTable", text));
-    };
-    QString csv = QChar(QChar::ByteOrderMark) + head("Ancien numéro") + u';' +
-                  head("Nouveau numéro") + u';' + head("Premiers mots") + QLatin1String("\r\n");
+    QStringList head = numberTableHead();
+    std::transform(head.begin(), head.end(), head.begin(), &quoted);
+    QString csv = QChar(QChar::ByteOrderMark) + head.join(u';') + QLatin1String("\r\n");
     for (const NumberRow &row : rows)
         csv += QStringLiteral("%1;%2;%3\r\n")
                    .arg(QString::number(row.before), QString::number(row.after),
                         quoted(words(row.now)));
     return csv.toUtf8();
+}
+
+void saveNumberCsv(const Variables &variables, const QString &path, const QByteArray &csv)
+{
+    refuseOwnFiles(variables, path);
+    writeWholeFile(path, csv, Durability::Full, Links::Follow);
 }

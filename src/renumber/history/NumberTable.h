@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QStringList>
 #include <functional>
 
 struct Variables;
@@ -11,13 +12,21 @@ struct NumberRow {
     int before;
     int after;
     int now;
+    bool operator==(const NumberRow &) const = default;
 };
 
 // A row for each paragraph that is written now, by the number after, ascending. A point is a number
-// of commands, of those that are done: 0 is when the adventure was opened. Which paragraphs were
-// written then is not known.
+// of commands, of those that are done: 0 is when the adventure was opened. Either may be the later
+// one. Which paragraphs were written then is not known.
 QList<NumberRow> numberRows(const Variables &variables, qsizetype from, qsizetype to);
 
-// The same as a file for spreadsheets: UTF-8 with its mark, semicolons, CR LF. Columns: number
-// before, number after, and what words gives for the number now.
+// What the columns of such a table are called: the number before, the one after, the first words.
+QStringList numberTableHead();
+
+// The same as a file for spreadsheets: UTF-8 with its mark, semicolons, CR LF. words gives
+// the first words for the number now.
 QByteArray numberCsv(const QList<NumberRow> &rows, const std::function<QString(int)> &words);
+
+// Writes that file. Throws FileError, also when it is one of the adventure's own; what was there
+// before still is.
+void saveNumberCsv(const Variables &variables, const QString &path, const QByteArray &csv);
