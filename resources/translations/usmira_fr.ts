@@ -61,6 +61,54 @@
             <numerusform>%n paragraphes ont été modifiés depuis : %1 Les remettre aussi comme après la commande ?</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Annulé : %1, et %n commande(s) d&apos;après.</source>
+        <translation>
+            <numerusform>Annulé : %1, et la commande d&apos;après.</numerusform>
+            <numerusform>Annulé : %1, et les %n commandes d&apos;après.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Rétabli : %1, et %n commande(s) d&apos;avant.</source>
+        <translation>
+            <numerusform>Rétabli : %1, et la commande d&apos;avant.</numerusform>
+            <numerusform>Rétabli : %1, et les %n commandes d&apos;avant.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>HistoryWindow</name>
+    <message numerus="yes">
+        <source>Rétablir jusqu&apos;à cette commande rétablit %n commande(s).</source>
+        <translation>
+            <numerusform>Rétablir jusqu&apos;à cette commande ne rétablit qu&apos;elle.</numerusform>
+            <numerusform>Rétablir jusqu&apos;à cette commande en rétablit %n d&apos;un coup.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Revenir avant cette commande annule %n commande(s).</source>
+        <translation>
+            <numerusform>Revenir avant cette commande n&apos;annule qu&apos;elle.</numerusform>
+            <numerusform>Revenir avant cette commande en annule %n d&apos;un coup.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NumberWindow</name>
+    <message numerus="yes">
+        <source>%n ligne(s) copiée(s).</source>
+        <translation>
+            <numerusform>%n ligne copiée.</numerusform>
+            <numerusform>%n lignes copiées.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphe(s) sur %1 ont un autre numéro.</source>
+        <translation>
+            <numerusform>%n paragraphe sur %1 a un autre numéro.</numerusform>
+            <numerusform>%n paragraphes sur %1 ont un autre numéro.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>NumberPreview</name>

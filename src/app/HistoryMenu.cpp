@@ -1,7 +1,9 @@
 #include "app/HistoryMenu.h"
 
 #include "editor/CommandRunner.h"
+#include "renumber/history/HistoryWindow.h"
 #include "store/AdventureEvents.h"
+#include "widgets/ToolWindow.h"
 
 #include <QAction>
 
@@ -24,10 +26,13 @@ void show(QAction &item, const std::optional<CommandHistory::Command> &command,
 }
 } // namespace
 
-HistoryMenu::HistoryMenu(Variables &variables, Prompts &prompts, WorkReport &report)
-    : m_variables(variables), m_commands(variables, prompts, report)
+HistoryMenu::HistoryMenu(Variables &variables, Prompts &prompts, WorkReport &report,
+                         QWidget &window)
+    : m_variables(variables), m_commands(variables, prompts, report), m_window(window)
 {
 }
+
+HistoryMenu::~HistoryMenu() = default;
 
 void HistoryMenu::connectItems(const Items &items, CommandRunner &runner)
 {
@@ -38,6 +43,7 @@ void HistoryMenu::connectItems(const Items &items, CommandRunner &runner)
     QObject::connect(&items.redo, &QAction::triggered, &items.redo, [this, &runner] {
         runner.run(Kind::Rewriting, [this] { m_commands.redo(); });
     });
+    runner.add(items.list, Kind::Saved, [this, items, &runner] { showList(items, runner); });
     const auto refresh = [this, items] {
         show(items.takeBack, m_variables.History->nextToTakeBack(), tr("A&nnuler : %1"),
              tr("A&nnuler une commande"));
@@ -48,4 +54,24 @@ void HistoryMenu::connectItems(const Items &items, CommandRunner &runner)
     QObject::connect(events, &AdventureEvents::historyChanged, &items.takeBack, refresh);
     QObject::connect(events, &AdventureEvents::adventureReplaced, &items.takeBack, refresh);
     refresh();
+}
+
+void HistoryMenu::showList(const Items &items, CommandRunner &runner)
+{
+    using Kind = CommandRunner::Kind;
+    if (!m_list) {
+        m_list = std::make_unique<HistoryWindow>(m_variables, &m_window);
+        QObject::connect(m_list.get(), &HistoryWindow::takeBackWanted, m_list.get(),
+                         [this, &runner](int id) {
+                             runner.run(Kind::Rewriting, [&] { m_commands.takeBackTo(id); });
+                         });
+        QObject::connect(m_list.get(), &HistoryWindow::redoWanted, m_list.get(),
+                         [this, &runner](int id) {
+                             runner.run(Kind::Rewriting, [&] { m_commands.redoTo(id); });
+                         });
+        QObject::connect(m_list.get(), &HistoryWindow::tableWanted, &items.numbers,
+                         &QAction::trigger);
+    }
+    showAside(*m_list);
+    m_list->focusList();
 }

@@ -1,7 +1,9 @@
 #include "app/ViewsMenu.h"
 
 #include "editor/CommandRunner.h"
+#include "editor/FirstWords.h"
 #include "editor/Navigation.h"
+#include "renumber/history/NumberWindow.h"
 #include "renumber/proximityScan.h"
 #include "views/graph/paraGraphs.h"
 #include "views/grid/paraGrid.h"
@@ -21,6 +23,7 @@ void ViewsMenu::connectItems(const Items &items)
     m_editor.runner.add(items.graphs, Kind::Saved, [this] { menuComGraphs_Click(); });
     m_editor.runner.add(items.grid, Kind::Saved, [this] { menuComGrid_Click(); });
     m_editor.runner.add(items.proxScan, Kind::Saved, [this] { menuComProxScan_Click(); });
+    m_editor.runner.add(items.numbers, Kind::Saved, [this] { showNumbers(); });
 }
 
 template <typename Window, typename... Arguments>
@@ -78,4 +81,12 @@ void ViewsMenu::menuComProxScan_Click()
     proximityScan &window = made(m_proximityScan, m_variables, m_prompts);
     showAside(window);
     window.focusNumber();
+}
+
+void ViewsMenu::showNumbers()
+{
+    const std::function<QString(int)> words = [this](int n) { return firstWords(m_variables, n); };
+    NumberWindow &window = made(m_numbers, m_variables, m_prompts, words);
+    showAside(window);
+    window.focusTable();
 }

@@ -7,14 +7,15 @@
 
 class CommandRunner;
 class Navigation;
+class NumberWindow;
 class QAction;
 class QWidget;
 class paraGraphs;
 class paraGrid;
 class proximityScan;
 
-// The commands of the menu "Fonctions" that show the adventure as a whole, in windows that stay
-// open beside the editing box. It owns these windows; each is made when it is first wanted.
+// The commands that show the adventure as a whole, in windows that stay open beside the editing
+// box. It owns these windows; each is made when it is first wanted.
 class ViewsMenu
 {
 public:
@@ -30,6 +31,7 @@ public:
         QAction &graphs;
         QAction &grid;
         QAction &proxScan;
+        QAction &numbers;
     };
     void connectItems(const Items &items);
 
@@ -48,6 +50,7 @@ private:
     void menuComGraphs_Click();
     void menuComGrid_Click();
     void menuComProxScan_Click();
+    void showNumbers();
 
     const Variables &m_variables;
     Prompts &m_prompts;
@@ -56,4 +59,5 @@ private:
     std::unique_ptr<paraGraphs> m_graphs;
     std::unique_ptr<paraGrid> m_grid;
     std::unique_ptr<proximityScan> m_proximityScan;
+    std::unique_ptr<NumberWindow> m_numbers;
 };

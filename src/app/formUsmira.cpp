@@ -58,7 +58,7 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_adventures(variables, prompts, m_work, m_adventure, *this),
       m_navigation(variables, prompts, m_page),
       m_searchReplace(variables, prompts, m_work, {m_page, m_navigation, m_runner}, this),
-      m_functions(variables, prompts, m_work, *this), m_history(variables, prompts, m_work),
+      m_functions(variables, prompts, m_work, *this), m_history(variables, prompts, m_work, *this),
       m_views(variables, prompts, {m_navigation, m_runner}, *this),
       m_conversions(variables, prompts, m_page, m_work, *this), m_info(variables, prompts, m_page)
 {
@@ -211,12 +211,15 @@ void formUsmira::connectMenus()
                      *m_ui->menuEditCopy, *m_ui->menuEditPaste, *m_ui->menuEditPastePlain,
                      *m_ui->menuEditSelectAll},
                     *m_ui->rtfBox);
-    m_history.connectItems({*m_ui->menuEditTakeBack, *m_ui->menuEditRedoCommand}, m_runner);
+    m_history.connectItems({*m_ui->menuEditTakeBack, *m_ui->menuEditRedoCommand,
+                            *m_ui->menuEditHistory, *m_ui->menuEditNumbers},
+                           m_runner);
     m_functions.connectItems({*m_ui->menuComMasterMix, *m_ui->menuComSwap, *m_ui->menuComBlockMove,
                               *m_ui->menuComPackHoles, *m_ui->menuComTarget, *m_ui->menuComUniform,
                               *m_ui->menuComCount},
                              m_runner);
-    m_views.connectItems({*m_ui->menuComGraphs, *m_ui->menuComGrid, *m_ui->menuComProxScan});
+    m_views.connectItems(
+        {*m_ui->menuComGraphs, *m_ui->menuComGrid, *m_ui->menuComProxScan, *m_ui->menuEditNumbers});
     connect(&m_page, &ParagraphPage::changed, this, [this] { m_views.followEditor(); });
     m_menuStates.watch(*m_ui->menuCommands);
     connect(m_ui->menuCommands, &QMenu::aboutToShow, this, [this] { m_functions.showSwapKey(); });
