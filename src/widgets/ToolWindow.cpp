@@ -25,3 +25,8 @@ void showAside(QWidget &tool)
     tool.raise();
     tool.activateWindow();
 }
+
+void keepRoomForLines(QWidget &text, int lines)
+{
+    text.setMinimumHeight(lines * text.fontMetrics().lineSpacing());
+}

@@ -7,3 +7,7 @@ class QWidget;
 // Shows the tool window and brings it to the front. It comes to the lower right of the main window,
 // where it covers least of the text, unless it is open already; never beyond the screen.
 void showAside(QWidget &tool);
+
+// A text that changes has room for so many lines, also in the smallest window, and what stands
+// around it stays where it is.
+void keepRoomForLines(QWidget &text, int lines);

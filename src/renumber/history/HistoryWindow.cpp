@@ -5,6 +5,7 @@
 #include "store/Variables.h"
 #include "ui_HistoryWindow.h"
 #include "widgets/Shade.h"
+#include "widgets/ToolWindow.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -24,6 +25,7 @@ HistoryWindow::HistoryWindow(const Variables &variables, QWidget *parent)
     : QDialog(parent), m_variables(variables), m_ui(std::make_unique<Ui::HistoryWindow>())
 {
     m_ui->setupUi(this);
+    keepRoomForLines(*m_ui->lblState, 2);
     QHeaderView &header = *m_ui->commands->header();
     header.setSectionResizeMode(QHeaderView::ResizeToContents);
     header.setSectionResizeMode(Title, QHeaderView::Stretch);
@@ -126,8 +128,8 @@ void HistoryWindow::showChoice()
     const int id = chosenId();
     m_ui->btnTakeBack->setEnabled(history.countToTakeBack(id) > 0);
     m_ui->btnRedo->setEnabled(history.countToRedo(id) > 0);
-    QString text = tr("Aucune commande n'a changé tout le livre depuis son ouverture. MasterMix, "
-                      "Remplacer Tous et leurs pareilles paraîtront ici, prêtes à être annulées.");
+    QString text = tr("Aucune commande n'a touché à tout le livre depuis son ouverture. MasterMix, "
+                      "Remplacer Tous et les autres paraîtront ici, et pourront être annulées.");
     for (const Command &command : history.undone())
         if (command.id == id)
             text = choiceText(command, true);

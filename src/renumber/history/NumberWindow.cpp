@@ -7,6 +7,7 @@
 #include "store/ExportTarget.h"
 #include "store/LenientNumbers.h"
 #include "ui_NumberWindow.h"
+#include "widgets/ToolWindow.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -22,6 +23,7 @@ NumberWindow::NumberWindow(const Variables &variables, Prompts &prompts,
       m_ui(std::make_unique<Ui::NumberWindow>()), m_model(words)
 {
     m_ui->setupUi(this);
+    keepRoomForLines(*m_ui->lblState, 2);
     setUpTable();
     beginAnew();
     connectControls();
@@ -39,6 +41,7 @@ void NumberWindow::setUpTable()
     header.setSortIndicatorShown(true);
     header.setSortIndicator(NumberModel::After, Qt::AscendingOrder);
     header.setSectionResizeMode(QHeaderView::ResizeToContents);
+    header.setResizeContentsPrecision(0); // no number is wider than what stands above it
     header.setSectionResizeMode(NumberModel::Words, QHeaderView::Stretch);
     m_ui->sortBox->setCurrentIndex(NumberModel::After);
     // The view's own copying takes one cell.
