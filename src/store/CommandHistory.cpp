@@ -64,8 +64,11 @@ void CommandHistory::redone(const QList<Command> &takingBack)
     dropOldest();
 }
 
-void CommandHistory::restoreUndone(const QList<Command> &undone)
+void CommandHistory::restore(const QList<Command> &done, const QList<Command> &undone)
 {
+    m_whole = false;
+    for (const Command &command : done)
+        append(m_done, command);
     for (const Command &command : undone)
         append(m_undone, command);
 }
@@ -160,9 +163,7 @@ CommandHistory keptHistory(const QString &workingFolder, const QList<int> &done,
 {
     const WorkingFiles files(workingFolder);
     CommandHistory history;
-    for (const Command &command : wholeOf(files, done))
-        history.add(command);
-    history.restoreUndone(wholeOf(files, undone));
+    history.restore(wholeOf(files, done), wholeOf(files, undone));
     return history;
 }
 

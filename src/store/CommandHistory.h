@@ -35,6 +35,9 @@ public:
 
     // The oldest first. What is no longer kept stays in the list.
     const QList<Command> &done() const { return m_done; }
+    // Whether these are all since the adventure was opened. After a crash nobody knows: what could
+    // not be taken back any more is not in the list.
+    bool isWhole() const { return m_whole; }
     // The next to be done once more last.
     const QList<Command> &undone() const { return m_undone; }
 
@@ -56,8 +59,8 @@ public:
     void takenBack(const QList<Command> &redoing);
     // The last that were taken back were done again: these take them back once more.
     void redone(const QList<Command> &takingBack);
-    // What a start after a crash finds of what was taken back.
-    void restoreUndone(const QList<Command> &undone);
+    // What a start after a crash finds.
+    void restore(const QList<Command> &done, const QList<Command> &undone);
     // A step is no good any more: neither it nor what lies behind it is offered.
     void lose(int id);
 
@@ -79,6 +82,7 @@ private:
     QList<Command> m_done;
     QList<Command> m_undone;
     int m_lastId = 0;
+    bool m_whole = true;
 };
 
 // Announces the command that was noted since newId() of the history was this, and how it is taken

@@ -95,7 +95,7 @@ private Q_SLOTS:
         const auto &takeBack = child<QPushButton>(window, "btnTakeBack");
         const auto &redo = child<QPushButton>(window, "btnRedo");
         const auto told = [&] { return child<QLabel>(window, "lblState").text(); };
-        QVERIFY(told().startsWith("Aucune commande"));
+        QVERIFY(told().startsWith("La liste est vide"));
         QVERIFY(!takeBack.isEnabled() && !redo.isEnabled());
         swap(fixture, "1", "2");
         swap(fixture, "2", "3");

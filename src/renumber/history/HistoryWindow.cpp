@@ -128,8 +128,8 @@ void HistoryWindow::showChoice()
     const int id = chosenId();
     m_ui->btnTakeBack->setEnabled(history.countToTakeBack(id) > 0);
     m_ui->btnRedo->setEnabled(history.countToRedo(id) > 0);
-    QString text = tr("Aucune commande n'a touché à tout le livre depuis son ouverture. MasterMix, "
-                      "Remplacer Tous et les autres paraîtront ici, et pourront être annulées.");
+    QString text = tr("La liste est vide : MasterMix, Remplacer Tous et les autres commandes sur "
+                      "tout le livre paraîtront ici, et pourront être annulées.");
     for (const Command &command : history.undone())
         if (command.id == id)
             text = choiceText(command, true);

@@ -31,8 +31,12 @@ QStringList pointNames(const CommandHistory &history)
 {
     const QList<Command> &done = history.done();
     if (done.isEmpty())
-        return {Words::tr("Ouverture de l'aventure"), Words::tr("Maintenant")};
-    QStringList names{Words::tr("Ouverture, avant %1").arg(named(done.first()))};
+        return {history.isWhole() ? Words::tr("Ouverture de l'aventure")
+                                  : Words::tr("Reprise de l'aventure"),
+                Words::tr("Maintenant")};
+    const QString first =
+        history.isWhole() ? Words::tr("Ouverture, avant %1") : Words::tr("Avant %1");
+    QStringList names{first.arg(named(done.first()))};
     for (qsizetype i = 0; i + 1 < done.size(); ++i)
         names.append(Words::tr("Après %1").arg(named(done.at(i))));
     names.append(Words::tr("Maintenant, après %1").arg(named(done.last())));
