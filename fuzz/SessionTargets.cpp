@@ -8,6 +8,7 @@
 #include "store/ParagraphStore.h"
 #include "store/SessionRecovery.h"
 #include "store/SummedLines.h"
+#include "store/extras/ExtrasBlock.h"
 #include "support/AdventureBuilder.h"
 
 #include <QDirIterator>
@@ -16,7 +17,8 @@
 namespace
 {
 constexpr int LongestLines = 2048; // a state has 1700
-constexpr int FoldersEvery = 16;   // folders take time
+constexpr int LongestBlock = 1024;
+constexpr int FoldersEvery = 16; // folders take time
 
 QByteArray withoutSum(const QByteArray &bytes)
 {
@@ -144,11 +146,31 @@ QList<QByteArray> sessionSeeds()
     return {seed("opened @identity\r\n", state), seed("opened @identity\r\n", other),
             seed("saving @identity\r\n", state), seed({}, other)};
 }
+
+// What stands behind "DONE", its checksum aside.
+void extras(const QByteArray &records)
+{
+    extrasFrom(records);
+    const auto extras = extrasFrom(extrasBlock(records));
+    if (extras)
+        promise(extrasFrom(bytesOf(*extras)) == extras, "what is kept is read as it was written");
+}
+
+QList<QByteArray> extrasSeeds()
+{
+    AdventureExtras extras;
+    extras.starts = {1, 2000};
+    extras.accepted = {{QStringLiteral("fin"), 12, QByteArray(32, 's')}};
+    extras.reading = {{1, 12}, {{1, 12}}, {{QStringLiteral("là"), {1, 12}}, {{}, {}}}};
+    extras.unknown = {{"ZZZZ", "z"}, {"AAAA", {}}};
+    return {bytesOf(extras).sliced(ExtrasHead)};
+}
 } // namespace
 
 QList<FuzzTarget> sessionTargets()
 {
-    return {{"journal", &journal, &journalSeeds, LongestLines},
-            {"etat", [](const QByteArray &lines) { sessionState(lines); }, &sessionSeeds,
-             LongestLines}};
+    return {
+        {"journal", &journal, &journalSeeds, LongestLines},
+        {"etat", [](const QByteArray &lines) { sessionState(lines); }, &sessionSeeds, LongestLines},
+        {"bloc", &extras, &extrasSeeds, LongestBlock}};
 }

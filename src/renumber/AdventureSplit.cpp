@@ -81,6 +81,7 @@ void AdventureSplit::write(const QList<int> &numbers, const QString &path,
     part.LowestWritten = static_cast<qint16>(numbers.first());
     part.HighestWritten = static_cast<qint16>(numbers.last());
     part.CurrentParagraph = part.LowestWritten;
+    part.extras = extrasOf(numbers, part.extras);
     const QString target = finalPath(path);
     writing(target, [&] {
         return writeAdventure(

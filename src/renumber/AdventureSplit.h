@@ -19,8 +19,8 @@ struct SplitRequest {
 };
 
 // Writes a range of paragraphs into an adventure of its own, with their numbers, texts, lists and
-// fixed marks, and may take them from the open one then: all of them, once the new file is whole
-// and was read back. References to them stay as they are.
+// fixed marks and what extrasOf() gives of the rest, and may take them from the open one then: all
+// of them, once the new file is whole and was read back. References to them stay as they are.
 //
 // The current paragraph must have been saved, and its number is to be shown again afterwards.
 class AdventureSplit

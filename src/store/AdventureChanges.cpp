@@ -1,6 +1,8 @@
 #include "store/AdventureChanges.h"
 
+#include "platform/Errors.h"
 #include "store/Session.h"
+#include "store/extras/ExtrasBlock.h"
 
 namespace
 {
@@ -26,6 +28,7 @@ void setModified(Variables &variables)
 
 void setSaved(Variables &variables)
 {
+    variables.extrasModified = false;
     setFlags(variables, false, false);
 }
 
@@ -48,4 +51,18 @@ void setTargetPhrase(Variables &variables, const QString &phrase,
     setModified(variables);
     tryKeepSession(variables);
     Q_EMIT variables.Events->targetPhraseChanged();
+}
+
+void changeExtras(Variables &variables, const AdventureExtras &extras)
+{
+    const std::optional<AdventureExtras> kept = extrasFrom(bytesOf(extras));
+    if (!kept)
+        throw LimitError(QStringLiteral("bytes of what an adventure has beside"), LargestExtras);
+    if (*kept == variables.extras)
+        return;
+    variables.extras = *kept;
+    variables.extrasModified = true;
+    setModified(variables);
+    tryKeepSession(variables);
+    Q_EMIT variables.Events->extrasChanged();
 }

@@ -170,7 +170,9 @@ bool AdventureCommands::OpenAdventure(const QString &chosen)
 {
     return reportingFailures(m_prompts, [&] {
         Variables opened = m_variables;
-        takeOver(opened, readAdventure(chosen));
+        AdventureContents contents = readAdventure(chosen);
+        const bool extrasLost = contents.extrasDamaged;
+        takeOver(opened, std::move(contents));
         refuseLostName(opened, chosen);
         const QString path = pathToOpen(chosen);
         if (path.isEmpty())
@@ -189,6 +191,7 @@ bool AdventureCommands::OpenAdventure(const QString &chosen)
         forgetHistory(m_variables);
         announceAdventure();
         showCurrentParagraph();
+        tellLostExtras(extrasLost);
         tellUnreadable(damagedParagraphs(m_variables), m_prompts);
         return true;
     });
@@ -256,6 +259,7 @@ void AdventureCommands::OpenUnsaved(const UnsavedWork &work)
         m_variables.ParagraphDirty = true;
     }
     setModified(m_variables);
+    tellLostExtras(work.saved.extrasDamaged && !work.extras);
     tellUnreadable(damagedParagraphs(m_variables), m_prompts);
 }
 
@@ -265,6 +269,14 @@ void AdventureCommands::announceAdventure()
     m_reserved = m_variables.AdventureFile ? nullptr : reserved(m_variables.AdventurePath);
     m_prompts.beginIn(QFileInfo(m_variables.AdventurePath).absolutePath());
     Q_EMIT m_variables.Events->adventureReplaced();
+}
+
+// The adventure opens all the same, and what is lost stays in its dated copy.
+void AdventureCommands::tellLostExtras(bool lost)
+{
+    if (lost)
+        m_report.announce(tr("Les départs, les remarques acceptées et les lectures gardés avec "
+                             "l'aventure sont illisibles ; ils sont oubliés."));
 }
 
 void AdventureCommands::rebuildIndex(Variables &opened)

@@ -79,6 +79,7 @@ private:
     void claim(const QString &path);
     void reserveAndClaim(const Variables &created);
     void announceAdventure();
+    void tellLostExtras(bool lost);
     void showCurrentParagraph();
     void rebuildIndex(Variables &opened);
     bool saveParagraph();

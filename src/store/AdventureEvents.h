@@ -31,6 +31,9 @@ Q_SIGNALS:
     // References are recognised by another phrase, and the index is another one.
     void targetPhraseChanged();
 
+    // What belongs to the adventure beside its paragraphs is something else.
+    void extrasChanged();
+
     // Another adventure has become the open one, and everything is new.
     void adventureReplaced();
 

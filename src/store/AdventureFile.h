@@ -15,6 +15,7 @@
 //   "UNMX" one byte (0 or 1) for each number lowest..highest
 //   "SECT" u16 number, u32 length, RTF text, u16 length, reference list     once a paragraph
 //   "DONE"
+//   what belongs to it beside the paragraphs, if anything does: see extras/ExtrasBlock.h
 // Any other version (25 and below), read only:
 //   u16 version, u16 lowest, u16 highest, u16 current
 //   u8 length, phrase, padding to 31 bytes, 64 reserved bytes
@@ -33,6 +34,8 @@ struct AdventureContents {
     ParagraphArray<quint8, 2002> unmixable;
     ParagraphArray<QString, 2001> refIndex;
     ParagraphArray<quint8, 2001> damaged; // its text is no text, or lies outside the file
+    AdventureExtras extras;
+    bool extrasDamaged = false; // what there was of them cannot be read
     std::shared_ptr<OpenedFile> file;
 };
 
@@ -47,9 +50,9 @@ bool isPlaceholder(const QString &path);
 inline constexpr qsizetype LongestPhrase = 32767;
 
 // Reads a file of any version. Of a hostile file: unknown tags are passed over, a range that does
-// not fit the sections is widened to them, a text that cannot be one is damaged. Throws FileError,
-// or FormatError on an end before "DONE", a length beyond the end, a 2-byte number of 32768 or more
-// and a section above 2000.
+// not fit the sections is widened to them, a text that cannot be one is damaged, extras that cannot
+// be read are none. Throws FileError, or FormatError on an end before "DONE", a length beyond the
+// end, a 2-byte number of 32768 or more and a section above 2000.
 AdventureContents readAdventure(const std::shared_ptr<OpenedFile> &file);
 // The same of the file at path; what is wrong with its bytes is a FileError too, which names it.
 AdventureContents readAdventure(const QString &path);

@@ -10,8 +10,9 @@ class WorkReport;
 
 // Merges another adventure, of any version, into the open one: its paragraphs come in under their
 // own numbers, each as if the author had typed it there, and bring their fixed marks along. Its
-// target phrase and its lists are not used, and references keep their numbers. A paragraph whose
-// text is empty does not come, whatever stands at its number stays.
+// target phrase, its lists and what it has beside paragraphs are not used, and references keep
+// their numbers. A paragraph whose text is empty does not come, whatever stands at its number
+// stays.
 //
 // The current paragraph must have been saved, and its number is to be shown again afterwards.
 class AdventureMerge

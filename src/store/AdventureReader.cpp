@@ -7,6 +7,7 @@
 #include "richtext/TextLimit.h"
 #include "store/AdventureFile.h"
 #include "store/WorkingFiles.h"
+#include "store/extras/ExtrasBlock.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -156,6 +157,16 @@ void readSections(ByteReader &reader, AdventureContents &contents)
     }
 }
 
+// However many bytes of whatever kind stand behind "DONE", only a block of ours is read.
+void readExtras(OpenedFile &file, qint64 at, AdventureContents &contents)
+{
+    const qint64 left = file.size() - at;
+    const qint64 length = extrasLength(file.read(at, std::min(left, qint64{ExtrasHead})));
+    const std::optional<AdventureExtras> extras = extrasFrom(file.read(at, std::min(left, length)));
+    contents.extras = extras.value_or(AdventureExtras());
+    contents.extrasDamaged = !extras;
+}
+
 // An offset that no file can have reads as one behind the file's end: that text cannot be read.
 qint32 clampedOffset(quint32 offset)
 {
@@ -227,6 +238,7 @@ AdventureContents readAdventure(const std::shared_ptr<OpenedFile> &file)
     readHeader(reader, contents);
     if (contents.version == CurrentVersion) {
         readSections(reader, contents);
+        readExtras(*file, reader.offset(), contents);
     } else {
         readOldLayout(reader, contents);
         findOldDamage(*file, contents);
@@ -281,6 +293,8 @@ void takeOver(Variables &variables, AdventureContents contents)
     variables.Unmixable = contents.unmixable;
     variables.refIndex = std::move(contents.refIndex);
     variables.Damaged = contents.damaged;
+    variables.extras = std::move(contents.extras);
+    variables.extrasModified = false;
     variables.AdventureFile = std::move(contents.file);
     variables.CurrentFormat = contents.version == CurrentVersion;
     variables.AdventureOpen = true;

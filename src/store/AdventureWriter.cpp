@@ -4,6 +4,7 @@
 #include "richtext/CodePage.h"
 #include "store/AdventureFile.h"
 #include "store/ParagraphTexts.h"
+#include "store/extras/ExtrasBlock.h"
 
 #include <QtEndian>
 #include <limits>
@@ -99,10 +100,11 @@ qint32 writeSection(ByteWriter &out, const Variables &variables, int n, const QB
 void compare(const AdventureContents &read, const Variables &variables,
              const ParagraphArray<qint32, 2001> &offsets, qint64 size)
 {
-    bool same =
-        read.lowest == variables.LowestWritten && read.highest == variables.HighestWritten &&
-        read.current == variables.CurrentParagraph && read.targetPhrase == variables.TargetPhrase &&
-        read.sectionOffset == offsets && read.file->size() == size;
+    bool same = read.lowest == variables.LowestWritten &&
+                read.highest == variables.HighestWritten &&
+                read.current == variables.CurrentParagraph &&
+                read.targetPhrase == variables.TargetPhrase && read.sectionOffset == offsets &&
+                read.extras == variables.extras && read.file->size() == size;
     for (int n = 0; same && n < offsets.count(); ++n) {
         const bool inRange = offsets.at(n) != 0;
         same = (read.written.at(n) == 1) == inRange &&
@@ -128,6 +130,7 @@ AdventureContents writeAdventure(const Variables &variables, const QString &path
         progress(n - variables.LowestWritten + 1, total);
     }
     out.bytes("DONE");
+    out.bytes(bytesOf(variables.extras));
     out.flush();
     const qint64 size = file.position();
     file.commit();

@@ -74,4 +74,5 @@ void discardChanges(Variables &variables, Prompts &prompts)
         RebuildReferenceIndex(variables, [](int, int) {});
     Q_EMIT variables.Events->textsChanged(changed);
     Q_EMIT variables.Events->marksChanged();
+    Q_EMIT variables.Events->extrasChanged();
 }

@@ -41,7 +41,7 @@ void saveText(Variables &variables, const QByteArray &rtf, int n)
         clearName(files, files.text(n));
         state.next = n;
     }
-    keepSession(variables.WorkingFolder, state);
+    keepSession(variables, state);
     keepTyped(variables, n, rtf);
     renameFile(files.typed(n), files.text(n));
     variables.Extracted.at(n) = 1;
@@ -59,7 +59,7 @@ void dropText(Variables &variables, const QByteArray &rtf, int n)
     state.written.reset(static_cast<std::size_t>(n));
     state.extracted.reset(static_cast<std::size_t>(n));
     state.emptied.insert(std::lower_bound(state.emptied.begin(), state.emptied.end(), n), n);
-    keepSession(variables.WorkingFolder, state);
+    keepSession(variables, state);
     if (variables.Extracted.at(n) == 1)
         removeFile(WorkingFiles(variables).text(n));
     variables.Extracted.at(n) = 0;

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace
 {
@@ -25,6 +26,13 @@ void setWrittenRange(Variables &variables, const WrittenRange &range)
 bool changesAnything(const Journal &journal)
 {
     return !journal.placed.isEmpty() || !journal.emptied.isEmpty();
+}
+
+void renumberExtras(Variables &variables, const NumberMap &numbers)
+{
+    const AdventureExtras before =
+        std::exchange(variables.extras, renumbered(variables.extras, numbers));
+    variables.extrasModified |= before != variables.extras;
 }
 } // namespace
 
@@ -49,6 +57,7 @@ ParagraphTransaction::~ParagraphTransaction()
         }
     }
     tryRemoveFile(WorkingFiles(m_variables).nextState());
+    removeOtherExtras(m_variables.WorkingFolder);
     removeOtherSteps(m_variables.WorkingFolder, *m_variables.History);
 }
 
@@ -120,6 +129,7 @@ void ParagraphTransaction::commit(const Journal &journal)
     takeOver(m_variables, journal);
     if (!changes)
         return;
+    removeOtherExtras(m_variables.WorkingFolder);
     removeOtherSteps(m_variables.WorkingFolder, m_history);
     announce(journal);
 }
@@ -164,9 +174,10 @@ void ParagraphTransaction::keepStates(const Journal &journal) const
         before.lowest = m_rangeBefore->lowest;
         before.highest = m_rangeBefore->highest;
     }
-    keepSession(folder, before);
+    keepSession(m_variables, before);
     Variables after = m_variables;
     takeOver(after, journal);
+    keepExtras(after);
     writeForLater(WorkingFiles(folder).nextState(), sessionStateBytes(sessionState(after)));
 }
 
@@ -237,6 +248,8 @@ void ParagraphTransaction::takeOver(Variables &variables, const Journal &journal
         RecomputeWrittenRange(variables);
     if (m_rangeAfter)
         setWrittenRange(variables, *m_rangeAfter);
+    if (m_name.numbers && changesAnything(journal))
+        renumberExtras(variables, *m_name.numbers);
     variables.History = std::make_shared<const CommandHistory>(m_history);
 }
 
@@ -258,5 +271,7 @@ void ParagraphTransaction::announce(const Journal &journal) const
     std::sort(changed.begin(), changed.end());
     Q_EMIT events.textsChanged(changed);
     Q_EMIT events.marksChanged();
+    if (m_name.numbers)
+        Q_EMIT events.extrasChanged();
     Q_EMIT events.historyChanged();
 }

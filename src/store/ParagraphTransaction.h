@@ -17,7 +17,7 @@ class ParagraphTransaction
 {
 public:
     // What the change is called in the history, and the numbers of all paragraphs from commit() on
-    // where it gives them others.
+    // where it gives them others. What belongs to the adventure beside its paragraphs goes by them.
     struct Name {
         QString title;
         std::optional<NumberMap> numbers;

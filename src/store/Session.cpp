@@ -4,8 +4,10 @@
 #include "platform/SafeFile.h"
 #include "store/Journal.h"
 #include "store/ParagraphStore.h"
+#include "store/SummedLines.h"
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
+#include "store/extras/ExtrasBlock.h"
 
 #include <QFileInfo>
 
@@ -36,19 +38,60 @@ std::optional<SessionState> keptSession(const QString &workingFolder)
     }
 }
 
-void keepSession(const QString &workingFolder, const SessionState &state)
+void keepSession(const Variables &variables, const SessionState &state)
 {
-    const std::optional<SessionState> kept = keptSession(workingFolder);
+    const QString &folder = variables.WorkingFolder;
+    const std::optional<SessionState> kept = keptSession(folder);
     if (kept && saysTheSame(*kept, state))
         return;
-    makeSessionFolder(workingFolder);
-    writeWholeFile(WorkingFiles(workingFolder).state(), sessionStateBytes(state), Durability::Data,
+    makeSessionFolder(folder);
+    keepExtras(variables);
+    writeWholeFile(WorkingFiles(folder).state(), sessionStateBytes(state), Durability::Data,
                    Links::Replace);
+    removeOtherExtras(folder);
 }
 
 void keepSession(const Variables &variables)
 {
-    keepSession(variables.WorkingFolder, sessionState(variables));
+    keepSession(variables, sessionState(variables));
+}
+
+// Its name says what is in it: one that is there already need not be written once more.
+void keepExtras(const Variables &variables)
+{
+    if (!variables.extrasModified)
+        return;
+    const QByteArray bytes = bytesOf(variables.extras);
+    const QString path = WorkingFiles(variables).extras(sha256(bytes));
+    if (!QFileInfo::exists(path))
+        writeWholeFile(path, bytes, Durability::Data, Links::Replace);
+}
+
+// While a change is being put in place there are two states, and both count.
+void removeOtherExtras(const QString &workingFolder)
+{
+    const WorkingFiles files(workingFolder);
+    const QStringList all = files.allExtras();
+    if (all.isEmpty() || isAnythingAt(files.nextState()))
+        return;
+    const std::optional<SessionState> kept = keptSession(workingFolder);
+    const QString named = kept && kept->extras ? files.extras(*kept->extras) : QString();
+    for (const QString &path : all)
+        if (path != named)
+            tryRemoveFile(path);
+}
+
+std::optional<AdventureExtras> keptExtras(const QString &workingFolder, const SessionState &state)
+{
+    if (!state.extras)
+        return std::nullopt;
+    try {
+        const QByteArray bytes = readWholeFile(WorkingFiles(workingFolder).extras(*state.extras),
+                                               ExtrasHead + LargestExtras);
+        return sha256(bytes) == *state.extras ? extrasFrom(bytes) : std::nullopt;
+    } catch (const FileError &) {
+        return std::nullopt;
+    }
 }
 
 // While a journal waits, the state is the one before it, and goes with it.
@@ -71,7 +114,7 @@ void noteSave(const Variables &variables, OpenedFile &saved)
     SessionState state = sessionState(variables);
     state.saving = saved.identity();
     try {
-        keepSession(variables.WorkingFolder, state);
+        keepSession(variables, state);
     } catch (const FileError &) {
         return;
     }
@@ -99,12 +142,13 @@ void forgetSession(const QString &workingFolder)
     const QStringList typed = files.allTyped();
     for (const QString &path : typed)
         tryRemoveFile(path);
+    removeOtherExtras(workingFolder);
     removeSessionFolder(workingFolder);
 }
 
 void moveSession(const QString &workingFolder, const QString &folder)
 {
     const WorkingFiles files(workingFolder);
-    moveToFolder(QStringList(files.state()) + files.allTyped(), folder);
+    moveToFolder(QStringList(files.state()) + files.allTyped() + files.allExtras(), folder);
     removeSessionFolder(workingFolder);
 }

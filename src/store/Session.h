@@ -10,11 +10,22 @@ class RichTextBox;
 // The state of the open adventure counts from now on; nothing is written when the one that is there
 // says the same already. Throws FileError (Write), and the old state stays.
 void keepSession(const Variables &variables);
-void keepSession(const QString &workingFolder, const SessionState &state);
+// The same with another state than sessionState() gives, but the extras of variables.
+void keepSession(const Variables &variables, const SessionState &state);
 
 // The same where a failure stops nothing: what was changed is still in memory, and the next change
 // tries again.
 void tryKeepSession(const Variables &variables);
+
+// Writes what the adventure has beside its paragraphs, where the adventure file has it not, to the
+// file that the session state of variables names. Throws FileError (Write).
+void keepExtras(const Variables &variables);
+
+// Removes those that the session state does not name. What cannot be removed is harmless.
+void removeOtherExtras(const QString &workingFolder);
+
+// Those that a state names; nothing when it names none, or they are not there as they were.
+std::optional<AdventureExtras> keptExtras(const QString &workingFolder, const SessionState &state);
 
 // Notes what the adventure file will be once the save under way has succeeded. A failure stops
 // nothing: killed then, the program sets aside what has been saved as well.

@@ -138,6 +138,7 @@ std::optional<UnsavedWork> Recovery::offer(const SessionState &kept)
     }
     settle();
     readBox();
+    m_work.extras = keptExtras(m_files.folder(), m_work.state);
     moveStrays();
     if (!isAnythingUnsaved()) {
         dropSession();
@@ -264,6 +265,9 @@ void Recovery::dropSession()
     const QStringList typed = m_files.allTyped();
     for (const QString &box : typed)
         removeFile(box);
+    const QStringList extras = m_files.allExtras();
+    for (const QString &extra : extras)
+        removeFile(extra);
     removeFile(m_files.state());
     removeSessionFolder(m_files.folder());
 }
@@ -294,7 +298,8 @@ bool Recovery::isAnythingUnsaved() const
         marks = marks || (has(m_work.state.unmixable, n) ? 1 : 0) != m_work.saved.unmixable.at(n);
     const bool neverWritten = !m_work.state.opened;
     const QString phrase = neverWritten ? QStringLiteral(" au ") : m_work.saved.targetPhrase;
-    return marks || phrase != m_work.state.targetPhrase || count() > 0;
+    const bool extras = m_work.extras && *m_work.extras != m_work.saved.extras;
+    return marks || extras || phrase != m_work.state.targetPhrase || count() > 0;
 }
 
 bool Recovery::isWanted()
@@ -315,6 +320,7 @@ std::optional<UnsavedWork> offerUnsavedWork(const QString &workingFolder, Prompt
     if (work)
         work->history = keptHistory(workingFolder, work->state.done, work->state.undone);
     removeOtherSteps(workingFolder, work ? work->history : CommandHistory());
+    removeOtherExtras(workingFolder);
     return work;
 }
 
@@ -325,6 +331,9 @@ void takeOver(Variables &variables, const UnsavedWork &work, const Progress &pro
     takeOver(variables, work.saved);
     setNames(variables, state.adventurePath);
     variables.History = std::make_shared<const CommandHistory>(work.history);
+    variables.extrasModified = work.extras.has_value();
+    if (work.extras)
+        variables.extras = *work.extras;
     variables.TargetPhrase = state.targetPhrase;
     variables.LowestWritten = static_cast<qint16>(state.lowest);
     variables.HighestWritten = static_cast<qint16>(state.highest);

@@ -11,10 +11,11 @@ class Prompts;
 
 // What was unsaved in an adventure when the program was killed.
 struct UnsavedWork {
-    SessionState state;            // its extracted texts lie in the working folder
-    AdventureContents saved;       // the adventure as it was opened
-    std::optional<QByteArray> box; // RTF of the current paragraph as last typed
-    CommandHistory history;        // what can be taken back
+    SessionState state;                    // its extracted texts lie in the working folder
+    AdventureContents saved;               // the adventure as it was opened
+    std::optional<QByteArray> box;         // RTF of the current paragraph as last typed
+    std::optional<AdventureExtras> extras; // unless the adventure has them
+    CommandHistory history;                // what can be taken back
 };
 
 // Looks at what an earlier program has left in a working folder that nobody else works in, once

@@ -4,6 +4,7 @@
 #include "store/CommandHistory.h"
 #include "store/SummedLines.h"
 #include "store/WorkingFiles.h"
+#include "store/extras/ExtrasBlock.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -91,6 +92,8 @@ public:
             m_state.saving = {word.toLongLong(), words.value(2)};
         else if (kind == "range" || kind == "current" || kind == "next")
             readNumbers(kind, words);
+        else if (kind == "extras")
+            m_state.extras = word;
         else if (kind == "emptied")
             m_state.emptied = listOf(words);
         else if (kind == "done")
@@ -139,10 +142,14 @@ private:
     SessionState m_state;
 };
 
+bool isSum(const QByteArray &digits)
+{
+    return digits.size() == DigitsOfSum && QByteArray::fromHex(digits).toHex() == digits;
+}
+
 bool canBe(const std::optional<FileIdentity> &identity)
 {
-    return !identity || (identity->size >= 0 && identity->sum.size() == DigitsOfSum &&
-                         QByteArray::fromHex(identity->sum).toHex() == identity->sum);
+    return !identity || (identity->size >= 0 && isSum(identity->sum));
 }
 
 // Ascending, each once, and none of them with a text.
@@ -175,8 +182,8 @@ bool canBe(const SessionState &state)
            !state.adventurePath.contains(QChar::Null) &&
            !QFileInfo(state.adventurePath).fileName().isEmpty() &&
            state.targetPhrase.size() <= LongestPhrase && canBe(state.opened) &&
-           canBe(state.saving) && (state.extracted & ~state.written).none() &&
-           canBeEmptied(state) && canBeSteps(state);
+           canBe(state.saving) && (!state.extras || isSum(*state.extras)) &&
+           (state.extracted & ~state.written).none() && canBeEmptied(state) && canBeSteps(state);
 }
 } // namespace
 
@@ -199,6 +206,8 @@ QByteArray sessionStateBytes(const SessionState &state)
     bytes += line("written", digits(state.written));
     bytes += line("extracted", digits(state.extracted));
     bytes += line("unmixable", digits(state.unmixable));
+    if (state.extras)
+        bytes += line("extras", *state.extras);
     if (!state.emptied.isEmpty())
         bytes += line("emptied", numbers(state.emptied));
     if (!state.done.isEmpty())
@@ -234,6 +243,8 @@ SessionState sessionState(const Variables &variables)
     state.written = marksOf(variables.Written);
     state.extracted = marksOf(variables.Extracted);
     state.unmixable = marksOf(variables.Unmixable);
+    if (variables.extrasModified)
+        state.extras = sha256(bytesOf(variables.extras));
     for (int n = 0; n <= Variables::LastParagraph; ++n)
         if (variables.SectionOffset.at(n) > 0 && variables.Written.at(n) == 0)
             state.emptied.append(n);

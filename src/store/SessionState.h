@@ -22,6 +22,9 @@
 //   written 7fff...                           a digit for four paragraphs, from 0 on, the
 //   extracted 0400...                         highest bit first
 //   unmixable 0000...
+//   extras SHA256                             of the file "Session/Annexe-....xyz" with what the
+//                                             adventure has beside its paragraphs; no such line:
+//                                             what the adventure file says
 //   emptied 0003 0004                         they lose their text
 //   done 0003 0007                            the steps by which commands are taken back, and
 //   undone 0009                               those by which they are done once more
@@ -43,8 +46,9 @@ struct SessionState {
     Marks written;
     Marks extracted;
     Marks unmixable;
-    QList<int> emptied; // ascending
-    QList<int> done;    // see CommandHistory
+    std::optional<QByteArray> extras; // checksum in hexadecimal
+    QList<int> emptied;               // ascending
+    QList<int> done;                  // see CommandHistory
     QList<int> undone;
     std::optional<int> next;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/ParagraphArray.h"
+#include "store/extras/AdventureExtras.h"
 
 #include <QString>
 #include <memory>
@@ -42,6 +43,11 @@ struct Variables {
 
     // 1: its text cannot be read. Known from opening on, or from when it was tried to be shown.
     ParagraphArray<quint8, 2001> Damaged;
+
+    // What belongs to the adventure beside its paragraphs, set through changeExtras(), and by what
+    // renumbers and opens; and whether it is no longer what the adventure file says.
+    AdventureExtras extras;
+    bool extrasModified = false;
 
     // The adventure file as it was opened, kept open: texts are read from it even when another
     // program has put a different file under its name. Null for an adventure never written.

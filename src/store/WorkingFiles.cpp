@@ -119,6 +119,11 @@ QString WorkingFiles::step(int id) const
     return session() + QStringLiteral("/Annuler-") + fourDigits(id) + QStringLiteral(".xyz");
 }
 
+QString WorkingFiles::extras(const QByteArray &sha256) const
+{
+    return session() + QStringLiteral("/Annexe-%1.xyz").arg(QString::fromLatin1(sha256.first(16)));
+}
+
 QString WorkingFiles::lock() const
 {
     return session() + QStringLiteral("/Usmira.lock");
@@ -157,6 +162,11 @@ QStringList WorkingFiles::allTyped() const
 QStringList WorkingFiles::allSteps() const
 {
     return pathsOf(session(), QStringLiteral("Annuler-[0-9]*.xyz"));
+}
+
+QStringList WorkingFiles::allExtras() const
+{
+    return pathsOf(session(), QStringLiteral("Annexe-*.xyz"));
 }
 
 int WorkingFiles::numberOf(const QString &path)

@@ -19,6 +19,7 @@ struct Variables;
 //   Session/Etat.xyz                   what is unsaved
 //   Session/Suite.xyz                  the same once the change in the journal is put in place
 //   Session/Saisie-0026.rtf            the box as last typed
+//   Session/Annexe-0a1b2c3d4e5f6071.xyz  what is unsaved beside the paragraphs, by its checksum
 //   Session/Annuler-0007.xyz           what a command on the whole adventure changed
 //   Session/Usmira.lock                the program that works here
 //   Copies/Le Loup (2026-11-21 ...).usm  an adventure as it was, see DatedCopies
@@ -61,6 +62,7 @@ public:
     QString nextState() const;
     QString typed(int n) const;
     QString step(int id) const;
+    QString extras(const QByteArray &sha256) const; // in hexadecimal
     QString lock() const;
     QString copies() const; // without a separator at its end
 
@@ -68,11 +70,12 @@ public:
     QString newRecoveryFolder(const QDateTime &now) const;
 
     // Looks: full paths of all working files of any adventure, of all parked texts, of all boxes as
-    // last typed, and of all steps of commands.
+    // last typed, of all steps of commands, and of what is unsaved beside the paragraphs.
     QStringList allTexts() const;
     QStringList allParked() const;
     QStringList allTyped() const;
     QStringList allSteps() const;
+    QStringList allExtras() const;
 
     // The number in the name of a working file, or of a box as last typed.
     static int numberOf(const QString &path);

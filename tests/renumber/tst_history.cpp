@@ -93,6 +93,17 @@ using Act = std::function<void(Scene &)>;
 
 const AdventureBuilder Other({"4: quatre venu d'ailleurs", "6!: six au 4"});
 
+// Something at each number that commands of these tests move.
+AdventureExtras marked()
+{
+    AdventureExtras extras;
+    extras.starts = {1, 500};
+    extras.accepted = {{"fin", 3, QByteArray(32, 's')}};
+    extras.reading = {{1, 3, 9}, {{1, 3}, {7, 1}}, {{"loup", {1, 7, 3}}}};
+    extras.unknown = {{"ZZZZ", "3"}};
+    return extras;
+}
+
 // A walk of an author through an adventure, beside its model.
 class Walk
 {
@@ -322,9 +333,13 @@ private Q_SLOTS:
         QFETCH(QString, title);
         QFETCH(Act, act);
         Scene scene;
+        changeExtras(scene.v, marked());
         const BookModel before = scene.book();
         act(scene);
         const BookModel after = scene.book();
+        const AdventureExtras extras = scene.v.extras;
+        const std::optional<NumberMap> numbers = scene.v.History->done().first().numbers;
+        QVERIFY(extras == renumbered(marked(), numbers.value_or(unmovedNumbers())));
         QVERIFY(before.paragraphs != after.paragraphs);
         QCOMPARE(scene.v.History->done().size(), 1);
         QCOMPARE(scene.v.History->done().first().title, title);
@@ -336,10 +351,12 @@ private Q_SLOTS:
             QVERIFY(scene.script.history.takeBack());
             scene.v.CurrentParagraph = static_cast<qint16>(before.current);
             QCOMPARE(difference(scene.book(), before), QString());
+            QVERIFY(scene.v.extras == marked());
             QVERIFY(scene.v.AdventureModified && !scene.v.History->nextToTakeBack());
             QVERIFY(scene.script.history.redo());
             scene.v.CurrentParagraph = static_cast<qint16>(after.current);
             QCOMPARE(difference(scene.book(), after), QString());
+            QVERIFY(scene.v.extras == extras);
             QVERIFY(scene.prompts.said.isEmpty());
         }
         scene.script.adventure.Save();

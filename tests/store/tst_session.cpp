@@ -12,6 +12,7 @@
 #include "store/SummedLines.h"
 #include "store/TypedSnapshot.h"
 #include "store/WorkingFiles.h"
+#include "store/extras/ExtrasBlock.h"
 #include "support/AdventureBuilder.h"
 #include "support/FaultyCalls.h"
 #include "support/PromptRecorder.h"
@@ -72,7 +73,7 @@ struct Editor {
     QString state()
     {
         QString all = v.TargetPhrase + QString::number(v.LowestWritten) + u'.' +
-                      QString::number(v.HighestWritten);
+                      QString::number(v.HighestWritten) + bytesOf(v.extras).toHex();
         for (int n = 0; n <= 12; ++n) {
             const bool onScreen = v.ParagraphDirty && n == v.CurrentParagraph;
             const QString text =
@@ -101,6 +102,9 @@ struct Scene : TestAdventure {
         editor->save(6, "six");
         editor->save(2, {});
         setFixed(editor->v, 4, true);
+        AdventureExtras extras;
+        extras.starts = {3, 9};
+        changeExtras(editor->v, extras);
     }
     static QByteArray bytes()
     {
@@ -168,6 +172,7 @@ const QByteArray Valid = [] {
         state.written.set(n);
     state.extracted.set(2000);
     state.unmixable.set(7);
+    state.extras = QByteArray(64, 'e');
     state.emptied = {3, 12};
     state.done = {2, 13};
     state.undone = {9};
@@ -237,6 +242,8 @@ private Q_SLOTS:
         QFETCH(QString, said);
         QFETCH(QStringList, aside);
         Scene scene;
+        const QString extras = WorkingFiles(scene.variables).allExtras().value(0);
+        aside.prepend(QFileInfo(extras).fileName());
         spoil(scene);
         Editor next = scene.restarted(Prompts::Answer::No);
         next.start();

@@ -4,6 +4,7 @@
 #include "richtext/HiddenBox.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -113,6 +114,18 @@ QByteArray AdventureBuilder::oldBytes(int version) const
             texts += (next++)->text;
     }
     return bytes + texts;
+}
+
+QByteArray extrasBlock(const QByteArray &records, char version)
+{
+    const QByteArray head = "XTRA" + QByteArray(1, version) + '\0' + lengthInBlock(records.size());
+    return head + QCryptographicHash::hash(head + records, QCryptographicHash::Sha256) + records;
+}
+
+QByteArray lengthInBlock(qsizetype n)
+{
+    const quint32 little = qToLittleEndian(static_cast<quint32>(n));
+    return QByteArray(reinterpret_cast<const char *>(&little), sizeof little);
 }
 
 TestAdventure::TestAdventure()

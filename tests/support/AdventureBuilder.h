@@ -54,6 +54,10 @@ private:
     int m_highest = 1;
 };
 
+// What stands behind "DONE" by another hand: a block with these records, and a length in it.
+QByteArray extrasBlock(const QByteArray &records, char version = 1);
+QByteArray lengthInBlock(qsizetype n);
+
 // A temporary folder with a working folder in it, and the state that goes with them.
 class TestAdventure
 {

@@ -133,10 +133,21 @@ std::optional<TakeBack::Edited> HistoryCommands::askAboutEdited(Way way, const S
     }
 }
 
+// Where the commands together took the numbers from; nothing where none of them renumbers.
+std::optional<NumberMap> HistoryCommands::numbersAfter(const Steps &steps)
+{
+    std::optional<NumberMap> numbers;
+    for (const Step &step : steps)
+        if (step.command.numbers)
+            numbers =
+                composed(numbers.value_or(unmovedNumbers()), inverseOf(*step.command.numbers));
+    return numbers;
+}
+
 void HistoryCommands::apply(Way way, const Steps &steps, TakeBack::Edited edited)
 {
     LongWork work(m_report, way == Way::Back ? tr("Annulation...") : tr("Rétablissement..."));
-    ParagraphTransaction transaction(m_variables, {});
+    ParagraphTransaction transaction(m_variables, {{}, numbersAfter(steps)});
     TakeBack takeBack(m_variables, edited);
     BookTexts now = BookTexts::stored(m_variables); // it remembers which texts cannot be read
     BookTexts book = now;

@@ -43,6 +43,7 @@ private:
     bool run(Way way, int count);
     Steps stepsOf(Way way, int count) const;
     std::optional<TakeBack::Edited> askAboutEdited(Way way, const Steps &steps);
+    static std::optional<NumberMap> numbersAfter(const Steps &steps);
     void apply(Way way, const Steps &steps, TakeBack::Edited edited);
     CommandHistory::Command noteReverse(const Step &step, int id, BookTexts &from,
                                         BookTexts &to) const;
