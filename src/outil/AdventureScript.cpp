@@ -4,6 +4,7 @@
 #include "outil/Commands.h"
 #include "outil/Script.h"
 #include "outil/StateReport.h"
+#include "store/AdventureChanges.h"
 #include "store/DatedCopies.h"
 #include "store/LenientNumbers.h"
 
@@ -93,6 +94,25 @@ QByteArray phrase(CommandServices &script, const QStringList &arguments)
     return {};
 }
 
+QByteArray departs(CommandServices &script, const QStringList &arguments)
+{
+    QByteArray lines;
+    if (arguments.isEmpty()) {
+        for (const int n : readingStarts(script.variables))
+            lines += numberLine(n);
+        return lines;
+    }
+    AdventureExtras extras = script.variables.extras;
+    extras.starts.clear();
+    for (const QString &word : arguments) {
+        const int n = paragraphNumber(word);
+        if (!extras.starts.contains(n))
+            extras.starts.append(n);
+    }
+    changeExtras(script.variables, extras);
+    return lines;
+}
+
 QByteArray compter(CommandServices &script, const QStringList & /*arguments*/)
 {
     return numberLine(countWritten(script.variables));
@@ -128,6 +148,9 @@ std::vector<CommandEntry> adventureEntries()
         {"phrase", "TEXTE",
          QT_TRANSLATE_NOOP("Commands", "change la phrase cible ; _ y est un espace"), true,
          &phrase},
+        {"departs", "[N...]",
+         QT_TRANSLATE_NOOP("Commands", "fixe les numéros où les lectures commencent, ou les écrit"),
+         true, &departs},
         {"compter", "", QT_TRANSLATE_NOOP("Commands", "écrit le nombre de paragraphes rédigés"),
          true, &compter},
         {"etat", "",

@@ -130,11 +130,14 @@ melanger 4 9
     {
         TestAdventure adventure;
         adventure.file("a.usm", AdventureBuilder({"1: Va au 4", "4!: Va au 9", "9: Fin"}).bytes());
-        const QByteArray script = "ouvrir '@a.usm'\nscinder 5 2 '@b.usm' effacer\ncompter\n"
-                                  "fusionner '@b.usm'\nmene 9\nscinder 1 1 '@b.usm'\n";
+        const QByteArray script = "ouvrir '@a.usm'\ndeparts 4 1 4\n"
+                                  "scinder 5 2 '@b.usm' effacer\ncompter\n"
+                                  "fusionner '@b.usm'\nmene 9\ndeparts\n"
+                                  "scinder 1 1 '@b.usm'\n";
         const QByteArray folder = adventure.path("./").toUtf8();
         const Outcome outcome = run(adventure, {}, QByteArray(script).replace('@', folder));
-        QCOMPARE(outcome.output, "2\n4\n");
+        QCOMPARE(outcome.output, "2\n4\n4\n1\n");
+        QCOMPARE(readAdventure(adventure.path("b.usm")).extras.starts, QList<int>{4});
         QVERIFY2(outcome.errors.contains("b.usm existe déjà"), qPrintable(outcome.errors));
         QCOMPARE(outcome.status, 1);
     }
