@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QtEndian>
 
 using FaultyCalls::Fault;
 
@@ -35,13 +36,27 @@ bool isKnownMessage(const QByteArray &errors)
     return words.match(QString::fromUtf8(errors)).hasMatch();
 }
 
+// What stands behind "DONE" says its own length.
+bool isWhole(const QByteArray &adventure)
+{
+    constexpr qsizetype head = 42;
+    constexpr qsizetype lengthAt = 6;
+    const qsizetype done = adventure.lastIndexOf("DONE");
+    const QByteArray behind = adventure.mid(done + 4);
+    const bool noBlock = behind.isEmpty();
+    return done >= 0 &&
+           (noBlock ||
+            (behind.size() >= head &&
+             behind.size() == head + qFromLittleEndian<quint32>(behind.constData() + lengthAt)));
+}
+
 // What was set aside, and the dated copies: one that is not whole is a stray.
 bool isKept(const QString &name, const QByteArray &bytes)
 {
     const bool isCopy = name.startsWith(QStringLiteral("w/Copies/"));
     return name.startsWith(QStringLiteral("w/Récupération ")) ||
-           (isCopy && (name.endsWith(u'/') ||
-                       (name.endsWith(QStringLiteral(").usm")) && bytes.endsWith("DONE"))));
+           (isCopy &&
+            (name.endsWith(u'/') || (name.endsWith(QStringLiteral(").usm")) && isWhole(bytes))));
 }
 } // namespace
 
@@ -93,6 +108,8 @@ Sweep::State Sweep::look() const
     State state;
     state.adventure = comparable(opened.states.value(0));
     const Files files = filesIn(m_run.folder());
+    const QByteArray file = files.value(QStringLiteral("a.usm"));
+    state.adventure += file.mid(file.lastIndexOf("DONE")).toHex();
     for (const QString &product : m_operation.products)
         if (files.contains(product))
             state.products[product] = files[product];
