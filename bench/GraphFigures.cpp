@@ -2,11 +2,11 @@
 
 #include "BenchEditor.h"
 #include "Figures.h"
+#include "store/references/ReferenceWeb.h"
 #include "views/graph/BookLayout.h"
 #include "views/graph/GraphCanvas.h"
 #include "views/graph/GraphNodes.h"
 #include "views/graph/ReferenceTree.h"
-#include "views/graph/ReferenceWeb.h"
 #include "views/graph/TreeLayout.h"
 
 #include <QApplication>

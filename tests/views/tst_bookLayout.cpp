@@ -1,10 +1,10 @@
 #include "store/Variables.h"
+#include "store/references/ReferenceWeb.h"
 #include "support/References.h"
 #include "support/TestTable.h"
 #include "views/graph/BookLayout.h"
 #include "views/graph/GraphNodes.h"
 #include "views/graph/LayerOrder.h"
-#include "views/graph/ReferenceWeb.h"
 
 #include <QRandomGenerator>
 #include <QTest>

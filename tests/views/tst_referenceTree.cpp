@@ -1,10 +1,10 @@
 #include "store/ReferenceIndex.h"
 #include "store/Variables.h"
+#include "store/references/ReferenceWeb.h"
 #include "support/References.h"
 #include "support/TestTable.h"
 #include "views/graph/GraphNodes.h"
 #include "views/graph/ReferenceTree.h"
-#include "views/graph/ReferenceWeb.h"
 #include "views/graph/TreeLayout.h"
 
 #include <QMap>

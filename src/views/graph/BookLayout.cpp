@@ -1,10 +1,10 @@
 #include "views/graph/BookLayout.h"
 
 #include "store/Variables.h"
+#include "store/references/ReferenceWeb.h"
 #include "views/graph/GraphNodes.h"
 #include "views/graph/LayerOrder.h"
 #include "views/graph/LayerPlacing.h"
-#include "views/graph/ReferenceWeb.h"
 
 #include <QCoreApplication>
 #include <algorithm>

@@ -1,5 +1,5 @@
 #include "views/graph/LayerOrder.h"
-#include "views/graph/ReferenceWeb.h"
+#include "store/references/ReferenceWeb.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,7 +1,7 @@
 #include "views/graph/LayerPlacing.h"
 
+#include "store/references/ReferenceWeb.h"
 #include "views/graph/GraphDrawing.h"
-#include "views/graph/ReferenceWeb.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "views/graph/ReferenceTree.h"
 
-#include "views/graph/ReferenceWeb.h"
+#include "store/references/ReferenceWeb.h"
 
 namespace
 {

@@ -2,12 +2,12 @@
 
 #include "platform/Guarded.h"
 #include "store/AdventureEvents.h"
+#include "store/references/ReferenceWeb.h"
 #include "ui_paraGraphs.h"
 #include "views/PreviewText.h"
 #include "views/graph/BookLayout.h"
 #include "views/graph/GraphFile.h"
 #include "views/graph/GraphNodes.h"
-#include "views/graph/ReferenceWeb.h"
 #include "views/graph/TreeLayout.h"
 #include "views/graph/TypedNumber.h"
 

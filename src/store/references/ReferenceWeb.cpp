@@ -1,4 +1,4 @@
-#include "views/graph/ReferenceWeb.h"
+#include "store/references/ReferenceWeb.h"
 
 #include "store/ReferenceIndex.h"
 #include "store/Variables.h"
