@@ -1,30 +1,12 @@
 #include "editor/StatusLine.h"
 
 #include "richtext/RichTextBox.h"
+#include "richtext/WordCount.h"
 #include "store/AdventureChanges.h"
 #include "store/ReferenceIndex.h"
 
 #include <QLabel>
 #include <QStatusBar>
-
-namespace
-{
-int countWords(QStringView text)
-{
-    int words = 0;
-    bool counted = false;
-    for (const QChar c : text) {
-        if (c.isSpace())
-            counted = false;
-        else if (!counted && c.isLetterOrNumber()) {
-            ++words;
-            counted = true;
-        }
-    }
-    return words;
-}
-
-} // namespace
 
 QString describeParagraph(int n, QStringView text, const QString &targetPhrase)
 {

@@ -53,6 +53,11 @@ constexpr std::array Reasons{
         Doubt::NumbersAlone,
         QT_TRANSLATE_NOOP("ReferenceDoubts",
                           "Des numéros seuls sur leur ligne ne sont pas reconnus comme renvois.")},
+    Reason{Doubt::OtherWords,
+           QT_TRANSLATE_NOOP("ReferenceDoubts", "Ce renvoi n'est pas reconnu : d'autres mots "
+                                                "tiennent lieu de « %1 » devant le numéro.")},
+    Reason{Doubt::BeyondLast,
+           QT_TRANSLATE_NOOP("ReferenceDoubts", "Il n'y a pas de paragraphe au-delà du 2000.")},
     Reason{Doubt::Telephone,
            QT_TRANSLATE_NOOP("ReferenceDoubts",
                              "Sans doute un numéro de téléphone, mais lu comme le renvoi « %2 ».")},

@@ -18,6 +18,8 @@ enum class Doubt {
     WordBetween,
     PhraseMissing,
     NumbersAlone,
+    OtherWords,
+    BeyondLast,
     // Read, but probably meant as something else, and yet changed by a renumbering.
     Telephone,
     Date,

@@ -17,12 +17,6 @@ struct Follower {
     QRegularExpression behind; // from the number's end on
 };
 
-struct Leader {
-    Doubt doubt;
-    QRegularExpression before; // up to the number; its first group, or all of it, is marked
-    QRegularExpression behind;
-};
-
 QRegularExpression words(const char *alternatives)
 {
     return QRegularExpression(
@@ -50,39 +44,6 @@ const std::vector<Follower> &followers()
         {Doubt::OtherBook, true,
          words("\\s+(?:du|de\\s+la|de\\s+votre|de\\s+notre|dans\\s+(?:le|la|votre))"
                "\\s+(?:\\pL+\\s+){0,2}(?:volume|tome|aventure|épisode|livret)")},
-    };
-    return table;
-}
-
-const std::vector<Leader> &leaders()
-{
-    static const QRegularExpression anything;
-    static const std::vector<Leader> table{
-        {Doubt::WordBetween,
-         pattern("(?<!\\pL)aux?\\s+(?:(?:paragraphes?|numéros?|numeros?|chapitres?|sections?|"
-                 "no\\.?|n\\s?[°º]|§|#)\\s*)+$"),
-         anything},
-        {Doubt::WordBetween, pattern("(?<!\\pL)au\\s*:\\s*$"), anything},
-        {Doubt::PhraseMissing,
-         pattern("(?<!\\pL)(?:rendez|rends|reportez|reporte)[- ](?:vous|toi)\\s+$"), anything},
-        {Doubt::PhraseMissing,
-         pattern("(?<!\\pL)(?:rendez-vous|rends-toi|reportez-vous|reporte-toi|allez|aller|va|"
-                 "retourne[rz]?|passez|passer)\\s+((?:à|en|vers\\s+le)\\s+)$"),
-         anything},
-        {Doubt::PhraseMissing, pattern("\\((à\\s+)$"), pattern("^\\)")},
-        // "aux 12 et 15", and the second of the two
-        {Doubt::PhraseMissing, pattern("(?<!\\pL)aux\\s+$"),
-         pattern("^\\s*(?:,|et|ou|à|-|–)\\s*\\d")},
-        {Doubt::PhraseMissing,
-         pattern("(?<!\\pL)aux\\s+(?:(?:paragraphes|numéros)\\s+)?[\\d\\s,]*\\d\\s*((?:,|et|ou|à|-|"
-                 "–)\\s*)$"),
-         anything},
-        // "au 12, 15 ou 18." with nothing that is counted behind
-        {Doubt::PhraseMissing,
-         pattern("(?<!\\pL)au\\s+\\d{1,4}(?:\\s*,\\s*\\d{1,4})*\\s+((?:et|ou)\\s+)$"),
-         pattern("^\\s*(?:[.,;:!?)]|$)")},
-        {Doubt::PhraseMissing, pattern("(?<!\\pL)au\\s+\\d{1,4}(?:\\s*,\\s*\\d{1,4})*(\\s*,\\s*)$"),
-         pattern("^\\s*(?:,|et|ou)\\s*\\d{1,4}\\s*(?:[.,;:!?)]|et|ou|$)")},
     };
     return table;
 }
@@ -181,13 +142,6 @@ std::optional<Unread> unreadByContext(const QString &before, QStringView behind,
     }
     if (!isFrenchPhrase(phrase))
         return std::nullopt;
-    const QString text = behind.left(LookAlikeContext).toString();
-    for (const Leader &leader : leaders()) {
-        const QRegularExpressionMatch match = leader.before.match(before);
-        if (!match.hasMatch() || !leader.behind.match(text).hasMatch())
-            continue;
-        const int group = match.capturedStart(1) >= 0 ? 1 : 0;
-        return Unread{leader.doubt, before.size() - match.capturedStart(group)};
-    }
-    return std::nullopt;
+    static const ReferenceLeaders leaders(QStringLiteral("au"), ReferenceLeaders::Reach::Usual);
+    return leaders.find(before, behind.left(LookAlikeContext).toString());
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/references/ReferenceDoubts.h"
+#include "store/references/ReferenceLeaders.h"
 
 #include <QStringView>
 #include <optional>
@@ -21,12 +21,8 @@ std::optional<qsizetype> joinedDigits(QStringView behind);
 // digits is the number of digits that it has.
 Doubt doubtByWhatFollows(QStringView behind, qsizetype digits, bool french);
 
-// Why a number between these texts is not read although an author means a reference, and how many
-// characters before the number belong to it. A line feed in before is the end of a line. For
-// numbers that are no references only.
-struct Unread {
-    Doubt doubt;
-    qsizetype before;
-};
+// Why a number between these texts is not read although an author means a reference, and what
+// belongs to it. A line feed in before is the end of a line. For numbers that are no references
+// only.
 std::optional<Unread> unreadByContext(const QString &before, QStringView behind,
                                       const QString &phrase);

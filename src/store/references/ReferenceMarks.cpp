@@ -4,6 +4,7 @@
 #include "store/LenientNumbers.h"
 #include "store/ReferenceIndex.h"
 #include "store/references/ReferenceLookAlikes.h"
+#include "store/references/WiderLookAlikes.h"
 
 #include <QRegularExpression>
 #include <algorithm>
@@ -48,8 +49,9 @@ Change changeBetween(QStringView before, QStringView now, bool fromStart)
 class LineMarks
 {
 public:
-    LineMarks(QStringView line, QStringView previousEnd, const QString &phrase)
-        : m_line(line), m_previousEnd(previousEnd), m_phrase(phrase),
+    LineMarks(QStringView line, QStringView previousEnd, const QString &phrase,
+              const WiderLookAlikes *wider = nullptr)
+        : m_line(line), m_previousEnd(previousEnd), m_phrase(phrase), m_wider(wider),
           m_french(isFrenchPhrase(phrase))
     {
     }
@@ -222,14 +224,22 @@ private:
     {
         constexpr qsizetype most = 4;
         const int seen = valueOf(digits);
-        if (digits.size() > most || seen < 1 || seen > Variables::LastParagraph)
+        const bool canBeRead = digits.size() <= most && seen <= Variables::LastParagraph;
+        if (seen < 1 || (!canBeRead && m_wider == nullptr))
             return std::nullopt;
         const QStringView behind = m_line.mid(at + digits.size());
-        const std::optional<Unread> found = unreadByContext(before(at), behind, m_phrase);
-        if (!found || doubtByWhatFollows(behind, digits.size(), m_french) != Doubt::None)
+        const QString led = before(at);
+        std::optional<Unread> found;
+        if (canBeRead)
+            found = unreadByContext(led, behind, m_phrase);
+        if (!found && m_wider != nullptr)
+            found = m_wider->unread(led, digits, behind);
+        const bool french = m_french || m_wider != nullptr;
+        if (!found || doubtByWhatFollows(behind, digits.size(), french) != Doubt::None)
             return std::nullopt;
         const qsizetype start = std::max(at - found->before, qsizetype{0});
-        return ReferenceMark{start, at + digits.size() - start, at, seen, 0, found->doubt};
+        const qsizetype end = at + digits.size() + found->behind;
+        return ReferenceMark{start, end - start, at, seen, 0, found->doubt};
     }
 
     // What stands before the number, as far as it counts, the end of the line before included.
@@ -245,6 +255,7 @@ private:
     QStringView m_line;
     QStringView m_previousEnd;
     const QString &m_phrase;
+    const WiderLookAlikes *m_wider;
     bool m_french;
     QList<ReferenceMark> m_marks;
 };
@@ -264,7 +275,8 @@ void LineReferences::read(const QString &line, const QString &previous, const QS
     m_phrase = phrase;
 }
 
-QList<ReferenceMark> referenceMarks(QStringView text, const QString &phrase)
+QList<ReferenceMark> referenceMarks(QStringView text, const QString &phrase,
+                                    const WiderLookAlikes *wider)
 {
     QList<ReferenceMark> marks;
     QStringView previousEnd;
@@ -272,7 +284,7 @@ QList<ReferenceMark> referenceMarks(QStringView text, const QString &phrase)
         const qsizetype found = text.indexOf(u"\r\n", start);
         const qsizetype end = found < 0 ? text.size() : found;
         const QStringView line = text.mid(start, end - start);
-        for (ReferenceMark mark : LineMarks(line, previousEnd, phrase).find()) {
+        for (ReferenceMark mark : LineMarks(line, previousEnd, phrase, wider).find()) {
             mark.position += start;
             mark.digits += start;
             marks.append(mark);

@@ -9,6 +9,8 @@
 // The references of a text as the author sees them while writing, with what is doubtful about some:
 // what looks like a reference and is none, and the other way round.
 
+class WiderLookAlikes;
+
 struct ReferenceMark {
     qsizetype position; // where what is marked begins: the digits, or all of what is doubtful
     qsizetype length;
@@ -37,5 +39,7 @@ private:
     QList<ReferenceMark> m_marks;
 };
 
-// The marks of a whole text, whose lines end with CR LF.
-QList<ReferenceMark> referenceMarks(QStringView text, const QString &phrase);
+// The marks of a whole text, whose lines end with CR LF. With wider look-alikes those of numbers
+// that are not read are more, and with any phrase as many as with a French one; the others stay.
+QList<ReferenceMark> referenceMarks(QStringView text, const QString &phrase,
+                                    const WiderLookAlikes *wider = nullptr);

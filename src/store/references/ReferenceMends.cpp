@@ -41,11 +41,13 @@ private:
         switch (m_mark.doubt) {
         case Doubt::None:
         case Doubt::NumbersAlone:
+        case Doubt::BeyondLast:
             return {};
         case Doubt::BlanksBefore:
         case Doubt::LeadingZero:
         case Doubt::TooManyBlanks:
         case Doubt::WordBetween:
+        case Doubt::OtherWords:
             return {asThePhraseHasIt(tr("Écrire « %1 »"))};
         case Doubt::DigitsBehind:
         case Doubt::DigitsJoined:
