@@ -36,6 +36,23 @@
     </message>
 </context>
 <context>
+    <name>CheckBook</name>
+    <message numerus="yes">
+        <source>%n faute(s)</source>
+        <translation>
+            <numerusform>%n faute</numerusform>
+            <numerusform>%n fautes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n remarque(s)</source>
+        <translation>
+            <numerusform>%n remarque</numerusform>
+            <numerusform>%n remarques</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ExportCommand</name>
     <message numerus="yes">
         <source>%n paragraphe(s) écrit(s) : %1</source>
@@ -94,6 +111,16 @@
     </message>
 </context>
 <context>
+    <name>NumberPreview</name>
+    <message numerus="yes">
+        <source>%n renvoi(s) douteux.</source>
+        <translation>
+            <numerusform>%n renvoi douteux.</numerusform>
+            <numerusform>%n renvois douteux.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>NumberWindow</name>
     <message numerus="yes">
         <source>%n ligne(s) copiée(s).</source>
@@ -107,16 +134,6 @@
         <translation>
             <numerusform>%n paragraphe sur %1 a un autre numéro.</numerusform>
             <numerusform>%n paragraphes sur %1 ont un autre numéro.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>NumberPreview</name>
-    <message numerus="yes">
-        <source>%n renvoi(s) douteux.</source>
-        <translation>
-            <numerusform>%n renvoi douteux.</numerusform>
-            <numerusform>%n renvois douteux.</numerusform>
         </translation>
     </message>
 </context>

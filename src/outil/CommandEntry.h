@@ -56,5 +56,6 @@ std::vector<CommandEntry> paragraphEntries();
 std::vector<CommandEntry> renumberEntries();
 std::vector<CommandEntry> historyEntries();
 std::vector<CommandEntry> textEntries();
+std::vector<CommandEntry> checkEntries();
 std::vector<CommandEntry> viewsEntries();
 std::vector<CommandEntry> publishEntries();

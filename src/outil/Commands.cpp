@@ -18,7 +18,7 @@ const std::vector<CommandEntry> &entries()
         std::vector<CommandEntry> all;
         for (const auto &group :
              {adventureEntries(), paragraphEntries(), renumberEntries(), historyEntries(),
-              textEntries(), viewsEntries(), publishEntries()})
+              textEntries(), checkEntries(), viewsEntries(), publishEntries()})
             all.insert(all.end(), group.begin(), group.end());
         return all;
     }();

@@ -82,11 +82,15 @@ QString doubtReason(Doubt doubt, int read, const QString &phrase)
                                       [doubt](const Reason &r) { return r.doubt == doubt; });
     if (reason == Reasons.end())
         return {};
-    // What is between quotation marks, or before a colon, stays on its line.
-    return QCoreApplication::translate("ReferenceDoubts", reason->text)
-        .replace(QStringLiteral("« "), QStringLiteral("«\u00a0"))
-        .replace(QStringLiteral(" »"), QStringLiteral("\u00a0»"))
-        .replace(QStringLiteral(" :"), QStringLiteral("\u00a0:"))
+    return withNoBreakSpaces(QCoreApplication::translate("ReferenceDoubts", reason->text))
         .replace(QStringLiteral("%1"), phrase.trimmed())
         .replace(QStringLiteral("%2"), QString::number(read));
+}
+
+QString withNoBreakSpaces(QString sentence)
+{
+    return sentence.replace(QStringLiteral("« "), QStringLiteral("«\u00a0"))
+        .replace(QStringLiteral(" »"), QStringLiteral("\u00a0»"))
+        .replace(QStringLiteral(" :"), QStringLiteral("\u00a0:"))
+        .replace(QStringLiteral(" ?"), QStringLiteral("\u00a0?"));
 }

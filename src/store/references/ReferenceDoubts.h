@@ -31,3 +31,6 @@ enum class Doubt {
 // A French sentence that says what is doubtful about a reference that is read as this number, 0 for
 // one that is not read. Empty for Doubt::None.
 QString doubtReason(Doubt doubt, int read, const QString &phrase);
+
+// Of a French sentence: what is between quotation marks, or before a colon, stays on its line.
+QString withNoBreakSpaces(QString sentence);

@@ -1,0 +1,100 @@
+#include "check/CheckBook.h"
+
+#include "check/BookWays.h"
+#include "check/TextCheck.h"
+#include "check/TextSentences.h"
+#include "check/WayCheck.h"
+#include "store/Variables.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <algorithm>
+#include <tuple>
+
+namespace
+{
+bool comesBefore(const Finding &a, const Finding &b)
+{
+    return std::tie(a.kind, a.number, a.position) < std::tie(b.kind, b.number, b.position);
+}
+
+// What an accepted finding is looked up by; the hash is taken of few only.
+class AcceptedOnes
+{
+public:
+    explicit AcceptedOnes(const QList<AcceptedFinding> &accepted)
+    {
+        for (const AcceptedFinding &entry : accepted)
+            m_hashes.insert(keyOf(entry.kind, entry.number), entry.sentenceHash);
+    }
+
+    bool contain(const Finding &finding) const
+    {
+        if (m_hashes.isEmpty())
+            return false;
+        if (finding.kind != FindingKind::Trap)
+            return contain(finding, finding.number);
+        return std::any_of(finding.members.begin(), finding.members.end(),
+                           [&](int n) { return contain(finding, n); });
+    }
+
+private:
+    static int keyOf(FindingKind kind, int n)
+    {
+        return n * FindingKindCount + static_cast<int>(kind);
+    }
+
+    bool contain(const Finding &finding, int n) const
+    {
+        const int key = keyOf(finding.kind, n);
+        return m_hashes.contains(key) && m_hashes.contains(key, finding.sentenceHash());
+    }
+
+    QMultiHash<int, QByteArray> m_hashes;
+};
+} // namespace
+
+CheckedBook CheckBook(const Variables &variables, const PlainTexts &texts,
+                      const CheckSettings &settings)
+{
+    const BookWays ways(variables, settings.starts);
+    QList<Finding> findings = wayFindings(ways);
+    for (Finding &finding : findings) {
+        const QString &text = texts.texts.at(finding.number);
+        const TextPart sentence = firstSentence(text);
+        if (finding.kind == FindingKind::Unreachable)
+            finding.around = text.mid(sentence.position, sentence.length);
+    }
+    const TextCheck check(variables, ways);
+    for (int n = 1; n <= Variables::LastParagraph; ++n)
+        if (ways.written.at(n))
+            findings +=
+                check.findings(n, texts.unreadable.contains(n) ? nullptr : &texts.texts.at(n));
+    std::sort(findings.begin(), findings.end(), comesBefore);
+    CheckedBook checked;
+    const AcceptedOnes accepted(settings.accepted);
+    for (const Finding &finding : findings)
+        (accepted.contain(finding) ? checked.accepted : checked.findings).append(finding);
+    return checked;
+}
+
+QString findingCounts(const QList<Finding> &findings)
+{
+    const auto count = [&findings](Severity severity) {
+        return static_cast<int>(
+            std::count_if(findings.begin(), findings.end(), [severity](const Finding &finding) {
+                return finding.severity() == severity;
+            }));
+    };
+    const auto counted = [](const char *text, int n) {
+        return QCoreApplication::translate("CheckBook", text, nullptr, n);
+    };
+    return counted(QT_TRANSLATE_N_NOOP("CheckBook", "%n faute(s)"), count(Severity::Fault)) +
+           QStringLiteral(", ") +
+           counted(QT_TRANSLATE_N_NOOP("CheckBook", "%n remarque(s)"), count(Severity::Remark));
+}
+
+AcceptedFinding accepted(const Finding &finding)
+{
+    return {finding.kind, finding.number, finding.sentenceHash()};
+}

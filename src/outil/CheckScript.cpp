@@ -1,0 +1,74 @@
+#include "check/CheckBook.h"
+#include "outil/CommandEntry.h"
+#include "outil/Commands.h"
+#include "outil/Script.h"
+#include "store/DamagedTexts.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+
+namespace
+{
+QByteArray lineOf(const Finding &finding)
+{
+    const QStringList columns{QString::fromUtf8(kindName(finding.kind)),
+                              QString::number(finding.number), finding.sentence()};
+    return columns.join(u'\t').toUtf8() + '\n';
+}
+
+QJsonObject objectOf(const Finding &finding)
+{
+    QJsonArray members;
+    if (finding.kind == FindingKind::Trap)
+        for (const int n : finding.members)
+            members.append(n);
+    return {{QStringLiteral("kind"), QString::fromUtf8(kindName(finding.kind))},
+            {QStringLiteral("severity"), QString::fromUtf8(severityName(finding.severity()))},
+            {QStringLiteral("number"), finding.number},
+            {QStringLiteral("target"), finding.target},
+            {QStringLiteral("members"), members},
+            {QStringLiteral("text"), finding.text}};
+}
+
+QByteArray jsonOf(const QList<Finding> &findings)
+{
+    QJsonArray list;
+    for (const Finding &finding : findings)
+        list.append(objectOf(finding));
+    return QJsonDocument(QJsonObject{{QStringLiteral("findings"), list}})
+               .toJson(QJsonDocument::Compact) +
+           '\n';
+}
+
+QByteArray controler(CommandServices &script, const QStringList &arguments)
+{
+    const QString form = arguments.value(0);
+    if (!form.isEmpty() && form != QStringLiteral("json"))
+        throw UsageError(Commands::tr("json attendu : %1").arg(form));
+    const PlainTexts texts = plainTexts(script.variables);
+    const QList<Finding> findings = CheckBook(script.variables, texts, {}).findings;
+    tellUnreadable(texts.unreadable, script.prompts);
+    if (std::any_of(findings.begin(), findings.end(),
+                    [](const Finding &f) { return f.severity() == Severity::Fault; }))
+        script.prompts.message(findingCounts(findings), Commands::tr("Contrôle du Livre"),
+                               Prompts::Buttons::Ok);
+    if (!form.isEmpty())
+        return jsonOf(findings);
+    QByteArray lines;
+    for (const Finding &finding : findings)
+        lines += lineOf(finding);
+    return lines;
+}
+} // namespace
+
+std::vector<CommandEntry> checkEntries()
+{
+    return {
+        {"controler", "[json]",
+         QT_TRANSLATE_NOOP("Commands", "écrit ce qui cloche dans le livre ; échoue s'il y a des "
+                                       "fautes"),
+         true, &controler},
+    };
+}
