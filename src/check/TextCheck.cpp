@@ -16,7 +16,7 @@ namespace
 bool canLink(const QString &phrase)
 {
     return std::all_of(phrase.begin(), phrase.end(), [](QChar c) {
-        return c >= u' ' && c <= u'~' && !QStringView(u"\\{}<>").contains(c);
+        return c >= u' ' && c <= u'~' && !QStringView(u"\\{}>").contains(c);
     });
 }
 

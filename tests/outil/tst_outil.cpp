@@ -205,6 +205,39 @@ melanger 4 9
         QCOMPARE(outcome.output.count('\n'), 1);
     }
 
+    void theBookIsChecked()
+    {
+        TestAdventure adventure;
+        const auto check = [&](const QStringList &lines, const QByteArray &command) {
+            const QString path =
+                adventure.file(QStringLiteral("a.usm"), AdventureBuilder(lines).bytes());
+            return run(adventure, {}, "ouvrir '" + path.toUtf8() + "'\n" + command + '\n');
+        };
+        const QStringList trap{QStringLiteral("1: Il fait nuit. Va au 2 ou au 4."),
+                               QStringLiteral("2: Il fait froid ici. Va au 3."),
+                               QStringLiteral("3: Il fait chaud ici. Va au 2."),
+                               QStringLiteral("4: Il fait beau ici maintenant (2).")};
+        const Outcome faulty = check(trap, "controler json");
+        QCOMPARE(faulty.status, 1);
+        QVERIFY(faulty.errors.contains(QStringLiteral("1 faute, 2 remarques")));
+        QCOMPARE(
+            QString::fromUtf8(faulty.output),
+            QStringLiteral(
+                "{\"findings\":["
+                "{\"kind\":\"piege\",\"members\":[2,3],\"number\":2,\"severity\":\"faute\","
+                "\"target\":0,\"text\":\"\"},"
+                "{\"kind\":\"fin\",\"members\":[],\"number\":4,\"severity\":\"remarque\","
+                "\"target\":0,\"text\":\"Il fait beau ici maintenant (2).\"},"
+                "{\"kind\":\"non-suivi\",\"members\":[],\"number\":4,\"severity\":\"remarque\","
+                "\"target\":0,\"text\":\"(2)\"}]}\n"));
+        const Outcome sound = check({QStringLiteral("1: Il fait nuit.")}, "controler");
+        QCOMPARE(sound.status, 0);
+        QCOMPARE(QString::fromUtf8(sound.output),
+                 QStringLiteral("fin\t1\tRien ne mène plus loin : est-ce une fin\u00a0?\n"
+                                "court\t1\tLe paragraphe a moins de cinq mots.\n")
+                     .replace(QStringLiteral(" :"), QStringLiteral("\u00a0:")));
+    }
+
     void theWholeIsListed()
     {
         TestAdventure adventure;
