@@ -25,7 +25,7 @@ public:
     explicit AcceptedOnes(const QList<AcceptedFinding> &accepted)
     {
         for (const AcceptedFinding &entry : accepted)
-            m_hashes.insert(keyOf(entry.kind, entry.number), entry.sentenceHash);
+            m_hashes.insert({entry.kind, entry.number}, entry.sentence);
     }
 
     bool contain(const Finding &finding) const
@@ -39,18 +39,14 @@ public:
     }
 
 private:
-    static int keyOf(FindingKind kind, int n)
-    {
-        return n * FindingKindCount + static_cast<int>(kind);
-    }
-
     bool contain(const Finding &finding, int n) const
     {
-        const int key = keyOf(finding.kind, n);
+        const Key key(QString::fromUtf8(kindName(finding.kind)), n);
         return m_hashes.contains(key) && m_hashes.contains(key, finding.sentenceHash());
     }
 
-    QMultiHash<int, QByteArray> m_hashes;
+    using Key = std::pair<QString, int>;
+    QMultiHash<Key, QByteArray> m_hashes;
 };
 } // namespace
 
@@ -96,5 +92,5 @@ QString findingCounts(const QList<Finding> &findings)
 
 AcceptedFinding accepted(const Finding &finding)
 {
-    return {finding.kind, finding.number, finding.sentenceHash()};
+    return {QString::fromUtf8(kindName(finding.kind)), finding.number, finding.sentenceHash()};
 }

@@ -2,22 +2,14 @@
 
 #include "check/Finding.h"
 #include "check/PlainTexts.h"
+#include "store/extras/AdventureExtras.h"
 
 struct Variables;
 
-// A finding that the author has put aside. It counts as long as the sentence stays that it speaks
-// of; its number is carried along by renumberings.
-struct AcceptedFinding {
-    FindingKind kind;
-    int number; // for a trap that of any of its members
-    QByteArray sentenceHash;
-
-    bool operator==(const AcceptedFinding &) const = default;
-};
-
-// What the author has set for the check of a book.
+// What the author has set for the check of a book, as AdventureExtras keeps it.
 struct CheckSettings {
     QList<int> starts; // where readings begin, see BookWays
+    // A trap is put aside by the number of any of its members.
     QList<AcceptedFinding> accepted;
 };
 
