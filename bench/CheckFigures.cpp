@@ -22,10 +22,9 @@ void printCheckFigures(const QString &path, const QString &folder)
         printFigure(name, milliseconds, QStringLiteral("ms"));
     };
     print(QStringLiteral("check 2000 paragraphs, their texts at hand"),
-          medianMilliseconds(Runs, nothing, [&] { CheckBook(variables, texts, {}); }));
+          medianMilliseconds(Runs, nothing, [&] { CheckBook(variables, texts); }));
     print(QStringLiteral("check them, of which the ways alone"),
-          medianMilliseconds(Runs, nothing, [&] { wayFindings(BookWays(variables, {})); }));
-    print(QStringLiteral("check them from a cold start"), medianMilliseconds(Runs, nothing, [&] {
-              CheckBook(variables, plainTexts(variables), {});
-          }));
+          medianMilliseconds(Runs, nothing, [&] { wayFindings(BookWays(variables)); }));
+    print(QStringLiteral("check them from a cold start"),
+          medianMilliseconds(Runs, nothing, [&] { CheckBook(variables, plainTexts(variables)); }));
 }

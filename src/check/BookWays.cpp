@@ -31,12 +31,12 @@ void removeZero(ReferenceWeb &web)
 }
 } // namespace
 
-BookWays::BookWays(const Variables &variables, const QList<int> &wantedStarts) : web(variables)
+BookWays::BookWays(const Variables &variables) : web(variables)
 {
     removeZero(web);
     for (int n = 1; n <= Variables::LastParagraph; ++n)
         written.at(n) = variables.Written.at(n) == 1;
-    starts = startsOf(written, wantedStarts);
+    starts = startsOf(written, readingStarts(variables));
     reached = connected(web.outgoing, starts);
     QList<int> ends;
     for (int n = 1; n <= Variables::LastParagraph; ++n) {

@@ -10,12 +10,10 @@ struct Variables;
 // Where readings of an adventure come to. Paragraph 0 is no part of the book: no reference can lead
 // to it.
 struct BookWays {
-    // Readings begin at these numbers; those without a text are passed over. When none is left they
-    // begin at 1, or at the lowest written number when 1 is empty.
-    BookWays(const Variables &variables, const QList<int> &starts);
+    explicit BookWays(const Variables &variables);
 
     ReferenceWeb web;
-    QList<int> starts;
+    QList<int> starts; // those of readingStarts() that are written, or the lowest number that is
     ParagraphSet written;
     ParagraphSet reached;   // by a reading; numbers without a text too
     ParagraphSet endable;   // from here a reading can come to an ending or to an empty number

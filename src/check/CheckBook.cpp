@@ -50,10 +50,9 @@ private:
 };
 } // namespace
 
-CheckedBook CheckBook(const Variables &variables, const PlainTexts &texts,
-                      const CheckSettings &settings)
+CheckedBook CheckBook(const Variables &variables, const PlainTexts &texts)
 {
-    const BookWays ways(variables, settings.starts);
+    const BookWays ways(variables);
     QList<Finding> findings = wayFindings(ways);
     for (Finding &finding : findings) {
         const QString &text = texts.texts.at(finding.number);
@@ -68,7 +67,7 @@ CheckedBook CheckBook(const Variables &variables, const PlainTexts &texts,
                 check.findings(n, texts.unreadable.contains(n) ? nullptr : &texts.texts.at(n));
     std::sort(findings.begin(), findings.end(), comesBefore);
     CheckedBook checked;
-    const AcceptedOnes accepted(settings.accepted);
+    const AcceptedOnes accepted(variables.extras.accepted);
     for (const Finding &finding : findings)
         (accepted.contain(finding) ? checked.accepted : checked.findings).append(finding);
     return checked;

@@ -6,26 +6,19 @@
 
 struct Variables;
 
-// What the author has set for the check of a book, as AdventureExtras keeps it.
-struct CheckSettings {
-    QList<int> starts; // where readings begin, see BookWays
-    // A trap is put aside by the number of any of its members.
-    QList<AcceptedFinding> accepted;
-};
-
 // By kinds in their order, then numbers, then places.
 struct CheckedBook {
     QList<Finding> findings;
     QList<Finding> accepted; // those that were put aside
 };
 
-// Checks the whole open adventure: its reference index and these texts. Takes time as the texts and
-// the references are long and many.
-CheckedBook CheckBook(const Variables &variables, const PlainTexts &texts,
-                      const CheckSettings &settings);
+// Checks the whole open adventure: its reference index and these texts, from the starts that its
+// extras name and without what is accepted there. Takes time as the texts and the references are
+// long and many.
+CheckedBook CheckBook(const Variables &variables, const PlainTexts &texts);
 
 // "3 fautes, 12 remarques"; notes are not counted.
 QString findingCounts(const QList<Finding> &findings);
 
-// How a finding is put aside.
+// How a finding is put aside. A trap that has been counts by any of its members.
 AcceptedFinding accepted(const Finding &finding);

@@ -2,6 +2,7 @@
 #include "outil/CommandEntry.h"
 #include "outil/Commands.h"
 #include "outil/Script.h"
+#include "store/AdventureChanges.h"
 #include "store/DamagedTexts.h"
 
 #include <QJsonArray>
@@ -48,7 +49,7 @@ QByteArray controler(CommandServices &script, const QStringList &arguments)
     if (!form.isEmpty() && form != QStringLiteral("json"))
         throw UsageError(Commands::tr("json attendu : %1").arg(form));
     const PlainTexts texts = plainTexts(script.variables);
-    const QList<Finding> findings = CheckBook(script.variables, texts, {}).findings;
+    const QList<Finding> findings = CheckBook(script.variables, texts).findings;
     tellUnreadable(texts.unreadable, script.prompts);
     if (std::any_of(findings.begin(), findings.end(),
                     [](const Finding &f) { return f.severity() == Severity::Fault; }))
@@ -61,6 +62,29 @@ QByteArray controler(CommandServices &script, const QStringList &arguments)
         lines += lineOf(finding);
     return lines;
 }
+
+bool isAbout(const Finding &finding, int n)
+{
+    return finding.number == n ||
+           (finding.kind == FindingKind::Trap && finding.members.contains(n));
+}
+
+// All findings of the kind that there are at the number.
+QByteArray accepter(CommandServices &script, const QStringList &arguments)
+{
+    const QString kind = arguments.first();
+    const int n = paragraphNumber(arguments.last());
+    const PlainTexts texts = plainTexts(script.variables);
+    AdventureExtras extras = script.variables.extras;
+    for (const Finding &finding : CheckBook(script.variables, texts).findings)
+        if (QString::fromUtf8(kindName(finding.kind)) == kind && isAbout(finding, n))
+            extras.accepted.append(accepted(finding));
+    if (extras == script.variables.extras)
+        script.prompts.message(Commands::tr("Rien de tel à accepter : %1 %2").arg(kind).arg(n),
+                               Commands::tr("Contrôle du Livre"), Prompts::Buttons::Ok);
+    changeExtras(script.variables, extras);
+    return {};
+}
 } // namespace
 
 std::vector<CommandEntry> checkEntries()
@@ -70,5 +94,8 @@ std::vector<CommandEntry> checkEntries()
          QT_TRANSLATE_NOOP("Commands", "écrit ce qui cloche dans le livre ; échoue s'il y a des "
                                        "fautes"),
          true, &controler},
+        {"accepter", "SORTE N",
+         QT_TRANSLATE_NOOP("Commands", "met de côté ce que controler dit de cette sorte au N"),
+         true, &accepter},
     };
 }

@@ -15,10 +15,7 @@ struct TextBook {
         RecomputeWrittenRange(variables);
     }
 
-    QList<Finding> findings(const CheckSettings &settings = {}) const
-    {
-        return CheckBook(variables, texts, settings).findings;
-    }
+    QList<Finding> findings() const { return CheckBook(variables, texts).findings; }
 
     Variables variables;
     PlainTexts texts;

@@ -25,7 +25,7 @@ public:
         std::iota(m_free.begin(), m_free.end(), 1);
         std::shuffle(m_free.begin(), m_free.end(), m_random);
         m_ways = {newNumber()};
-        start = m_ways.first();
+        variables.extras.starts = m_ways;
         for (int i = 0; i < 60; ++i)
             m_ways.append(newNumber());
         m_texts.resize(401);
@@ -41,7 +41,6 @@ public:
                 write(n, m_texts.at(n).trimmed());
     }
 
-    int start;
     QStringList expected;
 
 private:
@@ -229,7 +228,7 @@ private Q_SLOTS:
         for (quint32 seed = 1; seed <= 20; ++seed) {
             PlantedBook book(seed);
             book.expected.sort();
-            const QStringList found = shortly(book.findings({{book.start}, {}}));
+            const QStringList found = shortly(book.findings());
             QVERIFY2(found == book.expected,
                      qPrintable(QString("seed %1: %2 instead of %3")
                                     .arg(QString::number(seed), found.join("; "),
@@ -248,10 +247,10 @@ private Q_SLOTS:
             for (int edge = random.bounded(8, 24); edge > 0; --edge)
                 refer(variables, random.bounded(1, count + 1), random.bounded(1, count + 1));
             RecomputeWrittenRange(variables);
-            QList<int> starts{1};
+            QList<int> &starts = variables.extras.starts = {1};
             if (seed % 3 == 0 && variables.Written.at(5) == 1)
                 starts.append(5);
-            QList<Finding> found = CheckBook(variables, {}, {starts, {}}).findings;
+            QList<Finding> found = CheckBook(variables, {}).findings;
             found.removeIf([&](const Finding &f) { return !ofWays.contains(kindName(f.kind)); });
             QCOMPARE(shortly(found), SlowModel(variables, count, starts).findings());
             for (const Finding &trap : found) {
@@ -286,7 +285,9 @@ private Q_SLOTS:
     {
         QFETCH(QString, book);
         QFETCH(QList<int>, starts);
-        const QList<Finding> found = CheckBook(referring(book), {}, {starts, {}}).findings;
+        Variables variables = referring(book);
+        variables.extras.starts = starts;
+        const QList<Finding> found = CheckBook(variables, {}).findings;
         QMap<QString, int> counts;
         for (const Finding &finding : found) {
             ++counts[kindName(finding.kind)];
@@ -311,14 +312,14 @@ private Q_SLOTS:
         for (const auto &[name, text, stays] : table) {
             TextBook book;
             book.write(1, "Il dort. Fuyez au 012 ou au 012. Fin.");
-            CheckSettings settings;
+            QList<AcceptedFinding> &aside = book.variables.extras.accepted;
             for (const Finding &finding : book.findings())
                 if (finding.kind == FindingKind::Doubtful)
-                    settings.accepted.append(accepted(finding));
-            QCOMPARE(settings.accepted.size(), 2);
-            settings.accepted.removeLast(); // each of the two counts alone
+                    aside.append(accepted(finding));
+            QCOMPARE(aside.size(), 2);
+            aside.removeLast(); // each of the two counts alone
             book.write(1, QString(text).replace("%1", "12").replace("%2", "1234"));
-            const QStringList found = shortly(book.findings(settings));
+            const QStringList found = shortly(book.findings());
             QCOMPARE(found.count("douteux 1"), stays ? 1 : 2);
         }
     }

@@ -1,5 +1,6 @@
 #include "check/TextBook.h"
 #include "convert/html/RtfToHtml.h"
+#include "store/references/DoubtfulReferences.h"
 #include "support/AdventureBuilder.h"
 #include "support/TestTable.h"
 
@@ -42,6 +43,7 @@ private Q_SLOTS:
              {"far beyond", " au ", "Rendez-vous au paragraphe 23456.",
               "hors-limites: au paragraphe 23456"},
              {"large sum", " au ", "Il tient au 900 000 et au 5000 francs.", ""},
+             {"line end", " au ", "Un.\r\nVa au  \r\n 12, oui.", "non-suivi: 12"},
              {"capitals", " au ", "RENDEZ-VOUS AU 12.", "sans-lien: AU 12"},
              {"own phrase", " vers ", "Va vers 12, vers paragraphe 13.",
               "non-suivi: vers paragraphe 13"},

@@ -3,7 +3,6 @@
 #include "platform/Ascii.h"
 #include "store/DamagedTexts.h"
 #include "store/ReferenceIndex.h"
-#include "store/references/ReferenceMends.h"
 
 #include <algorithm>
 
@@ -76,6 +75,27 @@ bool isGarbled(const ReferenceMark &mark, QStringView text, const QString &phras
         return false;
     const QStringView digits = text.mid(mark.digits, endOfDigits(text, mark.digits) - mark.digits);
     return mark.digits != behindPhrase(mark, phrase) || digits != QString::number(mark.read);
+}
+
+QList<Mend> mendsInText(ReferenceMark mark, const QString &text, const QString &phrase)
+{
+    const qsizetype start = text.lastIndexOf(u'\n', mark.position) + 1;
+    const QString line = text.mid(start).section(u'\r', 0, 0);
+    const QString previous = text.left(start).chopped(start > 0 ? 2 : 0).section(u'\n', -1);
+    mark.position -= start;
+    mark.digits -= start;
+    QList<Mend> mends = mendsOf(mark, line, previous, phrase);
+    for (Mend &mend : mends) {
+        for (Replacement &part : mend.replacements) {
+            // In a line the break before it is one character, and two in a text.
+            if (part.position < 0) {
+                part.length += part.position + part.length >= 0 ? 1 : 0;
+                --part.position;
+            }
+            part.position += start;
+        }
+    }
+    return mends;
 }
 
 QList<Replacement> mendsOfGarbled(const QString &text, const QString &phrase)

@@ -2,6 +2,7 @@
 
 #include "richtext/Replacements.h"
 #include "store/references/ReferenceMarks.h"
+#include "store/references/ReferenceMends.h"
 
 #include <QList>
 #include <QString>
@@ -27,6 +28,9 @@ QList<DoubtfulReference> doubtfulReferences(const Variables &variables, QList<in
 // changes or not. As many characters directly behind the phrase are replaced as the number that is
 // read has digits: something is left over, or taken away, unless just these digits stand there.
 bool isGarbled(const ReferenceMark &mark, QStringView text, const QString &phrase);
+
+// As mendsOf(), for a mark whose place is in a whole text; so are those of the replacements.
+QList<Mend> mendsInText(ReferenceMark mark, const QString &text, const QString &phrase);
 
 // What mends the references of a text that would be garbled, ascending: for each the mend after
 // which it leads where it leads now, if there is one, else the first that the author is offered.
