@@ -114,8 +114,11 @@ Doubt doubtByWhatFollows(QStringView behind, qsizetype digits, bool french)
 {
     static const QRegularExpression pairs = pattern("^(?:[\\s.\\-]\\d\\d){3,}(?!\\d)");
     static const QRegularExpression groups = pattern("^(?:[\\s.\\-]\\d{2,3}){2,}(?!\\d)");
-    // Most references end at a comma or the like, behind which there is nothing to look at.
+    // Most references end at a comma or the like, behind which there is nothing to look at, or at
+    // a stop, behind which more digits may be.
     if (behind.isEmpty() || QStringView(u",;:!?)").contains(behind.front()))
+        return Doubt::None;
+    if (behind.front() == u'.' && (behind.size() == 1 || !isAsciiDigit(behind.at(1))))
         return Doubt::None;
     const QString text = behind.left(LookAlikeContext).toString();
     if ((digits <= 2 && pairs.match(text).hasMatch()) ||

@@ -206,12 +206,13 @@ private:
 
     void findUnread(qsizetype from, qsizetype to)
     {
-        for (qsizetype at = from; at < to;) {
+        const auto nextDigit = [&](qsizetype at) {
+            return std::find_if(m_line.begin() + std::min(at, to), m_line.begin() + to,
+                                isAsciiDigit) -
+                   m_line.begin();
+        };
+        for (qsizetype at = nextDigit(from); at < to; at = nextDigit(at)) {
             const QStringView digits = digitsAt(m_line, at);
-            if (digits.isEmpty()) {
-                ++at;
-                continue;
-            }
             if (const std::optional<ReferenceMark> mark = unread(at, digits))
                 if (m_marks.isEmpty() ||
                     mark->position >= m_marks.last().position + m_marks.last().length)
