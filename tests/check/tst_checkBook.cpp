@@ -193,20 +193,19 @@ private:
         return *std::min_element(set.begin(), set.end());
     }
 
+    // The lowest that leads to n, or is n, and is led to only by those that it leads to.
     QString hook(int n) const
     {
         for (int root = 1; root <= m_count; ++root) {
-            if (!written(root) || reached(root) || (root != n && !m_leads[root][n]))
+            QList<int> before; // others that lead to it
+            for (int m = 1; m <= m_count; ++m)
+                if (m != root && m_leads[m][root])
+                    before.append(m);
+            const bool isRoot =
+                std::all_of(before.begin(), before.end(), [&](int m) { return m_leads[root][m]; });
+            if (!isRoot || !written(root) || (root != n && !m_leads[root][n]))
                 continue;
-            bool isRoot = true;
-            bool ring = false;
-            for (int m = 1; m <= m_count; ++m) {
-                const bool leads = m != root && written(m) && m_leads[m][root];
-                isRoot = isRoot && (!leads || m_leads[root][m]);
-                ring = ring || (leads && m_leads[root][m]);
-            }
-            if (isRoot)
-                return root == n && !ring ? QString() : QString::number(root);
+            return root == n && before.isEmpty() ? QString() : QString::number(root);
         }
         return "?";
     }
