@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Makes every file call of every command go wrong, in every way: some minutes.
-# scripts/faults.sh --every 15 takes every fifteenth call, and is what continuous integration runs.
+# scripts/faults.sh --every 20 takes every twentieth call, and is what continuous integration runs.
 cd "$(dirname "$0")/.."
 . scripts/setup.sh
 

@@ -1,16 +1,16 @@
 #!/usr/bin/env bash
 # Feeds bytes that nobody has written to everything that reads files: scripts/fuzz.sh [INPUTS] [TARGET...]
-# One line for each target; what it stumbles over stays in build/fuzz/found.
+# One line for each target; what it stumbles over stays in build/found.
 cd "$(dirname "$0")/.."
 . scripts/setup.sh
 
 inputs=${1:-100000}
 shift || true
 install_missing "${PACKAGES[@]}" clang libclang-rt-14-dev
-build fuzz usmira-fuzz
+build asan usmira-fuzz
 
-fuzz=$PWD/build/fuzz/fuzz/usmira-fuzz
-found=$PWD/build/fuzz/found
+fuzz=$PWD/build/asan/fuzz/usmira-fuzz
+found=$PWD/build/found
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$found"

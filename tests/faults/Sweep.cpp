@@ -1,5 +1,6 @@
 #include "Sweep.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -26,12 +27,13 @@ QByteArray comparable(const QByteArray &state)
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
-// Every message of a failed write or read is one of these, whatever reason stands behind it.
+// Every message of a failed write or read is one of these, whatever reason stands behind it. A
+// command whose step could not be kept is not taken back, and all that was written stays.
 bool isKnownMessage(const QByteArray &errors)
 {
     static const QRegularExpression words(
         QStringLiteral("^(BUG|Songez-y|Attention !|Usmira) : .*(écriture|enregistré|lecture|"
-                       "Opération annulée|illisible)"),
+                       "Opération annulée|illisible)|^Zut : Rien n'a été annulé"),
         QRegularExpression::MultilineOption);
     return words.match(QString::fromUtf8(errors)).hasMatch();
 }
@@ -74,6 +76,7 @@ const QList<Mode> &modes()
         {QStringLiteral("arrêt avant"), Fault::KillBefore, EIO, false},
         {QStringLiteral("arrêt après"), Fault::KillAfter, EIO, false},
         {QStringLiteral("arrêt, reprises arrêtées"), Fault::KillBefore, EIO, true},
+        {QStringLiteral("aventure emportée"), Fault::Vanish, EIO, false},
     };
     return all;
 }
@@ -142,7 +145,17 @@ QString Sweep::fault(const Mode &mode, int call) const
         return QStringLiteral("the call was not reached");
     if (mode.restartsKilled)
         restartKilled();
+    putBack();
     return loss(result);
+}
+
+// Whoever took the adventure away brings it back, unless another has been saved in its place.
+void Sweep::putBack() const
+{
+    const QString adventure = m_run.folder() + QStringLiteral("/a.usm");
+    const QString away = m_run.folder() + QStringLiteral("/a.away");
+    if (!QFile::rename(away, adventure))
+        QFile::remove(away);
 }
 
 void Sweep::begin() const

@@ -28,7 +28,8 @@ struct Tally {
 // A run that failed has said why and left everything as before or as after the step that failed;
 // one that succeeded has done everything. After a kill, the next start recovers the state before or
 // after the step that was cut off, unsaved work and all. In all cases the program then works, and
-// no file of the fault is left but those set aside.
+// no file of the fault is left but those set aside. An adventure that somebody takes away is saved
+// again, or is whole where it was taken to.
 class Sweep
 {
 public:
@@ -59,6 +60,7 @@ private:
     QString compare(const State &found, const QList<State> &allowed) const;
     QString next() const;
     void restartKilled() const;
+    void putBack() const;
 
     const ToolRun &m_run;
     const Operation &m_operation;

@@ -84,7 +84,7 @@ private:
         }
     }
 
-    // In every mode that meets a call of its.
+    // In every mode that meets a call of its, and does something to it.
     bool controlLoses() const
     {
         const QTemporaryDir folder(folderTemplate());
@@ -95,7 +95,8 @@ private:
             const Tally tally = naiveControl(run, start, mode);
             std::printf("naive control, %s: survived %d of %d\n", qUtf8Printable(mode.name),
                         tally.survived, tally.tried);
-            loses = loses && (tally.survived < tally.tried || mode.error == EXDEV);
+            loses = loses && (tally.survived < tally.tried || mode.error == EXDEV ||
+                              mode.fault == FaultyCalls::Fault::Vanish);
         }
         std::puts(loses ? "the naive control loses, as it must"
                         : "the naive control must lose: the sweep finds nothing");

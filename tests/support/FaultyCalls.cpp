@@ -68,6 +68,19 @@ bool isWatched(int folder, const char *path)
     return isWatched((std::string(target, static_cast<std::size_t>(length)) + '/' + path).c_str());
 }
 
+template <typename Function> Function systemFunction(const char *name, Function /*type*/)
+{
+    return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
+}
+
+// As another program does it: a cloud client, or a hand that tidies up.
+void takeAway(const std::string &prefix)
+{
+    const int before = errno;
+    systemFunction("rename", &::rename)((prefix + "a.usm").c_str(), (prefix + "a.away").c_str());
+    errno = before;
+}
+
 // Makes the call, or what the plan has for it. half() does half of it, of a write.
 template <typename Call, typename Half>
 auto counted(bool watched, Kind kind, Call call, Half half) -> decltype(call())
@@ -81,7 +94,9 @@ auto counted(bool watched, Kind kind, Call call, Half half) -> decltype(call())
         errno = p.error;
         return -1;
     }
-    if (number != p.call || p.fault == Fault::None)
+    if (number == p.call && p.fault == Fault::Vanish)
+        takeAway(p.prefix);
+    if (number != p.call || p.fault == Fault::None || p.fault == Fault::Vanish)
         return call();
     if (p.fault == Fault::Kill || p.fault == Fault::Short) {
         const auto done = half();
@@ -96,11 +111,6 @@ auto counted(bool watched, Kind kind, Call call, Half half) -> decltype(call())
 template <typename Call> auto counted(bool watched, Kind kind, Call call) -> decltype(call())
 {
     return counted(watched, kind, call, [] { return decltype(call())(-1); });
-}
-
-template <typename Function> Function systemFunction(const char *name, Function /*type*/)
-{
-    return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
 }
 
 template <typename Function, typename... Arguments>
