@@ -61,6 +61,7 @@ void HistoryMenu::showList(const Items &items, CommandRunner &runner)
     using Kind = CommandRunner::Kind;
     if (!m_list) {
         m_list = std::make_unique<HistoryWindow>(m_variables, &m_window);
+        m_list->addActions({&items.takeBack, &items.redo}); // their shortcuts work there too
         QObject::connect(m_list.get(), &HistoryWindow::takeBackWanted, m_list.get(),
                          [this, &runner](int id) {
                              runner.run(Kind::Rewriting, [&] { m_commands.takeBackTo(id); });

@@ -34,7 +34,7 @@ const Kind &entryOf(FindingKind kind)
 }
 
 // A renumbering changes the numbers, which changes nothing about what the author has accepted.
-QString withoutNumbers(QString text)
+QString withoutNumbers(const QString &text)
 {
     static const QRegularExpression digits(QStringLiteral("[0-9]+"));
     return text.simplified().replace(digits, QStringLiteral("#"));

@@ -52,8 +52,8 @@ private:
             m_told.at(n) = true;
         };
         meet(start);
-        for (qsizetype at = 0; at < members.size(); ++at) {
-            const int n = members.at(at);
+        for (qsizetype next = 0; next < members.size();) { // they become more on the way
+            const int n = members.at(next++);
             std::for_each(m_ways.web.outgoing.at(n).begin(), m_ways.web.outgoing.at(n).end(), meet);
             std::for_each(m_ways.web.incoming.at(n).begin(), m_ways.web.incoming.at(n).end(), meet);
         }

@@ -72,7 +72,7 @@ bool isAbout(const Finding &finding, int n)
 // All findings of the kind that there are at the number.
 QByteArray accepter(CommandServices &script, const QStringList &arguments)
 {
-    const QString kind = arguments.first();
+    const QString &kind = arguments.first();
     const int n = paragraphNumber(arguments.last());
     const PlainTexts texts = plainTexts(script.variables);
     AdventureExtras extras = script.variables.extras;

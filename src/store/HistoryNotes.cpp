@@ -9,6 +9,7 @@
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 
+#include <QFileInfo>
 #include <algorithm>
 
 namespace
@@ -29,7 +30,8 @@ CommandHistory::Command noteStep(const Variables &variables, int id, HistoryStep
     CommandHistory::Command command;
     try {
         makeSessionFolder(variables.WorkingFolder);
-        const qint64 size = writeStep(WorkingFiles(variables).step(id), step, textBefore);
+        const QString path = WorkingFiles(variables).step(id);
+        const qint64 size = writeStep(path, QFileInfo(path).fileName(), step, textBefore);
         command = CommandHistory::commandOf(id, step, size);
     } catch (const UsmiraError &) {
         command = CommandHistory::commandOf(id, step, 0);
@@ -104,7 +106,8 @@ void amendLast(Variables &variables, int n)
             paragraph->second.after == storedState(variables, n))
             return;
         paragraph->second.after = storedState(variables, n);
-        writeStep(amended, step, [&](int k) { return file.textBefore(k); });
+        writeStep(amended, QFileInfo(path).fileName(), step,
+                  [&](int k) { return file.textBefore(k); });
         renameFile(amended, path);
     } catch (const UsmiraError &) {
         tryRemoveFile(amended);

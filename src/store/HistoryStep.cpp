@@ -46,9 +46,10 @@ QByteArray paragraphLine(int n, const HistoryStep::Paragraph &paragraph)
     return line + "\r\n";
 }
 
-QByteArray stepLines(const HistoryStep &step)
+QByteArray stepLines(const QString &name, const HistoryStep &step)
 {
     QByteArray lines = QByteArray(FirstLine) + "\r\n";
+    lines += "file " + wordOf(name) + "\r\n";
     lines += "title " + wordOf(step.title) + "\r\n";
     lines += "time " + QByteArray::number(step.time.toMSecsSinceEpoch()) + "\r\n";
     lines += "phrase " + wordOf(step.targetPhrase) + "\r\n";
@@ -214,7 +215,7 @@ int movedParagraphs(const HistoryStep &step)
         }));
 }
 
-qint64 writeStep(const QString &path, HistoryStep &step,
+qint64 writeStep(const QString &path, const QString &name, HistoryStep &step,
                  const std::function<QByteArray(int)> &textBefore)
 {
     LaterFile file(path);
@@ -234,7 +235,7 @@ qint64 writeStep(const QString &path, HistoryStep &step,
         return entry.second.before == entry.second.after && !isMoved(step, entry.first);
     });
     const qint64 bytesOfText = file.position();
-    file.write(stepLines(step));
+    file.write(stepLines(name, step));
     file.write(lastLine(bytesOfText));
     const qint64 size = file.position();
     file.finish();
@@ -269,7 +270,8 @@ bool StepFile::readLines()
     const QByteArray lines = m_file.read(size - LengthOfLast - bytesOfText);
     StepReader reader;
     const auto take = [&](const QList<QByteArray> &words) { return reader.readLine(words); };
-    if (!readSummed(lines, take) || !canBe(reader.step()) || stepLines(reader.step()) != lines)
+    if (!readSummed(lines, take) || !canBe(reader.step()) ||
+        stepLines(QFileInfo(path()).fileName(), reader.step()) != lines)
         return false;
     m_step = reader.step();
     return placeTexts(bytesOfText);

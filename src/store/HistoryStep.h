@@ -39,6 +39,7 @@ struct ParagraphFacts {
 // end in CR LF, and last where they begin:
 //
 //   Usmira Annuler 1
+//   file Annuler-0007.xyz                     no other command's
 //   title MasterMix%201%20%C3%A0%20400        percent-encoded
 //   time 1763771760000                        milliseconds since 1970
 //   phrase %20au%20                           the target phrase that the references go by
@@ -89,11 +90,12 @@ private:
 // All steps together take no more than this, in bytes.
 constexpr qint64 LargestHistory = qint64{256} * 1024 * 1024;
 
-// Writes a step, to be on the disk after syncFileSystem(). textBefore is asked for the texts of the
+// Writes a step, to be on the disk after syncFileSystem(); name is that of the file in the end, see
+// above. textBefore is asked for the texts of the
 // written paragraphs, ascending; what they are known by is filled in, and paragraphs that do not
 // differ are left out. Returns the size of the file. Throws UsmiraError, and there is no file: when
 // it cannot be written, is too large, or a text cannot be read.
-qint64 writeStep(const QString &path, HistoryStep &step,
+qint64 writeStep(const QString &path, const QString &name, HistoryStep &step,
                  const std::function<QByteArray(int)> &textBefore);
 
 // A step that was written.

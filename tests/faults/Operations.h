@@ -9,7 +9,8 @@ struct Operation {
     QStringList steps;    // behind opening "@/a.usm", which is the first step of all
     QStringList products; // other files that they write
     QStringList next;     // what the author does next; it must work, and leave nothing of the fault
-    // Marks, the target phrase and where readings start are changed at once, whether or not that can be written down.
+    // Marks, the target phrase and where readings start are changed at once, whether or not that
+    // can be written down.
     bool onlyInMemory = false;
     bool silent = false; // what fails may be said in the status line alone, which a script lacks
 };

@@ -468,6 +468,11 @@ private Q_SLOTS:
              {"a line", change([](QByteArray &b) { b.replace("\nrange 0001", "\nrange 0002"); })},
              {"another step", change([](QByteArray &b) { b = "Usmira Annuler 1\r\n"; })},
              {"a folder", [](const QString &path) { QFile::remove(path) && QDir().mkpath(path); }},
+             {"that of the first command",
+              [](const QString &path) {
+                  QFile::remove(path);
+                  QVERIFY(QFile::copy(QString(path).replace("0002", "0001"), path));
+              }},
              {"a link", [](const QString &path) {
                   QFile::rename(path, path + ".away") && QFile::link(path + ".away", path);
               }}});

@@ -11,6 +11,7 @@
 #include "store/WorkingFiles.h"
 
 #include <algorithm>
+#include <tuple>
 
 using Command = CommandHistory::Command;
 
@@ -95,8 +96,15 @@ HistoryCommands::Steps HistoryCommands::stepsOf(Way way, int count) const
     const QList<Command> &commands = way == Way::Back ? history.done() : history.undone();
     const WorkingFiles files(m_variables);
     Steps steps;
-    for (qsizetype i = commands.size() - 1; i >= commands.size() - count; --i)
-        steps.append({commands.at(i), std::make_shared<StepFile>(files.step(commands.at(i).id))});
+    for (qsizetype i = commands.size() - 1; i >= commands.size() - count; --i) {
+        const Command &command = commands.at(i);
+        const auto file = std::make_shared<StepFile>(files.step(command.id));
+        const HistoryStep &step = file->step();
+        if (std::tie(step.title, step.time, step.numbers) !=
+            std::tie(command.title, command.time, command.numbers))
+            throw StepLost(file->path()); // that of another session
+        steps.append({command, file});
+    }
     return steps;
 }
 
