@@ -224,6 +224,30 @@
     </message>
 </context>
 <context>
+    <name>StatisticsText</name>
+    <message numerus="yes">
+        <source>%n mot(s)</source>
+        <translation>
+            <numerusform>%n mot</numerusform>
+            <numerusform>%n mots</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lecture(s) au hasard, graine %1</source>
+        <translation>
+            <numerusform>%n lecture au hasard, graine %1</numerusform>
+            <numerusform>%n lectures au hasard, graine %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lecture(s) prise(s) dans une boucle : %1</source>
+        <translation>
+            <numerusform>%n lecture prise dans une boucle : %1</numerusform>
+            <numerusform>%n lectures prises dans une boucle : %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>StatusLine</name>
     <message numerus="yes">
         <source>%n mot(s)</source>

@@ -1,6 +1,6 @@
 #include "check/BookWays.h"
 
-#include "store/Variables.h"
+#include "store/ReferenceIndex.h"
 
 #include <algorithm>
 
@@ -46,6 +46,15 @@ BookWays::BookWays(const Variables &variables) : web(variables)
         hasEnding = hasEnding || written.at(n);
     }
     endable = connected(web.incoming, ends);
+}
+
+QList<int> choicesAt(const Variables &variables, int n)
+{
+    if (variables.Written.at(n) == 0)
+        return {};
+    QList<int> choices = referredParagraphs(variables.refIndex.at(n));
+    choices.removeAll(0); // no number of the book
+    return choices;
 }
 
 ParagraphSet connected(const ParagraphArray<QList<int>, ParagraphSet::count()> &lists,

@@ -20,6 +20,10 @@ struct BookWays {
     bool hasEnding = false; // a reading comes to a written paragraph without references
 };
 
+// The choices that paragraph n gives, which is 1..2000: its references in the order of the text,
+// one that the text repeats each time. An empty number gives none.
+QList<int> choicesAt(const Variables &variables, int n);
+
 // What can be come to from these paragraphs, they included, by the lists of a web: outgoing or
 // incoming.
 ParagraphSet connected(const ParagraphArray<QList<int>, ParagraphSet::count()> &lists,

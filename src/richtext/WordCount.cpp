@@ -1,5 +1,7 @@
 #include "richtext/WordCount.h"
 
+#include <algorithm>
+
 namespace
 {
 bool isHyphen(QChar c)
@@ -24,4 +26,11 @@ int countWords(QStringView text, int most)
         }
     }
     return words;
+}
+
+int countSigns(QStringView text)
+{
+    return static_cast<int>(std::count_if(text.begin(), text.end(), [](QChar c) {
+        return c != u'\r' && c != u'\n' && !c.isLowSurrogate() && !c.isMark();
+    }));
 }
