@@ -7,6 +7,7 @@
 #include "GraphFigures.h"
 #include "HistoryFigures.h"
 #include "MergeFigures.h"
+#include "ReadingFigures.h"
 #include "ReferenceFigures.h"
 #include "RenumberFigures.h"
 #include "SearchFigures.h"
@@ -44,6 +45,7 @@ int main(int argc, char *argv[])
     printTypingFigures(path, folder.path());
     printReferenceFigures(path, folder.path());
     printCheckFigures(path, folder.path());
+    printReadingFigures(path, folder.path());
     printGraphFigures(path, folder.path());
     printViewsFigures(path, folder.path());
     printWindowFigures(path, folder.path());

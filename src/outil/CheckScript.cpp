@@ -1,7 +1,6 @@
 #include "check/CheckBook.h"
 #include "outil/CommandEntry.h"
 #include "outil/Commands.h"
-#include "outil/Script.h"
 #include "store/AdventureChanges.h"
 #include "store/DamagedTexts.h"
 
@@ -45,9 +44,7 @@ QByteArray jsonOf(const QList<Finding> &findings)
 
 QByteArray controler(CommandServices &script, const QStringList &arguments)
 {
-    const QString form = arguments.value(0);
-    if (!form.isEmpty() && form != QStringLiteral("json"))
-        throw UsageError(Commands::tr("json attendu : %1").arg(form));
+    const bool json = isJsonWanted(arguments);
     const PlainTexts texts = plainTexts(script.variables);
     const QList<Finding> findings = CheckBook(script.variables, texts).findings;
     tellUnreadable(texts.unreadable, script.prompts);
@@ -55,7 +52,7 @@ QByteArray controler(CommandServices &script, const QStringList &arguments)
                     [](const Finding &f) { return f.severity() == Severity::Fault; }))
         script.prompts.message(findingCounts(findings), Commands::tr("Contrôle du Livre"),
                                Prompts::Buttons::Ok);
-    if (!form.isEmpty())
+    if (json)
         return jsonOf(findings);
     QByteArray lines;
     for (const Finding &finding : findings)

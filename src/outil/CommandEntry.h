@@ -48,6 +48,10 @@ struct CommandEntry {
 // The number 0..2000 that a word is; throws UsageError for any other word.
 int paragraphNumber(const QString &word);
 
+// Whether the words that follow a command ask for JSON; throws UsageError when they say anything
+// else.
+bool isJsonWanted(const QStringList &arguments);
+
 // Of the number n alone.
 QByteArray numberLine(int n);
 
@@ -57,5 +61,6 @@ std::vector<CommandEntry> renumberEntries();
 std::vector<CommandEntry> historyEntries();
 std::vector<CommandEntry> textEntries();
 std::vector<CommandEntry> checkEntries();
+std::vector<CommandEntry> statisticsEntries();
 std::vector<CommandEntry> viewsEntries();
 std::vector<CommandEntry> publishEntries();

@@ -18,7 +18,7 @@ const std::vector<CommandEntry> &entries()
         std::vector<CommandEntry> all;
         for (const auto &group :
              {adventureEntries(), paragraphEntries(), renumberEntries(), historyEntries(),
-              textEntries(), checkEntries(), viewsEntries(), publishEntries()})
+              textEntries(), checkEntries(), statisticsEntries(), viewsEntries(), publishEntries()})
             all.insert(all.end(), group.begin(), group.end());
         return all;
     }();
@@ -56,6 +56,14 @@ int paragraphNumber(const QString &word)
     if (!ok || n < 0 || n > Variables::LastParagraph)
         throw UsageError(Commands::tr("numéro de paragraphe de 0 à 2000 attendu : %1").arg(word));
     return n;
+}
+
+bool isJsonWanted(const QStringList &arguments)
+{
+    const QString form = arguments.value(0);
+    if (!form.isEmpty() && form != QStringLiteral("json"))
+        throw UsageError(Commands::tr("json attendu : %1").arg(form));
+    return !form.isEmpty();
 }
 
 QByteArray numberLine(int n)

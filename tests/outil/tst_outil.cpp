@@ -237,6 +237,45 @@ melanger 4 9
                  QStringLiteral("court\t1\tLe paragraphe a moins de cinq mots.\n"));
     }
 
+    void theBookIsCountedAndRead()
+    {
+        TestAdventure adventure;
+        const QString path = adventure.file(
+            QStringLiteral("a.usm"),
+            AdventureBuilder({QStringLiteral("1: L'épée. Va au 2."), QStringLiteral("2: Va au 3"),
+                              QStringLiteral("3: Fin."), QStringLiteral("4: Va au 5")})
+                .list(1, "0002/")
+                .list(2, "0003/")
+                .list(4, "0005/")
+                .bytes());
+        const auto tool = [&](const QByteArray &command) {
+            return run(adventure, {}, "ouvrir '" + path.toUtf8() + "'\n" + command + '\n');
+        };
+        QCOMPARE(QString::fromUtf8(tool("statistiques json").output),
+                 QStringLiteral(
+                     "{\"choices\":3,\"endings\":[{\"number\":3,\"passages\":[1,2],"
+                     "\"readings\":1000,\"way\":[1,2,3]}],\"lengths\":[{\"length\":3,"
+                     "\"readings\":1000}],\"longest\":1,\"loops\":[],\"never\":[4],"
+                     "\"paragraphs\":[{\"choices\":1,\"met\":1000,\"number\":1,\"signs\":16,"
+                     "\"words\":5},{\"choices\":1,\"met\":1000,\"number\":2,\"signs\":7,"
+                     "\"words\":3},{\"choices\":0,\"met\":1000,\"number\":3,\"signs\":4,"
+                     "\"words\":1},{\"choices\":1,\"met\":0,\"number\":4,\"signs\":7,"
+                     "\"words\":3}],\"reached\":3,\"readings\":1000,\"seed\":1,\"share\":0.75,"
+                     "\"shortest\":3,\"signs\":34,\"starts\":[1],\"words\":12}\n"));
+        QVERIFY(QString::fromUtf8(tool("statistiques").output)
+                    .contains(QStringLiteral("\n3\t100,0 %\t3\t1, 2, 3\t1, 2\tFin.\n")));
+        const Table<QByteArray, QByteArray, int> readings{
+            {"from 1", "1", "1\n2\n3\n", 0}, {"empty number at its end", "4 12", "4\n5\n", 0},
+            {"empty number", "5", "", 1},    {"no number", "x", "", 2},
+            {"no seed", "1 -1", "", 2},
+        };
+        for (const auto &[name, arguments, output, status] : readings) {
+            const Outcome outcome = tool("lire " + arguments);
+            QCOMPARE(outcome.output, output);
+            QCOMPARE(outcome.status, status);
+        }
+    }
+
     void theWholeIsListed()
     {
         TestAdventure adventure;
