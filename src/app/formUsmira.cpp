@@ -3,11 +3,11 @@
 #include "app/CloseGuard.h"
 #include "app/DropToOpen.h"
 #include "app/EditMenu.h"
+#include "app/NavigationMenu.h"
 #include "app/RecentMenu.h"
 #include "app/WindowPlacement.h"
 #include "editor/BoxKeys.h"
 #include "editor/FirstWords.h"
-#include "editor/ParagraphSearch.h"
 #include "editor/options/ZoomKeys.h"
 #include "editor/options/optionsDlog.h"
 #include "editor/references/ReferenceAids.h"
@@ -65,7 +65,6 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
     resize(DesignSize);
     connectAdventure();
     connectNavigation();
-    connectSearches();
     connectLists();
     connectBox();
     connectSearchReplace();
@@ -101,47 +100,23 @@ void formUsmira::connectAdventure()
 
 void formUsmira::connectNavigation()
 {
-    const auto add = [this](QAction &item, QAbstractButton &button, void (Navigation::*go)()) {
-        m_runner.add(item, button, Kind::Adventure, [this, go] { (m_navigation.*go)(); });
-    };
-    add(*m_ui->menuNavFirst, *m_ui->btnFirst, &Navigation::goToFirst);
-    add(*m_ui->menuNavLast, *m_ui->btnLast, &Navigation::goToLast);
-    add(*m_ui->menuNavNext, *m_ui->btnNext, &Navigation::goToNext);
-    add(*m_ui->menuNavPrev, *m_ui->btnPrev, &Navigation::goToPrevious);
-    m_runner.add(*m_ui->menuNavFirstFree, Kind::Saved, [this] { m_navigation.tellFirstFree(); });
+    connectNavigationMenu({{*m_ui->menuNavFirst, *m_ui->btnFirst},
+                           {*m_ui->menuNavLast, *m_ui->btnLast},
+                           {*m_ui->menuNavNext, *m_ui->btnNext},
+                           {*m_ui->menuNavPrev, *m_ui->btnPrev},
+                           {*m_ui->menuNavNextTyped, *m_ui->btnNextTyped},
+                           {*m_ui->menuNavPrevTyped, *m_ui->btnPrevTyped},
+                           {*m_ui->menuNavNextEmpty, *m_ui->btnNextEmpty},
+                           {*m_ui->menuNavPrevEmpty, *m_ui->btnPrevEmpty},
+                           *m_ui->menuNavFirstFree,
+                           *m_ui->menuNavFollow,
+                           *m_ui->menuNavBack,
+                           *m_ui->menuNavForward},
+                          m_navigation, m_runner);
     m_menuStates.watch(*m_ui->menuNav);
-    connectHistory();
     NumberBox::connectBeeps(*this, m_prompts);
     connectGuarded(m_ui->txtPargNum, &QLineEdit::returnPressed, this, m_prompts,
                    [this] { txtPargNum_Enter(); });
-}
-
-void formUsmira::connectHistory()
-{
-    QAction *back = m_ui->menuNavBack;
-    QAction *forward = m_ui->menuNavForward;
-    connect(back, &QAction::triggered, this,
-            [this] { m_runner.run(Kind::Adventure, [this] { m_navigation.goBack(); }); });
-    connect(forward, &QAction::triggered, this,
-            [this] { m_runner.run(Kind::Adventure, [this] { m_navigation.goForward(); }); });
-    const auto refresh = [this, back, forward] {
-        back->setEnabled(m_navigation.history().before().has_value());
-        forward->setEnabled(m_navigation.history().after().has_value());
-    };
-    connect(&m_navigation, &Navigation::historyChanged, this, refresh);
-    refresh();
-}
-
-void formUsmira::connectSearches()
-{
-    const auto add = [this](QAction &item, QAbstractButton &button, Navigation::Search search) {
-        m_runner.add(item, button, Kind::Adventure,
-                     [this, search] { m_navigation.goWhere(search); });
-    };
-    add(*m_ui->menuNavNextTyped, *m_ui->btnNextTyped, nextTyped);
-    add(*m_ui->menuNavPrevTyped, *m_ui->btnPrevTyped, previousTyped);
-    add(*m_ui->menuNavNextEmpty, *m_ui->btnNextEmpty, nextEmpty);
-    add(*m_ui->menuNavPrevEmpty, *m_ui->btnPrevEmpty, previousEmpty);
 }
 
 void formUsmira::connectLists()
@@ -180,9 +155,6 @@ void formUsmira::connectReferences()
     connect(&m_page, &ParagraphPage::changed, aids, &ReferenceAids::follow);
     connect(&m_comfort, &ComfortKeeper::changed, aids,
             [this, aids] { aids->setShown(m_comfort.comfort().underlines); });
-    m_ui->menuNavFollow->setShortcuts({Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter});
-    m_runner.add(*m_ui->menuNavFollow, Kind::Adventure,
-                 [this] { m_navigation.followReferenceAtCaret(); });
     // The list comes when the author is back in the text.
     const auto openList = [this, aids] {
         if (!aids->openList())

@@ -71,8 +71,6 @@ protected:
 private:
     void connectAdventure();
     void connectNavigation();
-    void connectHistory();
-    void connectSearches();
     void connectLists();
     void connectBox();
     void connectSearchReplace();
