@@ -4,6 +4,7 @@
 #include "outil/Script.h"
 #include "renumber/history/HistoryCommands.h"
 #include "renumber/history/NumberTable.h"
+#include "store/ExportTarget.h"
 
 #include <algorithm>
 
@@ -73,8 +74,8 @@ QByteArray table(CommandServices &script, const QStringList &arguments)
     const QList<NumberRow> rows = numberRows(
         variables, pointOf(history, arguments.value(1, QStringLiteral("0"))),
         arguments.size() > 2 ? pointOf(history, arguments.at(2)) : history.done().size());
-    saveNumberCsv(variables, arguments.first(),
-                  numberCsv(rows, [&](int n) { return firstWords(variables, n); }));
+    writeExport(variables, arguments.first(),
+                numberCsv(rows, [&](int n) { return firstWords(variables, n); }));
     return {};
 }
 } // namespace

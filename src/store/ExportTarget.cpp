@@ -2,6 +2,7 @@
 
 #include "platform/Errors.h"
 #include "platform/OpenedFile.h"
+#include "platform/SafeFile.h"
 #include "platform/SameFile.h"
 #include "store/Variables.h"
 #include "store/WorkingFiles.h"
@@ -38,6 +39,12 @@ void refuseOwnFiles(const Variables &variables, const QString &path)
     if (isAdventure(variables, path) || isWorkingFile(variables, path))
         throw FileError(FileError::Operation::Write, path,
                         QStringLiteral("belongs to the open adventure"), std::errc::text_file_busy);
+}
+
+void writeExport(const Variables &variables, const QString &path, const QByteArray &bytes)
+{
+    refuseOwnFiles(variables, path);
+    writeWholeFile(path, bytes, Durability::Full, Links::Follow);
 }
 
 QString proposedName(const Variables &variables)

@@ -1,8 +1,7 @@
 #include "renumber/history/NumberTable.h"
 
-#include "platform/SafeFile.h"
 #include "store/CommandHistory.h"
-#include "store/ExportTarget.h"
+#include "store/CsvCell.h"
 #include "store/Variables.h"
 
 #include <QCoreApplication>
@@ -18,12 +17,6 @@ NumberMap numbersAt(const CommandHistory &history, qsizetype point)
         if (const auto &moved = history.done().at(i).numbers)
             numbers = composed(numbers, *moved);
     return inverseOf(numbers);
-}
-
-// Quotation marks in it are doubled.
-QString quoted(QString text)
-{
-    return u'"' + text.replace(u'"', QLatin1String("\"\"")) + u'"';
 }
 } // namespace
 
@@ -50,17 +43,11 @@ QStringList numberTableHead()
 QByteArray numberCsv(const QList<NumberRow> &rows, const std::function<QString(int)> &words)
 {
     QStringList head = numberTableHead();
-    std::transform(head.begin(), head.end(), head.begin(), &quoted);
+    std::transform(head.begin(), head.end(), head.begin(), &csvCell);
     QString csv = QChar(QChar::ByteOrderMark) + head.join(u';') + QLatin1String("\r\n");
     for (const NumberRow &row : rows)
         csv += QStringLiteral("%1;%2;%3\r\n")
                    .arg(QString::number(row.before), QString::number(row.after),
-                        quoted(words(row.now)));
+                        csvCell(words(row.now)));
     return csv.toUtf8();
-}
-
-void saveNumberCsv(const Variables &variables, const QString &path, const QByteArray &csv)
-{
-    refuseOwnFiles(variables, path);
-    writeWholeFile(path, csv, Durability::Full, Links::Follow);
 }

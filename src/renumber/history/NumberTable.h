@@ -26,7 +26,3 @@ QStringList numberTableHead();
 // The same as a file for spreadsheets: UTF-8 with its mark, semicolons, CR LF. words gives
 // the first words for the number now.
 QByteArray numberCsv(const QList<NumberRow> &rows, const std::function<QString(int)> &words);
-
-// Writes that file. Throws FileError, also when it is one of the adventure's own; what was there
-// before still is.
-void saveNumberCsv(const Variables &variables, const QString &path, const QByteArray &csv);

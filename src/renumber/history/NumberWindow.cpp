@@ -213,7 +213,7 @@ void NumberWindow::save()
                            QStringLiteral("csv"), tr("%1 numéros").arg(proposedName(m_variables)));
     if (path.isEmpty())
         return;
-    saveNumberCsv(m_variables, path, m_model.csv());
+    writeExport(m_variables, path, m_model.csv());
     m_ui->lblState->setText(tr("Enregistré : %1").arg(path));
 }
 

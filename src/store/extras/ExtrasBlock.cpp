@@ -6,6 +6,7 @@
 #include <QCryptographicHash>
 #include <QStringDecoder>
 #include <QtEndian>
+#include <algorithm>
 
 namespace
 {
