@@ -26,6 +26,18 @@ void showAside(QWidget &tool)
     tool.activateWindow();
 }
 
+void keepClear(QWidget &tool, const QRect &place)
+{
+    const QRect frame = tool.frameGeometry();
+    if (!tool.isVisible() || !frame.intersects(place))
+        return;
+    constexpr int gap = 8;
+    const QRect room = tool.screen()->availableGeometry();
+    const int below = place.bottom() + gap;
+    const bool fits = below + frame.height() <= room.bottom();
+    tool.move(frame.x(), fits ? below : std::max(room.top(), place.top() - gap - frame.height()));
+}
+
 void keepRoomForLines(QWidget &text, int lines)
 {
     text.setMinimumHeight(lines * text.fontMetrics().lineSpacing());

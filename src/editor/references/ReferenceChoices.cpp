@@ -3,22 +3,13 @@
 #include "editor/FirstWords.h"
 #include "editor/ParagraphSearch.h"
 #include "platform/Ascii.h"
+#include "richtext/FoldedText.h"
 #include "store/Variables.h"
 
 #include <algorithm>
 
 namespace
 {
-// Without accents and capitals.
-QString folded(const QString &text)
-{
-    QString plain;
-    for (const QChar c : text.normalized(QString::NormalizationForm_D))
-        if (c.category() != QChar::Mark_NonSpacing)
-            plain += c.toLower();
-    return plain;
-}
-
 bool isNumber(const QString &text)
 {
     return !text.isEmpty() && std::all_of(text.begin(), text.end(), isAsciiDigit);

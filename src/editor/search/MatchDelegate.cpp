@@ -1,30 +1,14 @@
 #include "editor/search/MatchDelegate.h"
 
 #include "editor/search/MatchModel.h"
+#include "widgets/BoldWords.h"
 
 #include <QApplication>
 #include <QPainter>
-#include <QTextLayout>
 
 namespace
 {
 constexpr int Gap = 8; // pixels
-
-void paintWords(QPainter &painter, const QRect &room, const QFont &font, const MatchLine &line)
-{
-    QTextLayout layout(line.words, font);
-    QTextLayout::FormatRange bold;
-    bold.start = line.boldStart;
-    bold.length = line.boldLength;
-    bold.format.setFontWeight(QFont::Bold);
-    layout.setFormats({bold});
-    layout.beginLayout();
-    QTextLine words = layout.createLine();
-    words.setNumColumns(static_cast<int>(line.words.size()));
-    layout.endLayout();
-    painter.setClipRect(room);
-    layout.draw(&painter, QPointF(room.x(), room.y() + (room.height() - words.height()) / 2));
-}
 } // namespace
 
 MatchDelegate::MatchDelegate(const MatchModel &model, QObject *parent)
@@ -53,7 +37,7 @@ void MatchDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
         room.setLeft(room.x() + column + Gap);
     }
     room.setLeft(room.x() + Gap);
-    paintWords(*painter, room, option.font, line);
+    paintWords(*painter, room, {line.words, line.boldStart, line.boldLength});
     painter->restore();
 }
 

@@ -6,9 +6,9 @@
 #include "richtext/RichTextBox.h"
 #include "store/AdventureEvents.h"
 #include "ui_searchReplace.h"
+#include "widgets/ToolWindow.h"
 
 #include <QEvent>
-#include <QScreen>
 #include <QShortcut>
 
 namespace
@@ -187,18 +187,6 @@ void searchReplace::revealMatch()
     const QRect match = m_editor.view.revealSelection();
     keepClear(*this, match);
     keepClear(m_list, match);
-}
-
-void searchReplace::keepClear(QWidget &window, const QRect &match) const
-{
-    const QRect frame = window.frameGeometry();
-    if (!window.isVisible() || !frame.intersects(match))
-        return;
-    constexpr int gap = 8;
-    const QRect room = screen()->availableGeometry();
-    const int below = match.bottom() + gap;
-    const bool fits = below + frame.height() <= room.bottom();
-    window.move(frame.x(), fits ? below : std::max(room.top(), match.top() - gap - frame.height()));
 }
 
 // Only the match itself is replaced, not what the author has selected since.

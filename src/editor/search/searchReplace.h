@@ -69,7 +69,6 @@ private:
     void setFound(int position);
     bool SearchFollowingParagraphs();
     void revealMatch();
-    void keepClear(QWidget &window, const QRect &match) const;
 
     const Variables &m_variables;
     Prompts &m_prompts;
