@@ -19,6 +19,7 @@ QList<int> startsOf(const ParagraphSet &written, const QList<int> &wanted)
         starts.append(static_cast<int>(lowest - written.begin()));
     return starts;
 }
+
 // Index entries of a file may name 0.
 void removeZero(ReferenceWeb &web)
 {

@@ -13,9 +13,10 @@
 
 namespace
 {
-bool comesBefore(const Finding &a, const Finding &b)
+// The numbers that it may have been put aside under.
+QList<int> numbersOf(const Finding &finding)
 {
-    return std::tie(a.kind, a.number, a.position) < std::tie(b.kind, b.number, b.position);
+    return finding.kind == FindingKind::Trap ? finding.members : QList<int>{finding.number};
 }
 
 // What an accepted finding is looked up by; the hash is taken of few only.
@@ -32,9 +33,8 @@ public:
     {
         if (m_hashes.isEmpty())
             return false;
-        if (finding.kind != FindingKind::Trap)
-            return contain(finding, finding.number);
-        return std::any_of(finding.members.begin(), finding.members.end(),
+        const QList<int> numbers = numbersOf(finding);
+        return std::any_of(numbers.begin(), numbers.end(),
                            [&](int n) { return contain(finding, n); });
     }
 
@@ -50,15 +50,21 @@ private:
 };
 } // namespace
 
+bool comesBefore(const Finding &a, const Finding &b)
+{
+    return std::tie(a.kind, a.number, a.position) < std::tie(b.kind, b.number, b.position);
+}
+
 CheckedBook CheckBook(const Variables &variables, const PlainTexts &texts)
 {
     const BookWays ways(variables);
     QList<Finding> findings = wayFindings(ways);
     for (Finding &finding : findings) {
+        if (finding.kind != FindingKind::Unreachable)
+            continue;
         const QString &text = texts.texts.at(finding.number);
         const TextPart sentence = firstSentence(text);
-        if (finding.kind == FindingKind::Unreachable)
-            finding.around = text.mid(sentence.position, sentence.length);
+        finding.around = text.mid(sentence.position, sentence.length);
     }
     const TextCheck check(variables, ways);
     for (int n = 1; n <= Variables::LastParagraph; ++n)
@@ -92,4 +98,25 @@ QString findingCounts(const QList<Finding> &findings)
 AcceptedFinding accepted(const Finding &finding)
 {
     return {QString::fromUtf8(kindName(finding.kind)), finding.number, finding.sentenceHash()};
+}
+
+AdventureExtras withAccepted(AdventureExtras extras, const QList<Finding> &findings)
+{
+    for (const Finding &finding : findings)
+        if (const AcceptedFinding entry = accepted(finding); !extras.accepted.contains(entry))
+            extras.accepted.append(entry);
+    return extras;
+}
+
+AdventureExtras withoutAccepted(AdventureExtras extras, const QList<Finding> &findings)
+{
+    for (const Finding &finding : findings) {
+        AcceptedFinding entry = accepted(finding);
+        const QList<int> numbers = numbersOf(finding);
+        for (const int n : numbers) {
+            entry.number = n;
+            extras.accepted.removeAll(entry);
+        }
+    }
+    return extras;
 }

@@ -6,7 +6,10 @@
 
 struct Variables;
 
-// By kinds in their order, then numbers, then places.
+// The order of findings: by kinds, then numbers, then places.
+bool comesBefore(const Finding &a, const Finding &b);
+
+// In that order.
 struct CheckedBook {
     QList<Finding> findings;
     QList<Finding> accepted; // those that were put aside
@@ -22,3 +25,7 @@ QString findingCounts(const QList<Finding> &findings);
 
 // How a finding is put aside. A trap that has been counts by any of its members.
 AcceptedFinding accepted(const Finding &finding);
+
+// The same extras with these findings put aside as well, and with them taken back.
+AdventureExtras withAccepted(AdventureExtras extras, const QList<Finding> &findings);
+AdventureExtras withoutAccepted(AdventureExtras extras, const QList<Finding> &findings);

@@ -28,6 +28,7 @@ enum class FindingKind : quint8 {
 constexpr int FindingKindCount = 14;
 
 enum class Severity : quint8 { Fault, Remark, Note };
+constexpr int SeverityCount = 3;
 
 struct Finding {
     FindingKind kind;
@@ -57,5 +58,7 @@ Severity severityOf(FindingKind kind);
 
 // "vide", "hors-limites": as scripts and files call it. UTF-8.
 const char *kindName(FindingKind kind);
+// "Renvois douteux": in French, what a list calls all of a kind.
+QString kindTitle(FindingKind kind);
 // "faute", "remarque", "note".
 const char *severityName(Severity severity);

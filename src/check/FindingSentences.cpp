@@ -25,6 +25,23 @@ constexpr std::array<const char *, FindingKindCount> Sentences{
     QT_TRANSLATE_NOOP("Finding", "Le paragraphe a moins de cinq mots."),
 };
 
+constexpr std::array<const char *, FindingKindCount> Titles{
+    QT_TRANSLATE_NOOP("Finding", "Renvois à un paragraphe vide"),
+    QT_TRANSLATE_NOOP("Finding", "Renvois au-delà du 2000"),
+    QT_TRANSLATE_NOOP("Finding", "Paragraphes où aucune lecture n'arrive"),
+    QT_TRANSLATE_NOOP("Finding", "Pièges d'où aucune fin n'est possible"),
+    QT_TRANSLATE_NOOP("Finding", "Livre sans fin"),
+    QT_TRANSLATE_NOOP("Finding", "Paragraphes qui ne mènent qu'à eux-mêmes"),
+    QT_TRANSLATE_NOOP("Finding", "Fins"),
+    QT_TRANSLATE_NOOP("Finding", "Renvois répétés dans un paragraphe"),
+    QT_TRANSLATE_NOOP("Finding", "Renvois au paragraphe lui-même"),
+    QT_TRANSLATE_NOOP("Finding", "Renvois douteux"),
+    QT_TRANSLATE_NOOP("Finding", "Renvois qui ne sont pas suivis"),
+    QT_TRANSLATE_NOOP("Finding", "Renvois sans lien dans le HTML"),
+    QT_TRANSLATE_NOOP("Finding", "Reste à faire"),
+    QT_TRANSLATE_NOOP("Finding", "Paragraphes très courts"),
+};
+
 QString translated(const char *sentence)
 {
     return QCoreApplication::translate("Finding", sentence);
@@ -89,4 +106,9 @@ QString plainSentence(const Finding &finding)
 QString Finding::sentence() const
 {
     return withNoBreakSpaces(plainSentence(*this));
+}
+
+QString kindTitle(FindingKind kind)
+{
+    return translated(Titles.at(static_cast<std::size_t>(kind)));
 }

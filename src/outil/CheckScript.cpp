@@ -72,14 +72,14 @@ QByteArray accepter(CommandServices &script, const QStringList &arguments)
     const QString &kind = arguments.first();
     const int n = paragraphNumber(arguments.last());
     const PlainTexts texts = plainTexts(script.variables);
-    AdventureExtras extras = script.variables.extras;
-    for (const Finding &finding : CheckBook(script.variables, texts).findings)
-        if (QString::fromUtf8(kindName(finding.kind)) == kind && isAbout(finding, n))
-            extras.accepted.append(accepted(finding));
-    if (extras == script.variables.extras)
+    QList<Finding> findings = CheckBook(script.variables, texts).findings;
+    findings.removeIf([&](const Finding &finding) {
+        return QString::fromUtf8(kindName(finding.kind)) != kind || !isAbout(finding, n);
+    });
+    if (findings.isEmpty())
         script.prompts.message(Commands::tr("Rien de tel à accepter : %1 %2").arg(kind).arg(n),
                                Commands::tr("Contrôle du Livre"), Prompts::Buttons::Ok);
-    changeExtras(script.variables, extras);
+    changeExtras(script.variables, withAccepted(script.variables.extras, findings));
     return {};
 }
 } // namespace
