@@ -53,6 +53,16 @@
     </message>
 </context>
 <context>
+    <name>CheckMenu</name>
+    <message numerus="yes">
+        <source>Corriger %n renvoi(s)</source>
+        <translation>
+            <numerusform>Corriger %n renvoi</numerusform>
+            <numerusform>Corriger %n renvois</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ExportCommand</name>
     <message numerus="yes">
         <source>%n paragraphe(s) écrit(s) : %1</source>
@@ -271,6 +281,16 @@
         <translation>
             <numerusform>%n paragraphe change.</numerusform>
             <numerusform>%n paragraphes changent.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>bookCheck</name>
+    <message numerus="yes">
+        <source>%n constat(s) choisi(s).</source>
+        <translation>
+            <numerusform>%n constat choisi.</numerusform>
+            <numerusform>%n constats choisis.</numerusform>
         </translation>
     </message>
 </context>

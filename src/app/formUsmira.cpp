@@ -60,6 +60,7 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_searchReplace(variables, prompts, m_work, {m_page, m_navigation, m_runner}, this),
       m_functions(variables, prompts, m_work, *this), m_history(variables, prompts, m_work, *this),
       m_views(variables, prompts, {m_navigation, m_runner}, *this),
+      m_checkMenu(variables, prompts, m_work, {m_page, m_navigation, m_runner}, *this),
       m_conversions(variables, prompts, m_page, m_work, *this), m_info(variables, prompts, m_page)
 {
     resize(DesignSize);
@@ -192,6 +193,8 @@ void formUsmira::connectMenus()
                              m_runner);
     m_views.connectItems(
         {*m_ui->menuComGraphs, *m_ui->menuComGrid, *m_ui->menuComProxScan, *m_ui->menuEditNumbers});
+    m_checkMenu.connectItems({*m_ui->menuComCheck, *m_ui->menuComNextFinding,
+                              *m_ui->menuComPrevFinding, *m_ui->statusBar});
     connect(&m_page, &ParagraphPage::changed, this, [this] { m_views.followEditor(); });
     m_menuStates.watch(*m_ui->menuCommands);
     connect(m_ui->menuCommands, &QMenu::aboutToShow, this, [this] { m_functions.showSwapKey(); });

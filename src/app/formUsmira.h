@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AdventuresMenu.h"
+#include "app/CheckMenu.h"
 #include "app/ConversionsMenu.h"
 #include "app/FunctionsMenu.h"
 #include "app/HistoryMenu.h"
@@ -105,6 +106,7 @@ private:
     FunctionsMenu m_functions;
     HistoryMenu m_history;
     ViewsMenu m_views;
+    CheckMenu m_checkMenu;
     ConversionsMenu m_conversions;
     InfoMenu m_info;
     bool m_closed = false; // the window is going, and saves nothing any more

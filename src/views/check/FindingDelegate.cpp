@@ -1,0 +1,75 @@
+#include "views/check/FindingDelegate.h"
+
+#include "views/check/FindingModel.h"
+#include "widgets/BoldWords.h"
+#include "widgets/Shade.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <algorithm>
+
+namespace
+{
+constexpr int Gap = 4;           // pixels
+constexpr double Faint = 0.68;   // of the text's colour: lighter, and still easy to read
+constexpr qsizetype Before = 24; // characters of the sentence that stand before the place
+
+// The words around the place, cut at the start so that a narrow column shows the place too.
+BoldWords wordsOf(const Finding &finding)
+{
+    QString text = finding.around;
+    text.replace(u'\t', u' ');
+    qsizetype place = std::min(finding.placeInAround, text.size());
+    const qsizetype blank = place > Before ? text.indexOf(u' ', place - Before) : -1;
+    if (blank >= 0 && blank < place) {
+        text = u'…' + text.mid(blank + 1);
+        place -= blank;
+    }
+    return {text, static_cast<int>(place), static_cast<int>(finding.length)};
+}
+} // namespace
+
+FindingDelegate::FindingDelegate(const FindingModel &model, QObject *parent)
+    : QStyledItemDelegate(parent), m_model(model)
+{
+}
+
+void FindingDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (FindingModel::isGroup(index)) {
+        option->font.setBold(true);
+        option->fontMetrics = QFontMetrics(option->font);
+        return;
+    }
+    if (index.column() == FindingModel::Number)
+        option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+    if (m_model.at(index).accepted)
+        option->palette.setColor(QPalette::Text, shade(option->palette, Faint));
+}
+
+void FindingDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                            const QModelIndex &index) const
+{
+    if (FindingModel::isGroup(index) || index.column() != FindingModel::Words) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle *style = cell.widget != nullptr ? cell.widget->style() : QApplication::style();
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    const bool selected = cell.state.testFlag(QStyle::State_Selected);
+    const bool active = cell.state.testFlag(QStyle::State_Active);
+    painter->save();
+    painter->setFont(cell.font);
+    painter->setPen(cell.palette.color(active ? QPalette::Active : QPalette::Inactive,
+                                       selected ? QPalette::HighlightedText : QPalette::Text));
+    paintWords(*painter, cell.rect.adjusted(Gap, 0, -Gap, 0), wordsOf(m_model.at(index).finding));
+    painter->restore();
+}
+
+QSize FindingDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
+{
+    return {0, option.fontMetrics.height() + 2 * Gap};
+}
