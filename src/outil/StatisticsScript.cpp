@@ -12,10 +12,6 @@
 
 namespace
 {
-// The same every time, so that two versions of a book can be compared.
-constexpr int Readings = 1000;
-constexpr quint32 Seed = 1;
-
 QJsonArray arrayOf(const QList<int> &numbers)
 {
     QJsonArray array;
@@ -82,7 +78,8 @@ QByteArray statistiques(CommandServices &script, const QStringList &arguments)
     tellUnreadable(sizes.unreadable, script.prompts);
     const BookWays ways(variables);
     const BookStatistics book = bookStatistics(variables, ways, sizes);
-    const RandomReadings readings = randomReadings(variables, ways, Readings, Seed);
+    // The same every time, so that two versions of a book can be compared.
+    const RandomReadings readings = randomReadings(variables, ways, UsualReadings, UsualSeed);
     if (json)
         return QJsonDocument(objectOf(book, readings)).toJson(QJsonDocument::Compact) + '\n';
     const auto words = [&variables](int n) { return firstWords(variables, n); };

@@ -26,6 +26,11 @@ struct RandomReading {
     QList<int> loop; // Loop: the paragraphs that it goes around in, ascending
 };
 
+// Enough for shares that can be relied on, and so few that nobody waits for them; and where nobody
+// asks for other ones, these.
+constexpr int UsualReadings = 1000;
+constexpr quint32 UsualSeed = 1;
+
 // What many readings come to.
 struct RandomReadings {
     struct Loop {

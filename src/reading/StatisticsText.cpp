@@ -26,13 +26,13 @@ QString perParagraph(int total, const BookStatistics &book)
     return Words::tr("%1, soit %2 par paragraphe").arg(whole(total), tenths(total / count));
 }
 
-QStringList spanSentences(const BookStatistics &book)
+QStringList spanSentences(const BookStatistics &book, const NumberText &text)
 {
-    const auto told = [&book](const QString &text, int n) {
+    const auto told = [&](const QString &sentence, int n) {
         const auto paragraph =
             std::find_if(book.paragraphs.begin(), book.paragraphs.end(),
                          [n](const BookStatistics::Paragraph &p) { return p.number == n; });
-        return text.arg(n).arg(Words::tr("%n mot(s)", nullptr, paragraph->words));
+        return sentence.arg(text(n), Words::tr("%n mot(s)", nullptr, paragraph->words));
     };
     if (book.paragraphs.isEmpty())
         return {};
@@ -55,25 +55,9 @@ QString lengthSentence(const QMap<int, int> &lengths)
         .arg(tenths(static_cast<double>(read) / static_cast<double>(ended)));
 }
 
-QStringList readingSentences(const BookStatistics &book, const RandomReadings &readings)
+QString plain(int n)
 {
-    if (readings.count == 0)
-        return {};
-    QStringList lines{
-        Words::tr("%n lecture(s) au hasard, graine %1", nullptr, readings.count).arg(readings.seed),
-        Words::tr("Une lecture rencontre en moyenne %1 % du livre")
-            .arg(tenths(readings.meanShare * 100))};
-    if (!readings.lengths.isEmpty())
-        lines.append(lengthSentence(readings.lengths));
-    const QList<int> never = neverMet(book, readings);
-    if (!never.isEmpty())
-        lines.append(
-            Words::tr("Jamais rencontrés (%1) : %2").arg(never.size()).arg(numberList(never)));
-    for (const RandomReadings::Loop &loop : readings.loops)
-        lines.append(
-            Words::tr("%n lecture(s) prise(s) dans une boucle : %1", nullptr, loop.readings)
-                .arg(numberList(loop.members)));
-    return lines;
+    return QString::number(n);
 }
 
 // Names of columns, then rows.
@@ -100,8 +84,8 @@ QStringList endingTable(const BookStatistics &book, const RandomReadings &readin
     for (const BookStatistics::Ending &ending : book.endings)
         rows.append({QString::number(ending.number),
                      shareOf(readings.ended.at(ending.number), readings),
-                     QString::number(ending.way.size()), numberList(ending.way),
-                     numberList(ending.passages), words(ending.number)});
+                     QString::number(ending.way.size()), numberList(ending.way, plain),
+                     numberList(ending.passages, plain), words(ending.number)});
     return table({Words::tr("Fin"), Words::tr("Lectures"), Words::tr("Longueur"),
                   Words::tr("Chemin le plus court"), Words::tr("Passages obligés"),
                   Words::tr("Premiers mots")},
@@ -122,7 +106,7 @@ QStringList paragraphTable(const BookStatistics &book, const RandomReadings &rea
 }
 } // namespace
 
-QStringList statisticsSentences(const BookStatistics &book, const RandomReadings &readings)
+QStringList bookSentences(const BookStatistics &book, const NumberText &text)
 {
     const QStringList totals{
         Words::tr("Paragraphes : %1, dont %2 qu'une lecture peut atteindre")
@@ -132,13 +116,48 @@ QStringList statisticsSentences(const BookStatistics &book, const RandomReadings
         Words::tr("Choix : %1").arg(perParagraph(book.choices, book)),
         Words::tr("Fins : %1").arg(whole(book.endings.size())),
     };
-    return totals + spanSentences(book) + readingSentences(book, readings);
+    return totals + spanSentences(book, text);
+}
+
+QStringList readingSentences(const BookStatistics &book, const RandomReadings &readings,
+                             const NumberText &text)
+{
+    if (readings.count == 0)
+        return {};
+    QStringList lines{
+        Words::tr("%n lecture(s) au hasard, graine %1", nullptr, readings.count).arg(readings.seed),
+        Words::tr("Une lecture rencontre en moyenne %1 % du livre")
+            .arg(tenths(readings.meanShare * 100))};
+    if (!readings.lengths.isEmpty())
+        lines.append(lengthSentence(readings.lengths));
+    for (const RandomReadings::Loop &loop : readings.loops)
+        lines.append(
+            Words::tr("%n lecture(s) prise(s) dans une boucle : %1", nullptr, loop.readings)
+                .arg(numberList(loop.members, text)));
+    const QList<int> never = neverMet(book, readings);
+    if (!never.isEmpty())
+        lines.append(Words::tr("Jamais rencontrés (%1) : %2")
+                         .arg(QString::number(never.size()), numberList(never, text)));
+    return lines;
+}
+
+QStringList endingSentences(const BookStatistics::Ending &ending, const NumberText &text)
+{
+    if (ending.way.isEmpty())
+        return {Words::tr("Aucune lecture n'arrive au %1").arg(text(ending.number))};
+    QStringList lines{Words::tr("Chemin le plus court vers le %1 : %2")
+                          .arg(text(ending.number), numberList(ending.way, text))};
+    lines.append(ending.passages.isEmpty()
+                     ? Words::tr("Aucun passage obligé")
+                     : Words::tr("Passages obligés : %1").arg(numberList(ending.passages, text)));
+    return lines;
 }
 
 QStringList statisticsLines(const BookStatistics &book, const RandomReadings &readings,
                             const std::function<QString(int)> &words)
 {
-    return statisticsSentences(book, readings) + endingTable(book, readings, words) +
+    return bookSentences(book, plain) + readingSentences(book, readings, plain) +
+           endingTable(book, readings, words) +
            counts({Words::tr("Paragraphes lus"), Words::tr("Lectures")}, readings.lengths) +
            counts({Words::tr("Choix"), Words::tr("Paragraphes")}, choiceCounts(book)) +
            paragraphTable(book, readings, words);
@@ -166,10 +185,10 @@ QString shareOf(int readings, const RandomReadings &all)
     return all.count == 0 ? QString() : Words::tr("%1 %").arg(tenths(100.0 * readings / all.count));
 }
 
-QString numberList(const QList<int> &numbers)
+QString numberList(const QList<int> &numbers, const NumberText &text)
 {
     QStringList texts;
     for (const int n : numbers)
-        texts.append(QString::number(n));
+        texts.append(text(n));
     return texts.join(QStringLiteral(", "));
 }

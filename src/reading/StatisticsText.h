@@ -9,11 +9,21 @@
 
 // Statistics in French words.
 
-// How many it has of everything, and what random readings of it come to; a sentence a line.
-QStringList statisticsSentences(const BookStatistics &book, const RandomReadings &readings);
+// Writes a paragraph's number, which may be one to be clicked.
+using NumberText = std::function<QString(int)>;
 
-// These, and all that stands in tables: columns with tabs between them under their names, and an
-// empty line before each table. words gives a paragraph's first words.
+// How many the book has of everything, a sentence a line.
+QStringList bookSentences(const BookStatistics &book, const NumberText &text);
+
+// What random readings of it come to; none without any.
+QStringList readingSentences(const BookStatistics &book, const RandomReadings &readings,
+                             const NumberText &text);
+
+// How one gets to an ending.
+QStringList endingSentences(const BookStatistics::Ending &ending, const NumberText &text);
+
+// All this but the last, and all that stands in tables: columns with tabs between them under their
+// names, and an empty line before each table. words gives a paragraph's first words.
 QStringList statisticsLines(const BookStatistics &book, const RandomReadings &readings,
                             const std::function<QString(int)> &words);
 
@@ -27,4 +37,4 @@ QMap<int, int> choiceCounts(const BookStatistics &book);
 QString shareOf(int readings, const RandomReadings &all);
 
 // "1, 5, 12".
-QString numberList(const QList<int> &numbers);
+QString numberList(const QList<int> &numbers, const NumberText &text);
