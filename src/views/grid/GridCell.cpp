@@ -34,6 +34,14 @@ GridCell gridCell(const Variables &variables, const ParagraphStatuses &statuses,
             n == variables.CurrentParagraph};
 }
 
+GridCell shadedCell(const GridCell &cell, const GridShades *shades)
+{
+    GridCell shaded = cell;
+    if (shades != nullptr && cell.status != Empty && cell.status != Reserved)
+        shaded.share = shades->at(cell.number);
+    return shaded;
+}
+
 QString cellWords(const GridCell &cell)
 {
     QStringList words{statusName(cell.status)};
@@ -41,6 +49,8 @@ QString cellWords(const GridCell &cell)
         words.append(fixedName());
     if (cell.current)
         words.append(statusName(Current));
+    if (cell.share)
+        words.append(shadeWords(*cell.share));
     return QCoreApplication::translate("GridCell", "%1 : %2")
         .arg(cell.number)
         .arg(words.join(QStringLiteral(", ")));
@@ -56,10 +66,14 @@ void CellPainter::paint(const GridCell &cell, const QPoint &origin) const
 {
     if (cell.current)
         fillBox(box(origin, -30, -30, 615, 360), statusColour(Current));
-    fillBox(box(origin, 30, 30, 585, 330), statusColour(cell.status));
+    const QRectF body = box(origin, 30, 30, 585, 330);
+    fillBox(body, cell.share ? shadeColour(*cell.share) : statusColour(cell.status));
+    if (cell.share && *cell.share == 0)
+        hatch(body);
+    const QColor ink = cell.share ? inkUpon(*cell.share) : QColor(Qt::black);
     if (cell.fixed)
-        m_painter.fillRect(box(origin, 60, 270, 360, 300), Qt::black);
-    m_painter.setPen(Qt::black);
+        m_painter.fillRect(box(origin, 60, 270, 360, 300), ink);
+    m_painter.setPen(ink);
     m_painter.setFont(m_letterFont);
     m_painter.drawText(box(origin, 60, 60, 180, 270), Qt::AlignLeft | Qt::AlignVCenter,
                        statusLetter(cell.status));
@@ -78,6 +92,13 @@ void CellPainter::paintFocus(const QPoint &origin, const QColor &colour) const
     m_painter.setPen(pen);
     m_painter.setBrush(Qt::NoBrush);
     m_painter.drawRect(box(origin, -45, -45, 630, 375));
+}
+
+// The number stands on a plain ground.
+void CellPainter::hatch(const QRectF &box) const
+{
+    constexpr double plain = 9; // pixels of the height that stay so
+    m_painter.fillRect(box.adjusted(1, 1, -1, -plain), QBrush(Qt::gray, Qt::BDiagPattern));
 }
 
 // A filled box and a smaller one in it are sharp at any scale, where a line may fall between dots.

@@ -2,10 +2,12 @@
 
 #include "store/Variables.h"
 #include "views/ParagraphStatuses.h"
+#include "views/grid/GridShades.h"
 
 #include <QFont>
 #include <QRectF>
 #include <QString>
+#include <optional>
 
 class QPainter;
 
@@ -15,10 +17,13 @@ struct GridCell {
     quint8 status = Empty;
     bool fixed = false;
     bool current = false;
+    std::optional<double> share{}; // of many readings that come here: shown instead of the status
 };
 
 // Of number n, 1..2000.
 GridCell gridCell(const Variables &variables, const ParagraphStatuses &statuses, int n);
+// The same with its share, if it is written; of null as above.
+GridCell shadedCell(const GridCell &cell, const GridShades *shades);
 
 // "26 : Tapé, Fixe, Actuel".
 QString cellWords(const GridCell &cell);
@@ -38,6 +43,7 @@ public:
 
 private:
     void fillBox(const QRectF &box, const QColor &colour) const;
+    void hatch(const QRectF &box) const;
 
     QPainter &m_painter;
     QFont m_numberFont;

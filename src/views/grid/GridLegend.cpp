@@ -1,12 +1,12 @@
 #include "views/grid/GridLegend.h"
 
 #include "platform/Twips.h"
-#include "views/grid/GridCell.h"
 #include "views/grid/GridGeometry.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
+#include <utility>
 
 namespace
 {
@@ -38,14 +38,35 @@ GridLegend::GridLegend(QWidget *parent) : QWidget(parent)
     auto *entries = new QGridLayout(this);
     entries->setSpacing(4);
     entries->setContentsMargins(0, 0, 0, 0);
-    const auto add = [&](const GridCell &cell, const QString &words) {
-        const int row = entries->rowCount();
-        entries->addWidget(new CellSample(cell, this), row, 0);
-        entries->addWidget(new QLabel(words, this), row, 1);
-    };
     for (quint8 status = 0; status < ParagraphStatusCount; ++status) {
         const bool current = status == Current;
-        add({0, current ? quint8{Empty} : status, false, current}, statusName(status));
+        const bool written = status == Written || status == DeadEnd || status == Orphan;
+        addRow({0, current ? quint8{Empty} : status, false, current, {}}, statusName(status),
+               written ? &m_unshaded : nullptr);
     }
-    add({0, Empty, true, false}, fixedName());
+    addRow({0, Empty, true, false, {}}, fixedName(), nullptr);
+    const std::pair<double, QString> shades[]{
+        {0.0, tr("Jamais lu")}, {0.01, tr("1 %")}, {0.1, tr("10 %")}, {1.0, tr("Toujours")}};
+    for (const auto &[share, words] : shades)
+        addRow({0, Written, false, false, share}, words, &m_shaded);
+    setShaded(false);
+}
+
+void GridLegend::addRow(const GridCell &cell, const QString &words, QList<QWidget *> *when)
+{
+    auto *entries = qobject_cast<QGridLayout *>(layout());
+    const int row = entries->rowCount();
+    const QList<QWidget *> widgets{new CellSample(cell, this), new QLabel(words, this)};
+    entries->addWidget(widgets.first(), row, 0);
+    entries->addWidget(widgets.last(), row, 1);
+    if (when != nullptr)
+        when->append(widgets);
+}
+
+void GridLegend::setShaded(bool shaded)
+{
+    for (QWidget *widget : std::as_const(m_unshaded))
+        widget->setVisible(!shaded);
+    for (QWidget *widget : std::as_const(m_shaded))
+        widget->setVisible(shaded);
 }

@@ -1,7 +1,6 @@
 #include "views/grid/GridSurface.h"
 
 #include "platform/Twips.h"
-#include "views/grid/GridCell.h"
 #include "views/grid/GridGeometry.h"
 
 #include <QCoreApplication>
@@ -27,6 +26,17 @@ void GridSurface::attach(const Variables &variables, const ParagraphStatuses &st
     m_bar = &bar;
 }
 
+void GridSurface::setShades(const GridShades *shades)
+{
+    m_shades = shades;
+    update();
+}
+
+GridCell GridSurface::cell(int n) const
+{
+    return shadedCell(gridCell(*m_variables, *m_statuses, n), m_shades);
+}
+
 QSize GridSurface::sizeHint() const
 {
     constexpr int frame = 60; // below the last row, for the one around the current number
@@ -38,7 +48,7 @@ void GridSurface::setFocusNumber(int n)
 {
     m_focusNumber = std::clamp(n, 1, lastNumber());
     m_bar->setValue(scrollValueShowing(m_focusNumber, m_bar->value()));
-    setAccessibleDescription(cellWords(gridCell(*m_variables, *m_statuses, m_focusNumber)));
+    setAccessibleDescription(cellWords(cell(m_focusNumber)));
     update();
 }
 
@@ -61,8 +71,7 @@ void GridSurface::showToolTip(const QHelpEvent &event)
     const QPointF place = QPointF(event.pos()) * Twips::PerPixel;
     const std::optional<int> n = numberAt(place.x(), place.y(), m_bar->value());
     if (n)
-        QToolTip::showText(event.globalPos(), cellWords(gridCell(*m_variables, *m_statuses, *n)),
-                           this);
+        QToolTip::showText(event.globalPos(), cellWords(cell(*n)), this);
     else
         QToolTip::hideText();
 }
@@ -74,7 +83,7 @@ void GridSurface::paintEvent(QPaintEvent * /*event*/)
     const int first = firstOnPage(m_bar->value());
     const int last = std::min(first + Cells - 1, Variables::LastParagraph);
     for (int n = first; n <= last; ++n)
-        cells.paint(gridCell(*m_variables, *m_statuses, n), cellOrigin(n, m_bar->value()));
+        cells.paint(cell(n), cellOrigin(n, m_bar->value()));
     if (hasFocus() && m_focusNumber >= first && m_focusNumber <= last)
         cells.paintFocus(cellOrigin(m_focusNumber, m_bar->value()),
                          palette().color(QPalette::Highlight));

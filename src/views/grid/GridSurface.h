@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/ParagraphStatuses.h"
+#include "views/grid/GridCell.h"
 
 #include <QWidget>
 #include <optional>
@@ -18,6 +18,9 @@ public:
 
     // Once, before it is shown; all must outlive it. bar says which page is shown.
     void attach(const Variables &variables, const ParagraphStatuses &statuses, QScrollBar &bar);
+
+    // Written numbers show these instead of their statuses; they must outlive it. Null: as before.
+    void setShades(const GridShades *shades);
 
     // The cell that keys act on; brought onto the page.
     void setFocusNumber(int n);
@@ -43,9 +46,11 @@ private:
     bool choose(const QKeyEvent &event);
     bool moveFocus(int key);
     int lastNumber() const;
+    GridCell cell(int n) const;
 
     const Variables *m_variables = nullptr;
     const ParagraphStatuses *m_statuses = nullptr;
+    const GridShades *m_shades = nullptr;
     QScrollBar *m_bar = nullptr;
     int m_focusNumber = 1;
 };

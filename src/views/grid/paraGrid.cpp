@@ -88,6 +88,14 @@ void paraGrid::followEditor()
     m_ui->surface->setFocusNumber(m_current);
 }
 
+void paraGrid::setShades(const std::optional<GridShades> &shades)
+{
+    m_shades = shades;
+    m_ui->surface->setShades(m_shades ? &*m_shades : nullptr);
+    m_ui->legend->setShaded(m_shades.has_value());
+    m_ui->lblLegend->setText(m_shades ? tr("Lectures au hasard") : tr("Légende"));
+}
+
 void paraGrid::focusGrid()
 {
     ClassifyParagraphs();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "views/ParagraphStatuses.h"
+#include "views/grid/GridShades.h"
 
 #include <QDialog>
 #include <memory>
@@ -31,6 +32,11 @@ public:
     // The editing box may show another paragraph: its cell is brought onto the page.
     void followEditor();
 
+    // Written numbers show how many readings come to them instead of what they are, and the legend
+    // says so; nothing: as before.
+    void setShades(const std::optional<GridShades> &shades);
+    bool isShaded() const { return m_shades.has_value(); }
+
     // The author begins at the current number.
     void focusGrid();
 
@@ -55,6 +61,7 @@ private:
     const Variables &m_variables;
     std::unique_ptr<Ui::paraGrid> m_ui;
     ParagraphStatuses m_statuses;
+    std::optional<GridShades> m_shades;
     int m_current = 0;              // the current number when it was last followed
     std::optional<int> m_previewed; // the number whose text is shown
     QString m_shownText;
