@@ -7,7 +7,16 @@
 #include "renumber/proximityScan.h"
 #include "views/graph/paraGraphs.h"
 #include "views/grid/paraGrid.h"
+#include "views/statistics/statisticsWindow.h"
 #include "widgets/ToolWindow.h"
+
+namespace
+{
+std::function<QString(int)> firstWordsOf(const Variables &variables)
+{
+    return [&variables](int n) { return firstWords(variables, n); };
+}
+} // namespace
 
 ViewsMenu::ViewsMenu(const Variables &variables, Prompts &prompts, const Editor &editor,
                      QWidget &window)
@@ -24,6 +33,7 @@ void ViewsMenu::connectItems(const Items &items)
     m_editor.runner.add(items.grid, Kind::Saved, [this] { menuComGrid_Click(); });
     m_editor.runner.add(items.proxScan, Kind::Saved, [this] { menuComProxScan_Click(); });
     m_editor.runner.add(items.numbers, Kind::Saved, [this] { showNumbers(); });
+    m_editor.runner.add(items.statistics, Kind::Saved, [this] { menuComStatistics_Click(); });
 }
 
 template <typename Window, typename... Arguments>
@@ -69,11 +79,15 @@ void ViewsMenu::menuComGraphs_Click()
     m_graphs->showCurrent();
 }
 
+paraGrid &ViewsMenu::grid()
+{
+    return made(m_grid, m_variables);
+}
+
 void ViewsMenu::menuComGrid_Click()
 {
-    paraGrid &window = made(m_grid, m_variables);
-    showAside(window);
-    window.focusGrid();
+    showAside(grid());
+    grid().focusGrid();
 }
 
 void ViewsMenu::menuComProxScan_Click()
@@ -85,8 +99,34 @@ void ViewsMenu::menuComProxScan_Click()
 
 void ViewsMenu::showNumbers()
 {
-    const std::function<QString(int)> words = [this](int n) { return firstWords(m_variables, n); };
+    const std::function<QString(int)> words = firstWordsOf(m_variables);
     NumberWindow &window = made(m_numbers, m_variables, m_prompts, words);
     showAside(window);
     window.focusTable();
+}
+
+void ViewsMenu::menuComStatistics_Click()
+{
+    if (!m_statistics) {
+        const std::function<QString(int)> words = firstWordsOf(m_variables);
+        statisticsWindow &window = made(m_statistics, m_variables, m_prompts, words);
+        QObject::connect(&window, &statisticsWindow::wayWanted, &window,
+                         [this](const QList<int> &way) { goTo(way.last()); });
+        QObject::connect(&window, &statisticsWindow::shadesChanged, &window,
+                         [this](const std::optional<GridShades> &shades) { showShades(shades); });
+    }
+    showAside(*m_statistics);
+    m_statistics->focusPages();
+}
+
+// The grid comes to the front when it has shades to show for the first time, and not again with
+// every change of the book.
+void ViewsMenu::showShades(const std::optional<GridShades> &shades)
+{
+    if (!shades && !m_grid)
+        return;
+    const bool begins = shades && !grid().isShaded();
+    grid().setShades(shades);
+    if (begins)
+        menuComGrid_Click();
 }

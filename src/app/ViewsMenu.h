@@ -2,8 +2,10 @@
 
 #include "platform/Prompts.h"
 #include "store/Variables.h"
+#include "views/grid/GridShades.h"
 
 #include <memory>
+#include <optional>
 
 class CommandRunner;
 class Navigation;
@@ -13,6 +15,7 @@ class QWidget;
 class paraGraphs;
 class paraGrid;
 class proximityScan;
+class statisticsWindow;
 
 // The commands that show the adventure as a whole, in windows that stay open beside the editing
 // box. It owns these windows; each is made when it is first wanted.
@@ -32,6 +35,7 @@ public:
         QAction &grid;
         QAction &proxScan;
         QAction &numbers;
+        QAction &statistics;
     };
     void connectItems(const Items &items);
 
@@ -50,7 +54,10 @@ private:
     void menuComGraphs_Click();
     void menuComGrid_Click();
     void menuComProxScan_Click();
+    paraGrid &grid();
     void showNumbers();
+    void menuComStatistics_Click();
+    void showShades(const std::optional<GridShades> &shades);
 
     const Variables &m_variables;
     Prompts &m_prompts;
@@ -60,4 +67,5 @@ private:
     std::unique_ptr<paraGrid> m_grid;
     std::unique_ptr<proximityScan> m_proximityScan;
     std::unique_ptr<NumberWindow> m_numbers;
+    std::unique_ptr<statisticsWindow> m_statistics;
 };

@@ -191,8 +191,8 @@ void formUsmira::connectMenus()
                               *m_ui->menuComPackHoles, *m_ui->menuComTarget, *m_ui->menuComUniform,
                               *m_ui->menuComCount},
                              m_runner);
-    m_views.connectItems(
-        {*m_ui->menuComGraphs, *m_ui->menuComGrid, *m_ui->menuComProxScan, *m_ui->menuEditNumbers});
+    m_views.connectItems({*m_ui->menuComGraphs, *m_ui->menuComGrid, *m_ui->menuComProxScan,
+                          *m_ui->menuEditNumbers, *m_ui->menuComStatistics});
     m_checkMenu.connectItems({*m_ui->menuComCheck, *m_ui->menuComNextFinding,
                               *m_ui->menuComPrevFinding, *m_ui->statusBar});
     connect(&m_page, &ParagraphPage::changed, this, [this] { m_views.followEditor(); });
