@@ -185,7 +185,7 @@ private Q_SLOTS:
             const QPoint place = (cellOrigin(n, 0) + QPoint(210, 240)) / Twips::PerPixel;
             return surface.grab().toImage().pixelColor(place);
         };
-        fixture.press("btnShades");
+        fixture.press("chkShades");
         QVERIFY(QTest::qWaitForWindowActive(&fixture.control<QDialog>("paraGrid")));
         QCOMPARE(colour(1), shadeColour(1));
         QCOMPARE(colour(4), shadeColour(0));

@@ -26,10 +26,12 @@ void limitLines(QTextBrowser &browser, int lines)
     browser.setFixedHeight(lines * browser.fontMetrics().lineSpacing() + around);
 }
 
-// Nothing moves where nothing has changed.
+// Nothing moves where nothing has changed. The text takes its links' colour with it.
 void showSentences(QTextBrowser &browser, const QStringList &sentences)
 {
-    const QString html = sentences.join(QStringLiteral("<br>"));
+    const QString html = QStringLiteral("<style>a { color: %1 }</style>")
+                             .arg(browser.palette().color(QPalette::Link).name()) +
+                         sentences.join(QStringLiteral("<br>"));
     if (browser.property("shown").toString() == html)
         return;
     browser.setProperty("shown", html);
@@ -63,8 +65,8 @@ void statisticsWindow::setUpTables()
         {tr("Numéro"), tr("Mots"), tr("Signes"), tr("Choix"), tr("Lectures"), tr("Premiers mots")},
         m_words, tr("Paragraphes"), tr("Un double-clic ou Entrée va au paragraphe"));
     m_ui->endings->setUp(
-        {tr("Fin"), tr("Lectures"), tr("Longueur"), tr("Passages obligés"), tr("Premiers mots")},
-        m_words, tr("Fins"), tr("Un clic ou Entrée lit le chemin le plus court jusqu'à cette fin"));
+        {tr("Fin"), tr("Lectures"), tr("Longueur"), tr("Passages"), tr("Premiers mots")}, m_words,
+        tr("Fins"), tr("Un clic ou Entrée lit le chemin le plus court jusqu'à cette fin"));
     m_ui->sizeChart->setTitles(tr("mots"), tr("paragraphes"));
     m_ui->choiceChart->setTitles(tr("choix"), tr("paragraphes"));
     m_ui->lengthChart->setTitles(tr("paragraphes lus"), tr("lectures"));
@@ -83,7 +85,7 @@ void statisticsWindow::connectControls()
                    [this] { btnRead_Click(); });
     connectGuarded(m_ui->txtSeed, &QLineEdit::returnPressed, this, m_prompts,
                    [this] { txtSeed_Enter(); });
-    connect(m_ui->btnShades, &QPushButton::toggled, this, &statisticsWindow::giveShades);
+    connect(m_ui->chkShades, &QCheckBox::toggled, this, &statisticsWindow::giveShades);
     connectGuarded(m_ui->btnCopy, &QPushButton::clicked, this, m_prompts, [this] { copy(); });
     connect(m_ui->btnClose, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -140,11 +142,18 @@ void statisticsWindow::showEvent(QShowEvent *event)
         m_computing.start();
 }
 
+void statisticsWindow::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && isVisible())
+        computeSoon();
+}
+
 // Where the shades came from could not be seen any more.
 void statisticsWindow::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
-    m_ui->btnShades->setChecked(false);
+    m_ui->chkShades->setChecked(false);
 }
 
 void statisticsWindow::focusPages()
@@ -268,7 +277,7 @@ void statisticsWindow::showCharts()
 
 void statisticsWindow::giveShades()
 {
-    if (!m_ui->btnShades->isChecked()) {
+    if (!m_ui->chkShades->isChecked()) {
         Q_EMIT shadesChanged(std::nullopt);
         return;
     }
