@@ -294,4 +294,21 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>readingWindow</name>
+    <message numerus="yes">
+        <source>D&apos;ici, tout est lu ; depuis le début, il reste %n paragraphe(s) à lire.</source>
+        <translation>
+            <numerusform>D&apos;ici, tout est lu ; depuis le début, il reste %n paragraphe à lire.</numerusform>
+            <numerusform>D&apos;ici, tout est lu ; depuis le début, il reste %n paragraphes à lire.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Tout ce qu&apos;une lecture peut atteindre est lu ; %n paragraphe(s) non lu(s) ne sont atteints par aucune.</source>
+        <translation>
+            <numerusform>Tout ce qu&apos;une lecture peut atteindre est lu ; %n paragraphe non lu n&apos;est atteint par aucune.</numerusform>
+            <numerusform>Tout ce qu&apos;une lecture peut atteindre est lu ; %n paragraphes non lus ne sont atteints par aucune.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

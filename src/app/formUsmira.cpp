@@ -61,6 +61,7 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_functions(variables, prompts, m_work, *this), m_history(variables, prompts, m_work, *this),
       m_views(variables, prompts, {m_navigation, m_runner}, *this),
       m_checkMenu(variables, prompts, m_work, {m_page, m_navigation, m_runner}, *this),
+      m_reading(variables, prompts, m_comfort, {m_page, m_navigation, m_runner}, *this),
       m_conversions(variables, prompts, m_page, m_work, *this), m_info(variables, prompts, m_page)
 {
     resize(DesignSize);
@@ -196,6 +197,7 @@ void formUsmira::connectMenus()
     m_checkMenu.connectItems({*m_ui->menuComCheck, *m_ui->menuComNextFinding,
                               *m_ui->menuComPrevFinding, *m_ui->statusBar});
     connect(&m_page, &ParagraphPage::changed, this, [this] { m_views.followEditor(); });
+    m_reading.connectItems({*m_ui->menuComReading, *m_ui->menuComReadingStart});
     m_menuStates.watch(*m_ui->menuCommands);
     connect(m_ui->menuCommands, &QMenu::aboutToShow, this, [this] { m_functions.showSwapKey(); });
     m_conversions.connectItems({*m_ui->menuConvRTF, *m_ui->menuConvSave1, *m_ui->menuConvLoad1,

@@ -6,6 +6,7 @@
 #include "app/FunctionsMenu.h"
 #include "app/HistoryMenu.h"
 #include "app/InfoMenu.h"
+#include "app/ReadingMenu.h"
 #include "app/ViewsMenu.h"
 #include "app/WorkDisplay.h"
 #include "editor/CommandRunner.h"
@@ -107,6 +108,7 @@ private:
     HistoryMenu m_history;
     ViewsMenu m_views;
     CheckMenu m_checkMenu;
+    ReadingMenu m_reading;
     ConversionsMenu m_conversions;
     InfoMenu m_info;
     bool m_closed = false; // the window is going, and saves nothing any more
