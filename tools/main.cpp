@@ -1,9 +1,11 @@
 // usmira-textes SOURCES TARGET: makes the bundled texts anew.
 //   SOURCES/copyright.txt, aide.txt, help.txt -> TARGET/documents/*.rtf
 //   SOURCES/adventure.txt -> TARGET/samples/<title>.usm
-// adventure.txt begins with "titre: ..."; "=== 12" or "=== 12 fixe" begins a paragraph.
+// adventure.txt begins with "titre: ..."; "=== 12" begins a paragraph, with "fixe" behind it one
+// that MasterMix leaves alone, with "fin" an ending that the author has accepted.
 
 #include "Markup.h"
+#include "check/CheckBook.h"
 #include "platform/Errors.h"
 #include "platform/SafeFile.h"
 #include "richtext/HiddenBox.h"
@@ -54,6 +56,7 @@ public:
                 m_paragraph.append(line);
         }
         end();
+        acceptEndings();
         m_variables.CurrentParagraph = m_variables.LowestWritten;
         writeAdventure(m_variables, folder + u'/' + title + QStringLiteral(".usm"));
     }
@@ -66,6 +69,8 @@ private:
         m_variables.ParagraphDirty = true;
         if (words.contains(QStringLiteral("fixe")))
             m_variables.Unmixable.at(words.first().toInt()) = 1;
+        if (words.contains(QStringLiteral("fin")))
+            m_endings.append(words.first().toInt());
     }
 
     void end()
@@ -77,10 +82,20 @@ private:
         m_paragraph.clear();
     }
 
+    void acceptEndings()
+    {
+        QList<Finding> endings = CheckBook(m_variables, plainTexts(m_variables)).findings;
+        endings.removeIf([this](const Finding &finding) {
+            return finding.kind != FindingKind::Ending || !m_endings.contains(finding.number);
+        });
+        m_variables.extras = withAccepted(m_variables.extras, endings);
+    }
+
     QTemporaryDir m_folder;
     Variables m_variables;
     HiddenBox m_box;
     QStringList m_paragraph;
+    QList<int> m_endings;
 };
 
 void makeAll(const QString &sources, const QString &target)

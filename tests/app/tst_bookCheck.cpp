@@ -186,6 +186,28 @@ private Q_SLOTS:
         QCOMPARE(scene.state("lblStartsNote"), "Sans texte : 8. Le contrôle part donc du 3.");
     }
 
+    // The slips of the sample are there on purpose, and its endings are accepted in its file.
+    void sampleHasItsSlipsAndATrapThatIsAdded()
+    {
+        QFile sample(QString(USMIRA_RESOURCES) + "/samples/La Dernière Tournée.usm");
+        QVERIFY(sample.open(QIODevice::ReadOnly));
+        Scene scene({"1: Rien."});
+        scene.fixture.open(sample.readAll());
+        const QString slips = "Renvois à un paragraphe vide (1): 33|"
+                              "Paragraphes où aucune lecture n'arrive (1): 23";
+        QTRY_COMPARE(scene.listed(), slips);
+        const std::array<std::pair<int, const char *>, 3> added{
+            {{33, " Ou bien au 201."},
+             {201, "Le courant vous emporte au 202."},
+             {202, "Le remous vous rejette au 201."}}};
+        for (const auto &[n, text] : added) {
+            scene.fixture.window->LoadParg(n);
+            scene.fixture.type(text);
+            scene.fixture.window->SaveCurParg();
+        }
+        QTRY_COMPARE(scene.listed(), slips + "|Pièges d'où aucune fin n'est possible (1): 201");
+    }
+
     void listIsSavedAsItIsShown()
     {
         Scene scene({"1: Tout est fini, vous dormez enfin."});
