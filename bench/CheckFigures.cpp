@@ -4,7 +4,9 @@
 #include "Figures.h"
 #include "check/BookWays.h"
 #include "check/CheckBook.h"
+#include "check/LiveCheck.h"
 #include "check/WayCheck.h"
+#include "store/AdventureEvents.h"
 
 namespace
 {
@@ -27,4 +29,11 @@ void printCheckFigures(const QString &path, const QString &folder)
           medianMilliseconds(Runs, nothing, [&] { wayFindings(BookWays(variables)); }));
     print(QStringLiteral("check them from a cold start"),
           medianMilliseconds(Runs, nothing, [&] { CheckBook(variables, plainTexts(variables)); }));
+    LiveCheck check(variables);
+    check.bringUpToDate();
+    const auto saved = [&] { Q_EMIT variables.Events->paragraphSaved(1000); };
+    print(QStringLiteral("hear that one of 2000 paragraphs was saved"),
+          medianMilliseconds(Runs, nothing, saved));
+    print(QStringLiteral("check again after that, a while later"),
+          medianMilliseconds(Runs, saved, [&] { check.bringUpToDate(); }));
 }
