@@ -58,6 +58,24 @@ bool comesBefore(const Finding &a, const Finding &b)
 CheckedBook CheckBook(const Variables &variables, const PlainTexts &texts)
 {
     const BookWays ways(variables);
+    const TextCheck check(variables, ways);
+    QList<Finding> ofTexts;
+    for (int n = 1; n <= Variables::LastParagraph; ++n)
+        ofTexts += findingsIn(n, check, ways, texts);
+    return CheckBook(variables, ways, texts, ofTexts);
+}
+
+QList<Finding> findingsIn(int n, const TextCheck &check, const BookWays &ways,
+                          const PlainTexts &texts)
+{
+    if (!ways.written.at(n))
+        return {};
+    return check.findings(n, texts.unreadable.contains(n) ? nullptr : &texts.texts.at(n));
+}
+
+CheckedBook CheckBook(const Variables &variables, const BookWays &ways, const PlainTexts &texts,
+                      const QList<Finding> &ofTexts)
+{
     QList<Finding> findings = wayFindings(ways);
     for (Finding &finding : findings) {
         if (finding.kind != FindingKind::Unreachable)
@@ -66,11 +84,7 @@ CheckedBook CheckBook(const Variables &variables, const PlainTexts &texts)
         const TextPart sentence = firstSentence(text);
         finding.around = text.mid(sentence.position, sentence.length);
     }
-    const TextCheck check(variables, ways);
-    for (int n = 1; n <= Variables::LastParagraph; ++n)
-        if (ways.written.at(n))
-            findings +=
-                check.findings(n, texts.unreadable.contains(n) ? nullptr : &texts.texts.at(n));
+    findings += ofTexts;
     std::sort(findings.begin(), findings.end(), comesBefore);
     CheckedBook checked;
     const AcceptedOnes accepted(variables.extras.accepted);

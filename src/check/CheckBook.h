@@ -4,6 +4,8 @@
 #include "check/PlainTexts.h"
 #include "store/extras/AdventureExtras.h"
 
+class TextCheck;
+struct BookWays;
 struct Variables;
 
 // The order of findings: by kinds, then numbers, then places.
@@ -19,6 +21,14 @@ struct CheckedBook {
 // extras name and without what is accepted there. Takes time as the texts and the references are
 // long and many.
 CheckedBook CheckBook(const Variables &variables, const PlainTexts &texts);
+
+// The same by its two parts, for a check that is repeated. What is found in the text and the
+// references of one paragraph, in no order, stays so until they, the target phrase or which
+// paragraphs are written change; check is of these ways.
+QList<Finding> findingsIn(int n, const TextCheck &check, const BookWays &ways,
+                          const PlainTexts &texts);
+CheckedBook CheckBook(const Variables &variables, const BookWays &ways, const PlainTexts &texts,
+                      const QList<Finding> &ofTexts);
 
 // "3 fautes, 12 remarques"; notes are not counted.
 QString findingCounts(const QList<Finding> &findings);

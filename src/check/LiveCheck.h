@@ -4,11 +4,12 @@
 
 #include <QObject>
 #include <QTimer>
+#include <memory>
 #include <set>
 
 // The check of the open adventure, done anew by itself a while after something has changed: in
 // slices, so that nobody who writes has to wait for it. Only texts that have changed are read
-// again.
+// again, and what was found in the others stays where it may.
 class LiveCheck : public QObject
 {
     Q_OBJECT
@@ -16,6 +17,7 @@ class LiveCheck : public QObject
 public:
     // The adventure must outlive it.
     explicit LiveCheck(const Variables &variables);
+    ~LiveCheck() override;
 
     // As it was found last; nothing for an adventure that is still to be checked.
     const CheckedBook &book() const { return m_book; }
@@ -33,16 +35,22 @@ Q_SIGNALS:
     void changed();
 
 private:
+    struct Pass;
     void begin();
     void changedAt(const QList<int> &numbers);
-    void work();
-    void readSome(qint64 milliseconds);
-    void check();
+    bool workFor(qint64 milliseconds);
+    void beginPass();
+    void finish();
 
     const Variables &m_variables;
     PlainTexts m_texts;
+    ParagraphArray<QList<Finding>, 2001> m_found; // in each text
     CheckedBook m_book;
-    std::set<int> m_unread; // texts that have changed since they were read
+    std::set<int> m_unread;    // texts that have changed since they were read
+    std::set<int> m_unchecked; // read, and not yet looked into
+    QString m_phrase;          // for which and among which written ones the others were
+    ParagraphArray<quint8, 2002> m_written;
+    std::unique_ptr<Pass> m_pass; // while nothing has changed since it began
     bool m_checked = false;
     QTimer m_timer; // runs while something is still to be done
 };

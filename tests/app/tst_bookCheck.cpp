@@ -1,5 +1,6 @@
 #include "WindowFixture.h"
 
+#include "check/CheckBook.h"
 #include "store/AdventureChanges.h"
 
 #include <QCheckBox>
@@ -206,6 +207,9 @@ private Q_SLOTS:
             scene.fixture.window->SaveCurParg();
         }
         QTRY_COMPARE(scene.listed(), slips + "|Pièges d'où aucune fin n'est possible (1): 201");
+        const Variables &book = scene.fixture.variables; // checked from the beginning
+        const QList<Finding> all = CheckBook(book, plainTexts(book)).findings;
+        QCOMPARE(scene.counts(), "Contrôle : " + findingCounts(all));
     }
 
     void listIsSavedAsItIsShown()
