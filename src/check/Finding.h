@@ -47,6 +47,7 @@ struct Finding {
     QString phrase;              // the target phrase
 
     Severity severity() const;
+    bool operator==(const Finding &) const = default;
     // What is the matter, in French.
     QString sentence() const;
     // SHA-256 of what it speaks of, by which an accepted finding is known again. It stays the same

@@ -20,12 +20,14 @@ struct ListedFinding {
     int ordinal;
     bool accepted;
     FindingKey key() const { return {finding.kind, finding.number, ordinal}; }
+    bool operator==(const ListedFinding &) const = default;
 };
 
 // By number, then place. None is empty.
 struct FindingGroup {
     FindingKind kind;
     QList<ListedFinding> findings;
+    bool operator==(const FindingGroup &) const = default;
 };
 
 // Which of them are listed.

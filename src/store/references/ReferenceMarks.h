@@ -18,6 +18,7 @@ struct ReferenceMark {
     int seen;         // the number as one sees it
     int read;         // as following and renumbering read it; 0: not at all
     Doubt doubt;
+    bool operator==(const ReferenceMark &) const = default;
 };
 
 // The marks of one line, ascending and apart from one another, brought up to date while the line is

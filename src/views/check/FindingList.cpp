@@ -53,6 +53,10 @@ void FindingList::forget()
 
 void FindingList::setFindings(QList<FindingGroup> groups)
 {
+    if (groups == m_model.groups()) {
+        Q_EMIT choiceChanged();
+        return;
+    }
     const std::optional<Place> current = placeAt(currentIndex());
     const std::optional<Place> top = placeAt(indexAt({0, 0}));
     const int scrolled = verticalScrollBar()->value();
