@@ -10,53 +10,19 @@ namespace
 constexpr int NotYet = -1;
 }
 
-BookPaths::BookPaths(const BookWays &ways) : m_reached(ways.reached)
+BookPaths::BookPaths(const BookWays &ways) : m_shortest(ways.web, ways.starts)
 {
-    findShortest(ways);
     findDominators(ways);
-}
-
-QList<int> BookPaths::wayTo(int n) const
-{
-    return up(m_before, n);
 }
 
 QList<int> BookPaths::passagesTo(int n) const
 {
-    QList<int> passages = up(m_dominator, n);
-    if (!passages.isEmpty())
-        passages.removeLast();
+    QList<int> passages;
+    if (m_dominator.at(n) != NotYet)
+        for (int at = m_dominator.at(n); at != 0; at = m_dominator.at(at))
+            passages.append(at);
+    std::reverse(passages.begin(), passages.end());
     return passages;
-}
-
-QList<int> BookPaths::up(const ParagraphArray<int, 2001> &parents, int n) const
-{
-    QList<int> way;
-    if (m_reached.at(n))
-        for (int at = n; at != 0; at = parents.at(at))
-            way.append(at);
-    std::reverse(way.begin(), way.end());
-    return way;
-}
-
-void BookPaths::findShortest(const BookWays &ways)
-{
-    ParagraphSet met;
-    QList<int> next;
-    const auto meet = [&](int from, const QList<int> &numbers) {
-        for (const int n : numbers) {
-            if (met.at(n))
-                continue;
-            met.at(n) = true;
-            m_before.at(n) = from;
-            next.append(n);
-        }
-    };
-    meet(0, ways.starts);
-    for (qsizetype at = 0; at < next.size(); ++at) {
-        const int n = next.at(at);
-        meet(n, ways.web.outgoing.at(n));
-    }
 }
 
 // What is reached, each before what it leads to unless that leads back. The search has a stack of

@@ -4,35 +4,43 @@
 
 #include <algorithm>
 
-namespace
+ShortestWays::ShortestWays(const ReferenceWeb &web, const QList<int> &starts)
 {
-// Back from the end of the way that was found.
-QList<int> wayTo(int end, int from, const ParagraphArray<int, 2001> &before)
+    m_before.fill(-1);
+    for (const int start : starts)
+        reach(start, {start});
+    for (qsizetype i = 0; i < m_reached.size(); ++i) { // they become more on the way
+        const int n = m_reached.at(i);
+        reach(n, web.outgoing.at(n));
+    }
+}
+
+void ShortestWays::reach(int from, const QList<int> &numbers)
 {
-    QList<int> way;
-    for (int n = end; n != from; n = before.at(n))
-        way.append(n);
+    for (const int n : numbers) {
+        if (m_before.at(n) >= 0)
+            continue;
+        m_before.at(n) = from;
+        m_reached.append(n);
+    }
+}
+
+QList<int> ShortestWays::to(int n) const
+{
+    if (m_before.at(n) < 0)
+        return {};
+    QList<int> way{n};
+    while (m_before.at(way.last()) != way.last())
+        way.append(m_before.at(way.last()));
     std::reverse(way.begin(), way.end());
     return way;
 }
-} // namespace
 
 QList<int> shortestWay(const ReferenceWeb &web, int from, const ParagraphSet &wanted)
 {
-    ParagraphArray<int, 2001> before;
-    before.fill(-1);
-    before.at(from) = from;
-    QList<int> reached{from};
-    for (qsizetype i = 0; i < reached.size(); ++i) {
-        const int n = reached.at(i);
-        for (const int to : web.outgoing.at(n)) {
-            if (before.at(to) >= 0)
-                continue;
-            before.at(to) = n;
-            if (wanted.at(to))
-                return wayTo(to, from, before);
-            reached.append(to);
-        }
-    }
-    return {};
+    const ShortestWays ways(web, {from});
+    const QList<int> others = ways.reached().mid(1);
+    const auto nearest =
+        std::find_if(others.begin(), others.end(), [&wanted](int n) { return wanted.at(n); });
+    return nearest == others.end() ? QList<int>() : ways.to(*nearest).mid(1);
 }
