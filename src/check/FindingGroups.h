@@ -3,6 +3,7 @@
 #include "check/CheckBook.h"
 
 #include <array>
+#include <tuple>
 
 // The findings of a book as they are listed: in groups of their kinds.
 
@@ -12,7 +13,11 @@ struct FindingKey {
     FindingKind kind;
     int number;
     int ordinal; // among those of this kind in the paragraph
-    auto operator<=>(const FindingKey &) const = default;
+    bool operator==(const FindingKey &) const = default;
+    bool operator<(const FindingKey &other) const
+    {
+        return std::tie(kind, number, ordinal) < std::tie(other.kind, other.number, other.ordinal);
+    }
 };
 
 struct ListedFinding {

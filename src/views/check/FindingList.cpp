@@ -123,7 +123,7 @@ QModelIndex FindingList::indexAtOrBehind(const Place &place) const
                                              : m_model.indexOf(g, 0);
     const auto finding =
         std::find_if(group->findings.begin(), group->findings.end(),
-                     [&](const ListedFinding &other) { return other.key() >= place.key; });
+                     [&](const ListedFinding &other) { return !(other.key() < place.key); });
     if (finding != group->findings.end())
         return m_model.indexOf(g, finding - group->findings.begin());
     return g + 1 < groups.size() ? m_model.indexOf(g + 1, 0)

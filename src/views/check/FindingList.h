@@ -5,6 +5,7 @@
 #include <QTreeView>
 #include <optional>
 #include <set>
+#include <tuple>
 
 // The list of findings on the screen. What the author has chosen, folded and scrolled to stays when
 // other findings take the place of these.
@@ -45,7 +46,11 @@ private:
     struct Place {
         FindingKey key;
         bool group;
-        auto operator<=>(const Place &) const = default;
+        bool operator==(const Place &) const = default;
+        bool operator<(const Place &other) const
+        {
+            return std::tie(key, group) < std::tie(other.key, other.group);
+        }
     };
     // The finding that was shown in the text last. When those of its kind in its paragraph become
     // fewer, it may be the one that has gone.
