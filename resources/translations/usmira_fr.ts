@@ -310,5 +310,26 @@
             <numerusform>Tout ce qu&apos;une lecture peut atteindre est lu ; %n paragraphes non lus ne sont atteints par aucune.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Au hasard : %n paragraphe(s), puis un renvoi à un paragraphe vide.</source>
+        <translation>
+            <numerusform>Au hasard : %n paragraphe, puis un renvoi à un paragraphe vide.</numerusform>
+            <numerusform>Au hasard : %n paragraphes, puis un renvoi à un paragraphe vide.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Au hasard : arrêté après %n paragraphe(s), car la lecture tourne en rond : %1</source>
+        <translation>
+            <numerusform>Au hasard : arrêté après %n paragraphe, car la lecture tourne en rond : %1</numerusform>
+            <numerusform>Au hasard : arrêté après %n paragraphes, car la lecture tourne en rond : %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Au hasard : %n paragraphe(s) jusqu&apos;à une fin.</source>
+        <translation>
+            <numerusform>Au hasard : %n paragraphe jusqu&apos;à une fin.</numerusform>
+            <numerusform>Au hasard : %n paragraphes jusqu&apos;à une fin.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "app/ViewsMenu.h"
 
+#include "app/ReadingMenu.h"
 #include "editor/CommandRunner.h"
 #include "editor/FirstWords.h"
 #include "editor/Navigation.h"
@@ -111,7 +112,7 @@ void ViewsMenu::menuComStatistics_Click()
         const std::function<QString(int)> words = firstWordsOf(m_variables);
         statisticsWindow &window = made(m_statistics, m_variables, m_prompts, words);
         QObject::connect(&window, &statisticsWindow::wayWanted, &window,
-                         [this](const QList<int> &way) { goTo(way.last()); });
+                         [this](const QList<int> &way) { m_editor.reading.showWay(way); });
         QObject::connect(&window, &statisticsWindow::shadesChanged, &window,
                          [this](const std::optional<GridShades> &shades) { showShades(shades); });
     }

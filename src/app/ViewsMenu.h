@@ -12,6 +12,7 @@ class Navigation;
 class NumberWindow;
 class QAction;
 class QWidget;
+class ReadingMenu;
 class paraGraphs;
 class paraGrid;
 class proximityScan;
@@ -25,6 +26,7 @@ public:
     struct Editor {
         Navigation &navigation;
         CommandRunner &runner;
+        ReadingMenu &reading;
     };
     // window is the one that they stand beside; all of these must outlive it.
     ViewsMenu(const Variables &variables, Prompts &prompts, const Editor &editor, QWidget &window);

@@ -59,9 +59,9 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_navigation(variables, prompts, m_page),
       m_searchReplace(variables, prompts, m_work, {m_page, m_navigation, m_runner}, this),
       m_functions(variables, prompts, m_work, *this), m_history(variables, prompts, m_work, *this),
-      m_views(variables, prompts, {m_navigation, m_runner}, *this),
-      m_checkMenu(variables, prompts, m_work, {m_page, m_navigation, m_runner}, *this),
       m_reading(variables, prompts, m_comfort, {m_page, m_navigation, m_runner}, *this),
+      m_views(variables, prompts, {m_navigation, m_runner, m_reading}, *this),
+      m_checkMenu(variables, prompts, m_work, {m_page, m_navigation, m_runner}, *this),
       m_conversions(variables, prompts, m_page, m_work, *this), m_info(variables, prompts, m_page)
 {
     resize(DesignSize);

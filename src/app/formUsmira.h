@@ -106,9 +106,9 @@ private:
     searchReplace m_searchReplace;
     FunctionsMenu m_functions;
     HistoryMenu m_history;
+    ReadingMenu m_reading;
     ViewsMenu m_views;
     CheckMenu m_checkMenu;
-    ReadingMenu m_reading;
     ConversionsMenu m_conversions;
     InfoMenu m_info;
     bool m_closed = false; // the window is going, and saves nothing any more

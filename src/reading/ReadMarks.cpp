@@ -79,12 +79,16 @@ void ReadMarks::noteRead(int n)
     changeSoon();
 }
 
-void ReadMarks::noteChoice(int from, int to)
+void ReadMarks::noteChoices(const QList<int> &way)
 {
-    if (m_marks.taken.contains(ReadingMarks::Choice{from, to}))
-        return;
-    m_marks.taken.append({from, to});
-    changeSoon();
+    const qsizetype before = m_marks.taken.size();
+    for (qsizetype i = 1; i < way.size(); ++i) {
+        const ReadingMarks::Choice choice{way.at(i - 1), way.at(i)};
+        if (!m_marks.taken.contains(choice))
+            m_marks.taken.append(choice);
+    }
+    if (m_marks.taken.size() > before)
+        changeSoon();
 }
 
 void ReadMarks::changeSoon()

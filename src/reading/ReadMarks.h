@@ -27,7 +27,8 @@ public:
     const QList<ReadingMarks::Bookmark> &bookmarks() const { return m_marks.bookmarks; }
 
     void noteRead(int n);
-    void noteChoice(int from, int to);
+    // The choices by which one goes from paragraph to paragraph.
+    void noteChoices(const QList<int> &way);
     // Nothing was read from now on. The bookmarks stay.
     void forget();
     // Throws LimitError when an adventure cannot have so much.

@@ -100,7 +100,7 @@ private Q_SLOTS:
         marks.noteRead(1);
         marks.noteRead(2);
         marks.noteRead(2);
-        marks.noteChoice(1, 2);
+        marks.noteChoices({1, 2});
         QVERIFY(!variables.AdventureModified);
         Q_EMIT variables.Events->extrasChanged(); // somebody else has changed something else
         QCOMPARE(marks.readCount(), 2);

@@ -1,5 +1,7 @@
 #include "app/WindowFixture.h"
 #include "store/AdventureChanges.h"
+#include "store/ParagraphTexts.h"
+#include "support/TestTable.h"
 #include "views/reading/LineList.h"
 #include "views/reading/ReadingPage.h"
 
@@ -203,6 +205,84 @@ private Q_SLOTS:
             "Oublier les lectures", Prompts::Buttons::YesNo, Prompts::Answer::Yes);
         ::click(fixture.reading(), "btnForget");
         QCOMPARE(fixture.read(), "Lus : 0 sur 5");
+    }
+
+    void whatWasReadIsThereBeforeTheProgramAsks()
+    {
+        ReadingFixture fixture(forest());
+        fixture.press(Qt::Key_1);
+        fixture.prompts.expect(
+            "ATTENTION : Vous n'avez pas enregistré l'aventure Le Loup.usm. Voulez-vous le "
+            "faire? Sinon, vous perdrez tous les changements!",
+            "Rappel amical", Prompts::Buttons::YesNoCancel, Prompts::Answer::Cancel);
+        fixture.window->close();
+        QCOMPARE(fixture.variables.extras.reading.read, QList<int>({1, 2}));
+    }
+
+    void oddBooksAreRead()
+    {
+        QString all;
+        QByteArray index;
+        for (int n = 1; n <= 2000; ++n) {
+            all += QStringLiteral(" au %1").arg(n);
+            index += fourDigits(n).toLatin1() + '/';
+        }
+        const auto book = [](const QStringList &lines, const QByteArray &list) {
+            return AdventureBuilder(lines).list(1, list);
+        };
+        const char *const keys =
+            "1 à 9 : choisir ; Retour arrière : revenir ; Début : recommencer.";
+        const Table<AdventureBuilder, const char *, const char *, const char *> rows{
+            {"nothing", AdventureBuilder(), "Ce paragraphe est vide.", "Il n'y a rien à lire.", ""},
+            {"one", AdventureBuilder({"1: Seul."}), "Fin : aucun renvoi ne part d'ici.",
+             "Au hasard : 1 paragraphe jusqu'à une fin.", ""},
+            {"ring", book({"1: Va au 2.", "2: Va au 1."}, "0002/").list(2, "0001/"), keys,
+             "Au hasard : arrêté après 3 paragraphes, car la lecture tourne en rond : 1, 2.", keys},
+            {"to nothing", book({"1: Va au 9."}, "0009/"), keys,
+             "Au hasard : 1 paragraphe, puis un renvoi à un paragraphe vide.",
+             "Le paragraphe 9 est encore vide."},
+            {"2000 references", book({"1:" + all}, index), keys, "",
+             "Le paragraphe 2 est encore vide."},
+        };
+        for (const auto &[name, adventure, first, atRandom, chosen] : rows) {
+            ReadingFixture fixture(adventure);
+            QCOMPARE(fixture.told(), first);
+            ::click(fixture.reading(), "btnRandom");
+            if (*atRandom != 0)
+                QCOMPARE(fixture.told(), atRandom);
+            ::click(fixture.reading(), "btnUnread");
+            fixture.press(Qt::Key_Home);
+            QVERIFY(fixture.way().startsWith("[1]"));
+            fixture.press(Qt::Key_1);
+            if (*chosen != 0)
+                QCOMPARE(fixture.told(), chosen);
+        }
+    }
+
+    void anUnreadableTextIsTold()
+    {
+        const ReadingFixture fixture(forest());
+        fixture.edit(2);
+        fixture.type("Partie.");
+        fixture.edit(1);
+        QVERIFY(QFile::remove(extractedTextPath(fixture.variables, 2)));
+        fixture.press(Qt::Key_1);
+        QCOMPARE(fixture.told(), "Le texte de ce paragraphe est illisible.");
+        QCOMPARE(fixture.page().text(), "");
+    }
+
+    void ofSeveralStartsOneIsChosen()
+    {
+        const ReadingFixture fixture(forest());
+        AdventureExtras extras = fixture.variables.extras;
+        extras.starts = {4, 5, 2}; // 5 is empty
+        changeExtras(fixture.variables, extras);
+        fixture.press(Qt::Key_Home);
+        const auto *menu = fixture.reading().findChild<QMenu *>();
+        QVERIFY(menu != nullptr);
+        QCOMPARE(menu->actions().size(), 2);
+        menu->actions().at(1)->trigger();
+        QCOMPARE(fixture.way(), "[2]");
     }
 
     void bookmarksAreGoneBackTo()

@@ -7,6 +7,7 @@
 #include "editor/options/ZoomKeys.h"
 #include "platform/Errors.h"
 #include "platform/Guarded.h"
+#include "reading/RandomReadings.h"
 #include "reading/ShortestWay.h"
 #include "store/AdventureEvents.h"
 #include "store/DamagedTexts.h"
@@ -78,6 +79,7 @@ void readingWindow::connectControls()
     onClick(m_ui->btnBack, &readingWindow::goBack);
     onClick(m_ui->btnRestore, &readingWindow::restore);
     onClick(m_ui->btnUnread, &readingWindow::btnUnread_Click);
+    onClick(m_ui->btnRandom, &readingWindow::btnRandom_Click);
     onClick(m_ui->btnForget, &readingWindow::btnForget_Click);
     onClick(m_ui->btnEdit, &readingWindow::btnEdit_Click);
     connect(m_ui->btnClose, &QPushButton::clicked, this, &QDialog::reject);
@@ -86,7 +88,10 @@ void readingWindow::connectControls()
             [this](int row) { choose(m_choices.line(row).number); });
     connect(m_ui->way, &LineList::chosen, this, &readingWindow::returnTo);
     connect(m_bookmarks.get(), &BookmarkPanel::wanted, this, &readingWindow::showWay);
-    connect(&m_marks, &ReadMarks::changed, this, &readingWindow::showMarks);
+    connect(&m_marks, &ReadMarks::changed, this, [this] {
+        if (isVisible())
+            showMarks();
+    });
 }
 
 // French keyboards have the digits with Shift, and these characters without.
@@ -166,7 +171,7 @@ void readingWindow::choose(int target)
         m_prompts.beep();
         return;
     }
-    m_marks.noteChoice(*m_way.current(), target);
+    m_marks.noteChoices({*m_way.current(), target});
     m_way.goOn({target});
     come();
 }
@@ -211,9 +216,7 @@ void readingWindow::btnUnread_Click()
         tell(nothingUnread());
         return;
     }
-    int from = *m_way.current();
-    for (const int to : way)
-        m_marks.noteChoice(std::exchange(from, to), to);
+    m_marks.noteChoices(QList<int>{*m_way.current()} + way);
     m_way.goOn(way);
     come();
 }
@@ -234,6 +237,40 @@ QString readingWindow::nothingUnread() const
     return tr("Tout ce qu'une lecture peut atteindre est lu ; %n paragraphe(s) non lu(s) ne sont "
               "atteints par aucune.",
               nullptr, left);
+}
+
+// From where he is, or from the start when nothing leads on from there.
+void readingWindow::btnRandom_Click()
+{
+    const BookWays ways(m_variables);
+    const int here = m_way.current().value_or(0);
+    const bool goesOn = !ways.web.outgoing.at(here).isEmpty();
+    if (!goesOn && ways.starts.isEmpty()) {
+        tell(tr("Il n'y a rien à lire."));
+        return;
+    }
+    const int from = goesOn ? here : ways.starts.first();
+    const RandomReading reading = RandomReader(m_variables, ways, anySeed()).read(from);
+    m_way.come((goesOn ? m_way.steps().first(m_way.at()) : QList<int>()) + reading.way);
+    come();
+    tell(randomSentence(reading));
+}
+
+QString readingWindow::randomSentence(const RandomReading &reading) const
+{
+    const auto steps = static_cast<int>(reading.way.size());
+    switch (reading.end) {
+    case ReadingEnd::Ending:
+        break;
+    case ReadingEnd::EmptyNumber:
+        return tr("Au hasard : %n paragraphe(s), puis un renvoi à un paragraphe vide.", nullptr,
+                  steps - 1);
+    case ReadingEnd::Loop:
+        return tr("Au hasard : arrêté après %n paragraphe(s), car la lecture tourne en rond : %1",
+                  nullptr, steps)
+            .arg(paragraphNames(reading.loop));
+    }
+    return tr("Au hasard : %n paragraphe(s) jusqu'à une fin.", nullptr, steps);
 }
 
 void readingWindow::btnForget_Click()

@@ -10,6 +10,7 @@
 
 class BookmarkPanel;
 class ComfortKeeper;
+struct RandomReading;
 class Prompts;
 
 namespace Ui
@@ -58,6 +59,7 @@ private:
     void returnTo(int step);
     void restore();
     void btnUnread_Click();
+    void btnRandom_Click();
     void btnForget_Click();
     void btnEdit_Click();
 
@@ -71,6 +73,7 @@ private:
     void showSteps();
     void tell(const QString &sentence);
     QString nothingUnread() const;
+    QString randomSentence(const RandomReading &reading) const;
     QString endSentence() const;
     QString tipOf(const ReadingPage::Link &link) const;
 
