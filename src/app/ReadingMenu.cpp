@@ -44,7 +44,8 @@ readingWindow &ReadingMenu::shown()
     return *m_reading;
 }
 
-// He stays where he is when the paragraph on the screen cannot be saved.
+// The window covers much of the text, and makes room for the place. The author stays where he is
+// when the paragraph on the screen cannot be saved.
 void ReadingMenu::edit(int n, int position)
 {
     m_window.raise();
@@ -53,7 +54,7 @@ void ReadingMenu::edit(int n, int position)
     if (m_variables.CurrentParagraph != n)
         return;
     m_editor.view.editingBox().select(position, 0);
-    m_editor.view.revealSelection();
+    keepClear(*m_reading, m_editor.view.revealSelection());
 }
 
 bool ReadingMenu::eventFilter(QObject * /*watched*/, QEvent *event)
