@@ -69,11 +69,15 @@ private Q_SLOTS:
         if (font != m_font && !QFontDatabase::families().contains(font.family()))
             QSKIP(qPrintable(font.family() + " is not installed"));
         QApplication::setFont(font);
-        const WindowFixture fixture(AdventureBuilder({"1: Un."}));
+        QString text = QString("1999: ") + QString("un mot ").repeated(600);
+        for (int n = 101; n < 213; ++n)
+            text += QString(" au %1 au %1").arg(n);
+        const WindowFixture fixture(AdventureBuilder({text}).current(1999));
         if (panel)
             fixture.click("btnMore");
         fixture.window->resize(size);
         QTRY_COMPARE(fixture.window->size(), size);
+        QTRY_VERIFY(fixture.control<QWidget>("btnCheck").isVisible());
         QCoreApplication::processEvents();
         const auto &behind = fixture.control<QWidget>("labBehind");
         const QList<QWidget *> all = controls(fixture);
