@@ -148,6 +148,44 @@
     </message>
 </context>
 <context>
+    <name>ReadingSentences</name>
+    <message numerus="yes">
+        <source>D&apos;ici, tout est lu ; depuis le début, il reste %n paragraphe(s) à lire.</source>
+        <translation>
+            <numerusform>D&apos;ici, tout est lu ; depuis le début, il reste %n paragraphe à lire.</numerusform>
+            <numerusform>D&apos;ici, tout est lu ; depuis le début, il reste %n paragraphes à lire.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Tout ce qu&apos;une lecture peut atteindre est lu ; %n paragraphe(s) non lu(s) ne sont atteints par aucune.</source>
+        <translation>
+            <numerusform>Tout ce qu&apos;une lecture peut atteindre est lu ; %n paragraphe non lu n&apos;est atteint par aucune.</numerusform>
+            <numerusform>Tout ce qu&apos;une lecture peut atteindre est lu ; %n paragraphes non lus ne sont atteints par aucune.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Au hasard : arrêté après %n paragraphe(s), car la lecture tourne en rond : %1</source>
+        <translation>
+            <numerusform>Au hasard : arrêté après %n paragraphe, car la lecture tourne en rond : %1</numerusform>
+            <numerusform>Au hasard : arrêté après %n paragraphes, car la lecture tourne en rond : %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Au hasard : %n paragraphe(s) jusqu&apos;à une fin.</source>
+        <translation>
+            <numerusform>Au hasard : %n paragraphe jusqu&apos;à une fin.</numerusform>
+            <numerusform>Au hasard : %n paragraphes jusqu&apos;à une fin.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Au hasard : %n paragraphe(s), puis un renvoi à un paragraphe vide.</source>
+        <translation>
+            <numerusform>Au hasard : %n paragraphe, puis un renvoi à un paragraphe vide.</numerusform>
+            <numerusform>Au hasard : %n paragraphes, puis un renvoi à un paragraphe vide.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RenumberCommands</name>
     <message numerus="yes">
         <source>%n renvoi(s) serai(en)t mal réécrit(s). Les corriger d&apos;abord ?</source>
@@ -291,44 +329,6 @@
         <translation>
             <numerusform>%n constat choisi.</numerusform>
             <numerusform>%n constats choisis.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>readingWindow</name>
-    <message numerus="yes">
-        <source>D&apos;ici, tout est lu ; depuis le début, il reste %n paragraphe(s) à lire.</source>
-        <translation>
-            <numerusform>D&apos;ici, tout est lu ; depuis le début, il reste %n paragraphe à lire.</numerusform>
-            <numerusform>D&apos;ici, tout est lu ; depuis le début, il reste %n paragraphes à lire.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Tout ce qu&apos;une lecture peut atteindre est lu ; %n paragraphe(s) non lu(s) ne sont atteints par aucune.</source>
-        <translation>
-            <numerusform>Tout ce qu&apos;une lecture peut atteindre est lu ; %n paragraphe non lu n&apos;est atteint par aucune.</numerusform>
-            <numerusform>Tout ce qu&apos;une lecture peut atteindre est lu ; %n paragraphes non lus ne sont atteints par aucune.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Au hasard : %n paragraphe(s), puis un renvoi à un paragraphe vide.</source>
-        <translation>
-            <numerusform>Au hasard : %n paragraphe, puis un renvoi à un paragraphe vide.</numerusform>
-            <numerusform>Au hasard : %n paragraphes, puis un renvoi à un paragraphe vide.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Au hasard : arrêté après %n paragraphe(s), car la lecture tourne en rond : %1</source>
-        <translation>
-            <numerusform>Au hasard : arrêté après %n paragraphe, car la lecture tourne en rond : %1</numerusform>
-            <numerusform>Au hasard : arrêté après %n paragraphes, car la lecture tourne en rond : %1</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Au hasard : %n paragraphe(s) jusqu&apos;à une fin.</source>
-        <translation>
-            <numerusform>Au hasard : %n paragraphe jusqu&apos;à une fin.</numerusform>
-            <numerusform>Au hasard : %n paragraphes jusqu&apos;à une fin.</numerusform>
         </translation>
     </message>
 </context>

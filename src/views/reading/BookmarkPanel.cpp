@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QListWidget>
 #include <QSignalBlocker>
+#include <algorithm>
 
 BookmarkPanel::BookmarkPanel(const Variables &variables, Prompts &prompts, ReadMarks &marks,
                              const ReadingWay &way, const Controls &controls)

@@ -1,12 +1,16 @@
 #include "views/reading/ReadingPage.h"
 
 #include "editor/PageColours.h"
+#include "editor/TextPlace.h"
+#include "platform/Errors.h"
 #include "richtext/TextPositions.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QHelpEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QToolTip>
+#include <algorithm>
 
 namespace
 {
@@ -31,6 +35,37 @@ ReadingPage::ReadingPage(QWidget *parent) : RtfBox(parent)
 {
     setReadOnly(true);
     viewport()->setMouseTracking(true);
+}
+
+bool ReadingPage::showText(int n, const QByteArray &rtf, const QFont &font)
+{
+    if (n == m_shown && rtf == m_given && baseFont() == font)
+        return true;
+    const TextPlace place = TextPlace::in(*this);
+    setBaseFont(font.family(), font.pointSizeF());
+    try {
+        setRtf(rtf);
+    } catch (const UsmiraError &) {
+        showNothing();
+        return false;
+    }
+    if (n == m_shown)
+        place.restore(*this);
+    m_shown = n;
+    m_given = rtf;
+    return true;
+}
+
+void ReadingPage::showNothing()
+{
+    m_shown = -1;
+    setText({});
+}
+
+void ReadingPage::follow(const NumberMap &newNumbers)
+{
+    if (m_shown >= 0)
+        m_shown = newNumbers.at(m_shown);
 }
 
 void ReadingPage::setLinks(const QList<Link> &links)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/RtfBox.h"
+#include "store/HistoryStep.h"
 
 #include <functional>
 #include <optional>
@@ -24,6 +25,14 @@ public:
     };
 
     explicit ReadingPage(QWidget *parent = nullptr);
+
+    // The text of paragraph n. The one that is there already stays, with the author's place in it,
+    // and so does the place in another text of the same paragraph. Gives false, and shows nothing,
+    // when the bytes are no RTF.
+    bool showText(int n, const QByteArray &rtf, const QFont &font);
+    void showNothing();
+    // Paragraphs have other numbers.
+    void follow(const NumberMap &newNumbers);
 
     // Of the text that is shown, ascending. The one with the focus keeps it by its place among
     // them; forgetFocus() takes it away.
@@ -53,6 +62,8 @@ private:
     void pointAt(const QPoint &point);
     QTextEdit::ExtraSelection selectionOf(const Link &link, bool focused) const;
 
+    int m_shown = -1; // the paragraph, given these bytes
+    QByteArray m_given;
     QList<Link> m_links;
     qsizetype m_focused = -1;
     std::optional<int> m_pressed; // where the link begins that the mouse was pressed on

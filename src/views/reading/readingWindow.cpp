@@ -2,10 +2,8 @@
 
 #include "check/BookWays.h"
 #include "editor/FirstWords.h"
-#include "editor/TextPlace.h"
 #include "editor/options/EditorComfort.h"
 #include "editor/options/ZoomKeys.h"
-#include "platform/Errors.h"
 #include "platform/Guarded.h"
 #include "reading/RandomReadings.h"
 #include "reading/ShortestWay.h"
@@ -14,9 +12,13 @@
 #include "ui_readingWindow.h"
 #include "views/reading/BookmarkPanel.h"
 #include "views/reading/ReadingLinks.h"
+#include "views/reading/ReadingSentences.h"
 
 #include <QMenu>
 #include <QShortcut>
+#include <QSplitter>
+#include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -54,7 +56,8 @@ readingWindow::readingWindow(Variables &variables, Prompts &prompts, ComfortKeep
         variables, prompts, m_marks, m_way,
         BookmarkPanel::Controls{*m_ui->bookmarks, *m_ui->btnMark, *m_ui->btnRename,
                                 *m_ui->btnUnmark});
-    m_ui->page->setTips([this](const ReadingPage::Link &link) { return tipOf(link); });
+    m_ui->page->setTips(
+        [this](const ReadingPage::Link &link) { return linkTip(m_variables, link); });
     new ZoomKeys(comfort, *m_ui->page, *this);
     const auto showComfort = [this, &comfort] {
         m_ui->page->setZoom(comfort.comfort().zoom);
@@ -122,12 +125,10 @@ void readingWindow::follow()
     connect(events, &AdventureEvents::targetPhraseChanged, this, &readingWindow::refresh);
     connect(events, &AdventureEvents::numbersChanged, this, [this](const NumberMap &newNumbers) {
         m_way.follow(newNumbers);
-        if (m_shown >= 0)
-            m_shown = newNumbers.at(m_shown);
+        m_ui->page->follow(newNumbers);
     });
     connect(events, &AdventureEvents::adventureReplaced, this, [this] {
         m_way.clear();
-        m_shown = -1;
         refresh();
         tell({});
     });
@@ -213,30 +214,12 @@ void readingWindow::btnUnread_Click()
     const ReferenceWeb web(m_variables);
     const QList<int> way = shortestWay(web, *m_way.current(), m_marks.unread());
     if (way.isEmpty()) {
-        tell(nothingUnread());
+        tell(nothingUnread(m_variables, m_marks.unread()));
         return;
     }
     m_marks.noteChoices(QList<int>{*m_way.current()} + way);
     m_way.goOn(way);
     come();
-}
-
-QString readingWindow::nothingUnread() const
-{
-    const ParagraphSet unread = m_marks.unread();
-    const auto left = static_cast<int>(std::count(unread.begin(), unread.end(), true));
-    if (left == 0)
-        return tr("Tout est lu.");
-    const BookWays ways(m_variables);
-    int reached = 0;
-    for (int n = 1; n <= Variables::LastParagraph; ++n)
-        reached += unread.at(n) && ways.reached.at(n) ? 1 : 0;
-    if (reached > 0)
-        return tr("D'ici, tout est lu ; depuis le début, il reste %n paragraphe(s) à lire.",
-                  nullptr, reached);
-    return tr("Tout ce qu'une lecture peut atteindre est lu ; %n paragraphe(s) non lu(s) ne sont "
-              "atteints par aucune.",
-              nullptr, left);
 }
 
 // From where he is, or from the start when nothing leads on from there.
@@ -254,23 +237,6 @@ void readingWindow::btnRandom_Click()
     m_way.come((goesOn ? m_way.steps().first(m_way.at()) : QList<int>()) + reading.way);
     come();
     tell(randomSentence(reading));
-}
-
-QString readingWindow::randomSentence(const RandomReading &reading) const
-{
-    const auto steps = static_cast<int>(reading.way.size());
-    switch (reading.end) {
-    case ReadingEnd::Ending:
-        break;
-    case ReadingEnd::EmptyNumber:
-        return tr("Au hasard : %n paragraphe(s), puis un renvoi à un paragraphe vide.", nullptr,
-                  steps - 1);
-    case ReadingEnd::Loop:
-        return tr("Au hasard : arrêté après %n paragraphe(s), car la lecture tourne en rond : %1",
-                  nullptr, steps)
-            .arg(paragraphNames(reading.loop));
-    }
-    return tr("Au hasard : %n paragraphe(s) jusqu'à une fin.", nullptr, steps);
 }
 
 void readingWindow::btnForget_Click()
@@ -293,8 +259,8 @@ void readingWindow::come()
 {
     m_ui->page->forgetFocus();
     showPage();
-    if (m_shown >= 0 && m_variables.Written.at(m_shown) == 1)
-        m_marks.noteRead(m_shown);
+    if (m_variables.Written.at(*m_way.current()) == 1)
+        m_marks.noteRead(*m_way.current());
     m_ui->choices->setCurrentRow(0);
 }
 
@@ -321,9 +287,7 @@ void readingWindow::showPage()
 
 QString readingWindow::showNothing()
 {
-    m_shown = -1;
-    m_given.clear();
-    m_ui->page->setText({});
+    m_ui->page->showNothing();
     return tr("La touche Début commence au départ du livre, F5 au paragraphe de l'éditeur.");
 }
 
@@ -334,22 +298,8 @@ QString readingWindow::showText(int n)
     const bool written = m_variables.Written.at(n) == 1;
     const QByteArray rtf =
         written ? readableText(m_variables, n, unreadable).value_or(QByteArray()) : QByteArray();
-    ReadingPage &page = *m_ui->page;
-    const QFont font(m_variables.defaultFontName, m_variables.defaultFontSize);
-    if (n != m_shown || rtf != m_given || page.baseFont() != font) {
-        const TextPlace place = TextPlace::in(page);
-        page.setBaseFont(m_variables.defaultFontName, m_variables.defaultFontSize);
-        try {
-            page.setRtf(rtf);
-        } catch (const UsmiraError &) {
-            page.setText({});
-            unreadable.append(n);
-        }
-        if (n == m_shown)
-            place.restore(page);
-    }
-    m_shown = n;
-    m_given = rtf;
+    if (!m_ui->page->showText(n, rtf, {m_variables.defaultFontName, m_variables.defaultFontSize}))
+        unreadable.append(n);
     if (!unreadable.isEmpty())
         return tr("Le texte de ce paragraphe est illisible.");
     return written ? QString() : tr("Ce paragraphe est vide.");
@@ -369,7 +319,7 @@ void readingWindow::showMarks()
 
 void readingWindow::showChoices()
 {
-    const ParagraphSet taken = m_shown >= 0 ? m_marks.takenFrom(m_shown) : ParagraphSet();
+    const ParagraphSet taken = m_marks.takenFrom(m_way.current().value_or(0));
     const QList<ReadingPage::Link> links = linksOf(*m_ui->page, m_variables, taken);
     QList<ReadingLines::Line> lines;
     ParagraphSet listed;
@@ -404,15 +354,6 @@ QString readingWindow::endSentence() const
     if (m_choices.rowCount() == 0)
         return tr("Fin : aucun renvoi ne part d'ici.");
     return tr("1 à 9 : choisir ; Retour arrière : revenir ; Début : recommencer.");
-}
-
-QString readingWindow::tipOf(const ReadingPage::Link &link) const
-{
-    using Kind = ReadingPage::Link::Kind;
-    if (link.kind == Kind::Empty)
-        return tr("Le paragraphe %1 est encore vide.").arg(link.target);
-    const QString words = tr("%1 : %2").arg(link.target).arg(firstWords(m_variables, link.target));
-    return link.kind == Kind::Taken ? tr("%1 (choix déjà fait)").arg(words) : words;
 }
 
 bool readingWindow::event(QEvent *event)

@@ -10,7 +10,6 @@
 
 class BookmarkPanel;
 class ComfortKeeper;
-struct RandomReading;
 class Prompts;
 
 namespace Ui
@@ -72,10 +71,7 @@ private:
     void showChoices();
     void showSteps();
     void tell(const QString &sentence);
-    QString nothingUnread() const;
-    QString randomSentence(const RandomReading &reading) const;
     QString endSentence() const;
-    QString tipOf(const ReadingPage::Link &link) const;
 
     Variables &m_variables;
     Prompts &m_prompts;
@@ -85,6 +81,4 @@ private:
     ReadingLines m_steps;
     ReadingLines m_choices;
     std::unique_ptr<BookmarkPanel> m_bookmarks; // goes first, for a name that is being typed
-    int m_shown = -1;                           // the paragraph on the page, given these bytes
-    QByteArray m_given;
 };
