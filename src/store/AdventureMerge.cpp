@@ -45,7 +45,7 @@ public:
     Incoming(Variables &variables, const Variables &other)
         : m_variables(variables), m_other(other),
           m_transaction(variables,
-                        {QCoreApplication::translate("AdventureMerge", "Importation du %1")
+                        {QCoreApplication::translate("AdventureMerge", "Importation de %1")
                              .arg(QFileInfo(other.AdventurePath).fileName()),
                          std::nullopt})
     {

@@ -308,7 +308,7 @@ QList<std::tuple<const char *, QString, Act>> commands()
              s.replace("Fin", "");
          }},
         {"uniform", "Uniformiser", [](Scene &s) { s.makeUniform("Arial"); }},
-        {"import", "Importation du L'autre.usm", [](Scene &s) { s.import(Other); }},
+        {"import", "Importation de L'autre.usm", [](Scene &s) { s.import(Other); }},
         {"split", "Scission 3 à 7", [](Scene &s) { s.split(2, 8); }},
         {"load", "Paragraphe chargé : 1", [](Scene &s) { s.load(rtfOf("chargé au 9")); }},
         {"load nothing", "Paragraphe chargé : 1", [](Scene &s) { s.load(rtfOf("")); }},
