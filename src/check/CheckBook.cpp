@@ -19,6 +19,14 @@ QList<int> numbersOf(const Finding &finding)
     return finding.kind == FindingKind::Trap ? finding.members : QList<int>{finding.number};
 }
 
+// The paragraph that it stays about when numbers change; 0 for none.
+int targetOf(const Finding &finding)
+{
+    const bool isAboutOne =
+        finding.kind == FindingKind::EmptyTarget || finding.kind == FindingKind::SameTarget;
+    return isAboutOne ? finding.target : 0;
+}
+
 // What an accepted finding is looked up by; the hash is taken of few only.
 class AcceptedOnes
 {
@@ -26,7 +34,7 @@ public:
     explicit AcceptedOnes(const QList<AcceptedFinding> &accepted)
     {
         for (const AcceptedFinding &entry : accepted)
-            m_hashes.insert({entry.kind, entry.number}, entry.sentence);
+            m_hashes.insert({entry.kind, entry.number}, {entry.sentence, entry.target});
     }
 
     bool contain(const Finding &finding) const
@@ -42,11 +50,12 @@ private:
     bool contain(const Finding &finding, int n) const
     {
         const Key key(QString::fromUtf8(kindName(finding.kind)), n);
-        return m_hashes.contains(key) && m_hashes.contains(key, finding.sentenceHash());
+        return m_hashes.contains(key) &&
+               m_hashes.contains(key, {finding.sentenceHash(), targetOf(finding)});
     }
 
     using Key = std::pair<QString, int>;
-    QMultiHash<Key, QByteArray> m_hashes;
+    QMultiHash<Key, std::pair<QByteArray, int>> m_hashes;
 };
 } // namespace
 
@@ -78,6 +87,7 @@ CheckedBook CheckBook(const Variables &variables, const BookWays &ways, const Pl
 {
     QList<Finding> findings = wayFindings(ways);
     for (Finding &finding : findings) {
+        finding.phrase = variables.TargetPhrase;
         if (finding.kind != FindingKind::Unreachable)
             continue;
         const QString &text = texts.texts.at(finding.number);
@@ -111,7 +121,8 @@ QString findingCounts(const QList<Finding> &findings)
 
 AcceptedFinding accepted(const Finding &finding)
 {
-    return {QString::fromUtf8(kindName(finding.kind)), finding.number, finding.sentenceHash()};
+    return {QString::fromUtf8(kindName(finding.kind)), finding.number, finding.sentenceHash(),
+            targetOf(finding)};
 }
 
 AdventureExtras withAccepted(AdventureExtras extras, const QList<Finding> &findings)

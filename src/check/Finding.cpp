@@ -1,7 +1,8 @@
 #include "check/Finding.h"
 
+#include "platform/Ascii.h"
+
 #include <QCryptographicHash>
-#include <QRegularExpression>
 #include <array>
 
 namespace
@@ -33,11 +34,20 @@ const Kind &entryOf(FindingKind kind)
     return Kinds.at(static_cast<std::size_t>(kind));
 }
 
-// A renumbering changes the numbers, which changes nothing about what the author has accepted.
-QString withoutNumbers(const QString &text)
+// A renumbering changes the numbers of references, which changes nothing about what the author has
+// accepted. An end of the text that is cut off is not part of it.
+QString withoutTargets(const QString &text, const QString &phrase, qsizetype from, qsizetype to)
 {
-    static const QRegularExpression digits(QStringLiteral("[0-9]+"));
-    return text.simplified().replace(digits, QStringLiteral("#"));
+    QString kept;
+    const QList<ReferenceMark> marks = referenceMarks(text, phrase);
+    for (const ReferenceMark &mark : marks) {
+        if (mark.read == 0 || mark.digits < from || mark.digits >= to)
+            continue;
+        kept += text.mid(from, mark.digits - from) + u'#';
+        for (from = mark.digits; from < to && isAsciiDigit(text.at(from));)
+            ++from;
+    }
+    return (kept + text.mid(from, to - from)).simplified();
 }
 } // namespace
 
@@ -65,8 +75,8 @@ Severity Finding::severity() const
 // Of two findings in one sentence each has its own: by what stands before it there.
 QByteArray Finding::sentenceHash() const
 {
-    const QStringList parts{withoutNumbers(around.left(placeInAround)),
-                            withoutNumbers(around.mid(placeInAround)),
+    const QStringList parts{withoutTargets(around, phrase, 0, placeInAround),
+                            withoutTargets(around, phrase, placeInAround, around.size()),
                             QString::number(members.size())};
     return QCryptographicHash::hash(parts.join(u'\n').toUtf8(), QCryptographicHash::Sha256);
 }

@@ -51,7 +51,7 @@ struct Finding {
     // What is the matter, in French.
     QString sentence() const;
     // SHA-256 of what it speaks of, by which an accepted finding is known again. It stays the same
-    // when numbers change, and becomes another when the sentence does.
+    // when the numbers of references change, and becomes another when the sentence does.
     QByteArray sentenceHash() const;
 };
 

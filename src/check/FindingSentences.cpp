@@ -1,5 +1,7 @@
 #include "check/Finding.h"
 
+#include "platform/Ascii.h"
+
 #include <QCoreApplication>
 #include <algorithm>
 #include <array>
@@ -24,6 +26,12 @@ constexpr std::array<const char *, FindingKindCount> Sentences{
     QT_TRANSLATE_NOOP("Finding", "Il reste quelque chose à faire."),
     QT_TRANSLATE_NOOP("Finding", "Le paragraphe a moins de cinq mots."),
 };
+
+// Of words with one number.
+QString digitsOf(QString words)
+{
+    return words.removeIf([](QChar c) { return !isAsciiDigit(c); });
+}
 
 constexpr std::array<const char *, FindingKindCount> Titles{
     QT_TRANSLATE_NOOP("Finding", "Renvois à un paragraphe vide"),
@@ -93,8 +101,9 @@ QString plainSentence(const Finding &finding)
                             listed(finding.loop + finding.loop.first(1), QStringLiteral(" → ")));
     case FindingKind::NotLinked:
         return sentence.arg(finding.phrase.trimmed());
-    case FindingKind::EmptyTarget:
     case FindingKind::BeyondLast:
+        return sentence.arg(digitsOf(finding.text));
+    case FindingKind::EmptyTarget:
     case FindingKind::SameTarget:
         return sentence.arg(finding.target);
     default:

@@ -1,3 +1,4 @@
+#include "check/StartNumbers.h"
 #include "editor/ParagraphSearch.h"
 #include "editor/TargetPhrase.h"
 #include "outil/CommandEntry.h"
@@ -103,12 +104,10 @@ QByteArray departs(CommandServices &script, const QStringList &arguments)
         return lines;
     }
     AdventureExtras extras = script.variables.extras;
-    extras.starts.clear();
-    for (const QString &word : arguments) {
-        const int n = paragraphNumber(word);
-        if (!extras.starts.contains(n))
-            extras.starts.append(n);
-    }
+    const StartNumbers starts = startNumbers(arguments.join(u' '));
+    if (!starts.refused.isEmpty())
+        throw UsageError(Commands::tr("numéro de 1 à 2000 attendu : %1").arg(starts.refused));
+    extras.starts = starts.numbers;
     changeExtras(script.variables, extras);
     return lines;
 }

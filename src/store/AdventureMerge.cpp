@@ -3,6 +3,7 @@
 #include "platform/Failures.h"
 #include "platform/OpenedFile.h"
 #include "richtext/HiddenBox.h"
+#include "store/AdventureChanges.h"
 #include "store/AdventureFile.h"
 #include "store/CommandHistory.h"
 #include "store/DamagedTexts.h"
@@ -124,6 +125,17 @@ void takeAll(Incoming &incoming, const QList<int> &numbers, const Progress &prog
         progress(++done, static_cast<int>(numbers.size()));
     }
 }
+
+// What has been accepted there about the paragraphs that come need not be accepted once more.
+void takeAccepted(Variables &variables, const AdventureExtras &taken)
+{
+    AdventureExtras extras = variables.extras;
+    for (const AcceptedFinding &finding : taken.accepted)
+        if (!extras.accepted.contains(finding))
+            extras.accepted.append(finding);
+    if (extras != variables.extras)
+        changeExtras(variables, extras);
+}
 } // namespace
 
 AdventureMerge::AdventureMerge(Variables &variables, Prompts &prompts, WorkReport &report)
@@ -240,6 +252,7 @@ void AdventureMerge::importAll(const Variables &other, Collisions collisions)
             unreadable = error.paragraphs();
         }
         incoming.commit();
+        takeAccepted(m_variables, extrasOf(numbers, other.extras));
     }
     announceDone(
         m_variables, m_report, before,

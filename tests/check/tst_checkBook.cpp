@@ -322,6 +322,30 @@ private Q_SLOTS:
             QCOMPARE(found.count("douteux 1"), stays ? 1 : 2);
         }
     }
+
+    // What is accepted about a reference says nothing about one to another number, and follows its
+    // own through a renumbering.
+    void acceptedTargetsAreTheirOwn()
+    {
+        const Table<QString, QStringList> table{
+            {"renumbered", "Fuyez au 4 ou au 3. Courez au 2345.", {}},
+            {"another empty one", "Fuyez au 4 ou au 88. Courez au 2345.", {"vide 1 88"}},
+            {"another beyond",
+             "Fuyez au 4 ou au 3. Courez au 99999999999.",
+             {"hors-limites 1 2147483647"}},
+        };
+        for (const auto &[name, text, found] : table) {
+            TextBook book;
+            book.write(1, "Fuyez au 4 ou au 88. Courez au 2345.");
+            book.write(4, "Fin du livre pour vous deux.");
+            NumberMap swapped = unmovedNumbers();
+            std::swap(swapped.at(3), swapped.at(88));
+            book.variables.extras =
+                renumbered(withAccepted(book.variables.extras, book.findings()), swapped);
+            book.write(1, text);
+            QCOMPARE(shortly(book.findings()), found);
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_checkBook)

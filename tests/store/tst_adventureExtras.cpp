@@ -30,7 +30,7 @@ const QByteArray Beyond("\xD1\7", 2);
 // Of every kind, with two numbers.
 QByteArray records(const QByteArray &one, const QByteArray &other)
 {
-    return record("STRT", one + other) + record("ACPT", other + Sum + u32(6) + "piège") +
+    return record("STRT", one + other) + record("ACPT", other + one + Sum + u32(6) + "piège") +
            record("READ", one) + record("TAKN", one + other) +
            record("BKMK", u32(3) + "\xEF\xBB\xBF" + u32(2) + one + other + u32(0) + u32(0)) +
            record("ZZZZ", "kept \1") + record("AAAA", "") + record("ZZZZ", "twice");
@@ -49,7 +49,7 @@ private Q_SLOTS:
         const auto extras = extrasFrom(whole + "behind");
         QVERIFY(extras);
         QCOMPARE(extras->starts, (QList<int>{2, 2000}));
-        QCOMPARE(extras->accepted, (QList<AcceptedFinding>{{"piège", 2000, Sum}}));
+        QCOMPARE(extras->accepted, (QList<AcceptedFinding>{{"piège", 2000, Sum, 2}}));
         QCOMPARE(extras->reading.bookmarks.first().way, (QList<int>{2, 2000}));
         QCOMPARE(bytesOf(*extras), whole);
         QCOMPARE(bytesOf({}), QByteArray());
@@ -66,7 +66,7 @@ private Q_SLOTS:
              {"another version", extrasBlock(record("STRT", Two), 2)},
              {"number above 2000", extrasBlock(record("STRT", Beyond))},
              {"half a number", extrasBlock(record("STRT", "\1"))},
-             {"half a finding", extrasBlock(record("ACPT", Two + Sum + u32(7) + "vide"))},
+             {"half a finding", extrasBlock(record("ACPT", Two + Two + Sum + u32(7) + "vide"))},
              {"half a choice", extrasBlock(record("TAKN", Two))},
              {"way of 4 GiB", extrasBlock(record("BKMK", u32(0) + u32(-1) + Two))},
              {"name of 4 GiB", extrasBlock(record("BKMK", u32(-1)))},

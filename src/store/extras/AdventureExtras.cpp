@@ -26,8 +26,10 @@ QList<int> readingStarts(const Variables &variables)
 AdventureExtras renumbered(AdventureExtras extras, const NumberMap &numbers)
 {
     renumber(extras.starts, numbers);
-    for (AcceptedFinding &finding : extras.accepted)
+    for (AcceptedFinding &finding : extras.accepted) {
         finding.number = numbers.at(finding.number);
+        finding.target = numbers.at(finding.target);
+    }
     renumber(extras.reading.read, numbers);
     for (ReadingMarks::Choice &choice : extras.reading.taken)
         choice = {numbers.at(choice.from), numbers.at(choice.to)};

@@ -17,6 +17,7 @@ struct AcceptedFinding {
     QString kind;        // a word of the check's own
     int number = 0;      // the paragraph
     QByteArray sentence; // SHA-256 of the sentence that the finding speaks of, 32 bytes
+    int target = 0;      // the paragraph that it is about, if it is about a reference to one
     bool operator==(const AcceptedFinding &) const = default;
 };
 

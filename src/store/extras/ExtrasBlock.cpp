@@ -109,7 +109,7 @@ QByteArray acceptedBytes(const QList<AcceptedFinding> &accepted)
 {
     QByteArray bytes;
     for (const AcceptedFinding &finding : accepted)
-        bytes += numberBytes(finding.number) +
+        bytes += numberBytes(finding.number) + numberBytes(finding.target) +
                  finding.sentence.leftJustified(LengthOfSum, '\0', true) + textBytes(finding.kind);
     return bytes;
 }
@@ -149,6 +149,7 @@ QList<AcceptedFinding> readAccepted(RecordReader &record)
     while (!record.atEnd()) {
         AcceptedFinding finding;
         finding.number = record.takeNumber();
+        finding.target = record.takeNumber();
         finding.sentence = record.take(LengthOfSum).toByteArray();
         finding.kind = record.takeText();
         accepted.append(finding);

@@ -8,6 +8,7 @@
 
 #include <QRegularExpression>
 #include <algorithm>
+#include <limits>
 
 namespace
 {
@@ -24,7 +25,8 @@ int valueOf(QStringView digits)
 {
     bool ok = false;
     const int value = digits.toInt(&ok);
-    return ok ? value : 0;
+    const int tooLarge = digits.isEmpty() ? 0 : std::numeric_limits<int>::max();
+    return ok ? value : tooLarge;
 }
 
 // What has changed in a line since its marks were read. Positions in the new line.

@@ -33,8 +33,9 @@ std::optional<Unread> WiderLookAlikes::unread(const QString &before, QStringView
     if (QStringView(m_variables.TargetPhrase).trimmed().isEmpty())
         return std::nullopt;
     const QString next = behind.left(LookAlikeContext).toString();
-    const int n = digits.toInt();
-    if (n > Variables::LastParagraph)
+    bool fits = false;
+    const int n = digits.toInt(&fits);
+    if (!fits || n > Variables::LastParagraph)
         return beyondLast(before, digits, next);
     if (isWritten(n))
         if (const std::optional<Unread> found = bracketed(before, next))

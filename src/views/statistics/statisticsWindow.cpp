@@ -8,6 +8,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QToolTip>
 #include <algorithm>
 
 namespace
@@ -202,6 +203,14 @@ void statisticsWindow::txtSeed_Enter()
         readAtRandom();
 }
 
+void statisticsWindow::tellSeedRefused()
+{
+    m_prompts.beep();
+    QLineEdit *box = m_ui->txtSeed;
+    QToolTip::showText(box->mapToGlobal(QPoint(0, box->height())),
+                       tr("Une graine est un nombre de 0 à 4294967295."), box);
+}
+
 bool statisticsWindow::takeTypedSeed()
 {
     bool ok = false;
@@ -209,7 +218,7 @@ bool statisticsWindow::takeTypedSeed()
     if (ok)
         m_seed = seed;
     else
-        m_prompts.beep();
+        tellSeedRefused();
     m_ui->txtSeed->selectAll();
     return ok;
 }

@@ -59,6 +59,7 @@ private:
     void btnRead_Click();
     void txtSeed_Enter();
     bool takeTypedSeed();
+    void tellSeedRefused();
     void showAll();
     void showParagraphs();
     void showEndings();
