@@ -9,8 +9,9 @@ ShortestWays::ShortestWays(const ReferenceWeb &web, const QList<int> &starts)
     m_before.fill(-1);
     for (const int start : starts)
         reach(start, {start});
-    for (qsizetype i = 0; i < m_reached.size(); ++i) { // they become more on the way
-        const int n = m_reached.at(i);
+    qsizetype next = 0;
+    while (next < m_reached.size()) { // they become more on the way
+        const int n = m_reached.at(next++);
         reach(n, web.outgoing.at(n));
     }
 }
