@@ -85,7 +85,6 @@ private:
     void setAllAside();
     int count() const;
     bool isAnythingUnsaved() const;
-    bool areExtrasUnsaved() const;
     bool isWanted();
 
     WorkingFiles ownFiles() const
@@ -299,26 +298,16 @@ bool Recovery::isAnythingUnsaved() const
         marks = marks || (has(m_work.state.unmixable, n) ? 1 : 0) != m_work.saved.unmixable.at(n);
     const bool neverWritten = !m_work.state.opened;
     const QString phrase = neverWritten ? QStringLiteral(" au ") : m_work.saved.targetPhrase;
-    return marks || areExtrasUnsaved() || phrase != m_work.state.targetPhrase || count() > 0;
-}
-
-bool Recovery::areExtrasUnsaved() const
-{
-    return m_work.extras && *m_work.extras != m_work.saved.extras;
+    const bool extras = m_work.extras && *m_work.extras != m_work.saved.extras;
+    return marks || extras || phrase != m_work.state.targetPhrase || count() > 0;
 }
 
 bool Recovery::isWanted()
 {
-    QString text = QCoreApplication::translate(
+    const QString text = QCoreApplication::translate(
         "SessionRecovery", "Usmira s'est arrêté brusquement. Paragraphes non enregistrés de "
                            "l'aventure %1 : %2. Voulez-vous les récupérer ? Sinon, ils seront "
                            "rangés dans le dossier %3.");
-    if (areExtrasUnsaved())
-        text +=
-            u' ' + QCoreApplication::translate(
-                       "SessionRecovery",
-                       "Ce qui a été lu, les marque-pages, les départs ou les constats acceptés "
-                       "ont changé aussi.");
     return m_prompts.message(text.arg(name(), QString::number(count()), folder()),
                              QCoreApplication::translate("SessionRecovery", "Rescapés"),
                              Prompts::Buttons::YesNo) == Prompts::Answer::Yes;
