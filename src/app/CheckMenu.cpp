@@ -43,7 +43,7 @@ std::optional<TextPart> placeIn(const QString &text, const Finding &finding)
 } // namespace
 
 CheckMenu::CheckMenu(Variables &variables, Prompts &prompts, WorkReport &report,
-                     const Editor &editor, QWidget &window)
+                     const EditorAccess &editor, QWidget &window)
     : m_variables(variables), m_prompts(prompts), m_report(report), m_editor(editor),
       m_window(window), m_check(variables)
 {

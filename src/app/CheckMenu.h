@@ -1,13 +1,11 @@
 #pragma once
 
 #include "check/LiveCheck.h"
+#include "editor/EditorAccess.h"
 
 #include <QCoreApplication>
 #include <memory>
 
-class CommandRunner;
-class EditorView;
-class Navigation;
 class Prompts;
 class QAction;
 class QPushButton;
@@ -24,14 +22,9 @@ class CheckMenu
     Q_DECLARE_TR_FUNCTIONS(CheckMenu)
 
 public:
-    struct Editor {
-        EditorView &view;
-        Navigation &navigation;
-        CommandRunner &runner;
-    };
     // window is the one that the list stands beside; all of these must outlive it.
-    CheckMenu(Variables &variables, Prompts &prompts, WorkReport &report, const Editor &editor,
-              QWidget &window);
+    CheckMenu(Variables &variables, Prompts &prompts, WorkReport &report,
+              const EditorAccess &editor, QWidget &window);
     ~CheckMenu();
 
     struct Items {
@@ -58,7 +51,7 @@ private:
     Variables &m_variables;
     Prompts &m_prompts;
     WorkReport &m_report;
-    Editor m_editor;
+    EditorAccess m_editor;
     QWidget &m_window;
     LiveCheck m_check;
     std::unique_ptr<bookCheck> m_list;

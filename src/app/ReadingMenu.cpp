@@ -10,7 +10,7 @@
 #include <QEvent>
 
 ReadingMenu::ReadingMenu(Variables &variables, Prompts &prompts, ComfortKeeper &comfort,
-                         const Editor &editor, QWidget &window)
+                         const EditorAccess &editor, QWidget &window)
     : m_variables(variables), m_prompts(prompts), m_comfort(comfort), m_editor(editor),
       m_window(window)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/EditorAccess.h"
 #include "platform/Prompts.h"
 #include "store/Variables.h"
 
@@ -8,9 +9,6 @@
 #include <memory>
 
 class ComfortKeeper;
-class CommandRunner;
-class EditorView;
-class Navigation;
 class QAction;
 class QWidget;
 class readingWindow;
@@ -22,14 +20,9 @@ class ReadingMenu : public QObject
     Q_OBJECT
 
 public:
-    struct Editor {
-        EditorView &view;
-        Navigation &navigation;
-        CommandRunner &runner;
-    };
     // window is the one that it stands beside; all of these must outlive it.
     ReadingMenu(Variables &variables, Prompts &prompts, ComfortKeeper &comfort,
-                const Editor &editor, QWidget &window);
+                const EditorAccess &editor, QWidget &window);
     ~ReadingMenu() override;
 
     struct Items {
@@ -52,7 +45,7 @@ private:
     Variables &m_variables;
     Prompts &m_prompts;
     ComfortKeeper &m_comfort;
-    Editor m_editor;
+    EditorAccess m_editor;
     QWidget &m_window;
     QList<QAction *> m_items;
     std::unique_ptr<readingWindow> m_reading;

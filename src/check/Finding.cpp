@@ -34,12 +34,12 @@ const Kind &entryOf(FindingKind kind)
     return Kinds.at(static_cast<std::size_t>(kind));
 }
 
-// A renumbering changes the numbers of references, which changes nothing about what the author has
-// accepted. An end of the text that is cut off is not part of it.
-QString withoutTargets(const QString &text, const QString &phrase, qsizetype from, qsizetype to)
+// A part of a text with these references in it, but without their numbers: a renumbering changes
+// them, and nothing about what the author has accepted.
+QString withoutTargets(const QString &text, const QList<ReferenceMark> &marks, qsizetype from,
+                       qsizetype to)
 {
     QString kept;
-    const QList<ReferenceMark> marks = referenceMarks(text, phrase);
     for (const ReferenceMark &mark : marks) {
         if (mark.read == 0 || mark.digits < from || mark.digits >= to)
             continue;
@@ -75,8 +75,9 @@ Severity Finding::severity() const
 // Of two findings in one sentence each has its own: by what stands before it there.
 QByteArray Finding::sentenceHash() const
 {
-    const QStringList parts{withoutTargets(around, phrase, 0, placeInAround),
-                            withoutTargets(around, phrase, placeInAround, around.size()),
+    const QList<ReferenceMark> marks = referenceMarks(around, phrase);
+    const QStringList parts{withoutTargets(around, marks, 0, placeInAround),
+                            withoutTargets(around, marks, placeInAround, around.size()),
                             QString::number(members.size())};
     return QCryptographicHash::hash(parts.join(u'\n').toUtf8(), QCryptographicHash::Sha256);
 }

@@ -20,8 +20,8 @@ enum class ReadingEnd : quint8 {
 };
 
 struct RandomReading {
-    QList<int>
-        way; // a loop that nothing leads out of has its first paragraph twice, at the end too
+    // A loop that nothing leads out of has its first paragraph twice, at the end too.
+    QList<int> way;
     ReadingEnd end = ReadingEnd::Ending;
     QList<int> loop; // Loop: the paragraphs that it goes around in, ascending
 };

@@ -60,7 +60,7 @@ public:
         if (!change)
             return;
         m_transaction.change(*change);
-        ++m_taken;
+        m_taken.append(n);
         if (m_variables.Written.at(n) == 1)
             static_cast<void>(readableText(m_variables, n, m_lost));
     }
@@ -74,7 +74,7 @@ public:
         m_whereKept = kept.whereKept();
     }
 
-    int taken() const { return m_taken; }
+    const QList<int> &taken() const { return m_taken; }
 
     void tellLost(Prompts &prompts) const
     {
@@ -114,7 +114,7 @@ private:
     HiddenBox m_box;
     QList<int> m_lost; // what stood at these numbers cannot be read
     QString m_whereKept;
-    int m_taken = 0;
+    QList<int> m_taken;
 };
 
 void takeAll(Incoming &incoming, const QList<int> &numbers, const Progress &progress)
@@ -252,11 +252,12 @@ void AdventureMerge::importAll(const Variables &other, Collisions collisions)
             unreadable = error.paragraphs();
         }
         incoming.commit();
-        takeAccepted(m_variables, extrasOf(numbers, other.extras));
+        takeAccepted(m_variables, extrasOf(incoming.taken(), other.extras));
     }
     announceDone(
         m_variables, m_report, before,
-        tr("%n paragraphe(s) importé(s) : %1", nullptr, incoming.taken()).arg(other.AdventurePath));
+        tr("%n paragraphe(s) importé(s) : %1", nullptr, static_cast<int>(incoming.taken().size()))
+            .arg(other.AdventurePath));
     incoming.tellLost(m_prompts);
     if (!unreadable.isEmpty())
         tell(tr("Erreur lors de l'importation des paragraphes.") + u'\n' +

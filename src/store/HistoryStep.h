@@ -90,11 +90,11 @@ private:
 // All steps together take no more than this, in bytes.
 constexpr qint64 LargestHistory = qint64{256} * 1024 * 1024;
 
-// Writes a step, to be on the disk after syncFileSystem(); name is that of the file in the end, see
-// above. textBefore is asked for the texts of the
-// written paragraphs, ascending; what they are known by is filled in, and paragraphs that do not
-// differ are left out. Returns the size of the file. Throws UsmiraError, and there is no file: when
-// it cannot be written, is too large, or a text cannot be read.
+// Writes a step, to be on the disk after syncFileSystem(); name is what the file is called in the
+// end. textBefore is asked for the texts of the written paragraphs, ascending; what they are known
+// by is filled in, and paragraphs that do not differ are left out. Returns the size of the file.
+// Throws UsmiraError, and there is no file: when it cannot be written, is too large, or a text
+// cannot be read.
 qint64 writeStep(const QString &path, const QString &name, HistoryStep &step,
                  const std::function<QByteArray(int)> &textBefore);
 

@@ -1,6 +1,8 @@
 #include "widgets/BoldWords.h"
 
+#include <QApplication>
 #include <QPainter>
+#include <QStyleOptionViewItem>
 #include <QTextLayout>
 
 void paintWords(QPainter &painter, const QRect &room, const BoldWords &words)
@@ -19,4 +21,15 @@ void paintWords(QPainter &painter, const QRect &room, const BoldWords &words)
     painter.setClipRect(room, Qt::IntersectClip);
     layout.draw(&painter, QPointF(room.x(), room.y() + (room.height() - line.height()) / 2));
     painter.restore();
+}
+
+void paintCell(QPainter &painter, const QStyleOptionViewItem &option)
+{
+    const QStyle *style = option.widget != nullptr ? option.widget->style() : QApplication::style();
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, &painter, option.widget);
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    const bool active = option.state.testFlag(QStyle::State_Active);
+    painter.setFont(option.font);
+    painter.setPen(option.palette.color(active ? QPalette::Active : QPalette::Inactive,
+                                        selected ? QPalette::HighlightedText : QPalette::Text));
 }

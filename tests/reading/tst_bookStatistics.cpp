@@ -46,16 +46,8 @@ private Q_SLOTS:
     void pathsAreThoseOfASlowModel()
     {
         for (quint32 seed = 1; seed <= 200; ++seed) {
-            QRandomGenerator random(seed);
             constexpr int count = 14;
-            Variables variables;
-            variables.Written.at(1) = 1;
-            for (int edge = random.bounded(8, 24); edge > 0; --edge)
-                refer(variables, random.bounded(1, count + 1), random.bounded(1, count + 1));
-            RecomputeWrittenRange(variables);
-            variables.extras.starts = {1};
-            if (seed % 3 == 0 && variables.Written.at(5) == 1)
-                variables.extras.starts.append(5);
+            const Variables variables = randomBook(seed, count);
             const BookWays ways(variables);
             const BookPaths paths(ways);
             const QList<int> whole = steps(ways, 0);

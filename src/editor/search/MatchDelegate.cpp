@@ -3,7 +3,6 @@
 #include "editor/search/MatchModel.h"
 #include "widgets/BoldWords.h"
 
-#include <QApplication>
 #include <QPainter>
 
 namespace
@@ -19,16 +18,9 @@ MatchDelegate::MatchDelegate(const MatchModel &model, QObject *parent)
 void MatchDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const
 {
-    QStyleOptionViewItem panel = option;
-    const QStyle *style = option.widget != nullptr ? option.widget->style() : QApplication::style();
-    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &panel, painter, option.widget);
-    const bool selected = option.state.testFlag(QStyle::State_Selected);
-    const bool active = option.state.testFlag(QStyle::State_Active);
     const MatchLine &line = m_model.line(index.row());
     painter->save();
-    painter->setFont(option.font);
-    painter->setPen(option.palette.color(active ? QPalette::Active : QPalette::Inactive,
-                                         selected ? QPalette::HighlightedText : QPalette::Text));
+    paintCell(*painter, option);
     QRect room = option.rect.adjusted(Gap, 0, -Gap, 0);
     for (const int value : {line.match.paragraph, line.match.position}) {
         const int column = option.fontMetrics.horizontalAdvance(QStringLiteral("00000"));

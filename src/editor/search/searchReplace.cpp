@@ -29,7 +29,7 @@ QString withLineEnds(QString text)
 } // namespace
 
 searchReplace::searchReplace(Variables &variables, Prompts &prompts, WorkReport &report,
-                             const Editor &editor, QWidget *parent)
+                             const EditorAccess &editor, QWidget *parent)
     : QDialog(parent), m_variables(variables), m_prompts(prompts), m_editor(editor),
       m_ui(setUp(*this)), m_work(report, *m_ui->barWork),
       m_commands(variables, prompts, editor.view, m_work), m_list(variables, m_commands, parent)

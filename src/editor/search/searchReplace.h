@@ -1,14 +1,11 @@
 #pragma once
 
+#include "editor/EditorAccess.h"
 #include "editor/search/MatchWindow.h"
 #include "widgets/WorkInDialog.h"
 
 #include <QDialog>
 #include <memory>
-
-class CommandRunner;
-class EditorView;
-class Navigation;
 
 namespace Ui
 {
@@ -22,13 +19,8 @@ class searchReplace : public QDialog
     Q_OBJECT
 
 public:
-    struct Editor {
-        EditorView &view;
-        Navigation &navigation;
-        CommandRunner &runner;
-    };
-    searchReplace(Variables &variables, Prompts &prompts, WorkReport &report, const Editor &editor,
-                  QWidget *parent);
+    searchReplace(Variables &variables, Prompts &prompts, WorkReport &report,
+                  const EditorAccess &editor, QWidget *parent);
     ~searchReplace() override;
 
     // Comes to the front, ready for a search text. The search begins at the top of the current
@@ -72,7 +64,7 @@ private:
 
     const Variables &m_variables;
     Prompts &m_prompts;
-    Editor m_editor;
+    EditorAccess m_editor;
     std::unique_ptr<Ui::searchReplace> m_ui;
     WorkInDialog m_work;
     SearchCommands m_commands;

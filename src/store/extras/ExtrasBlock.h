@@ -14,9 +14,7 @@
 // The contents that are known, where a number is a u16 up to 2000 and a text a u32 length and
 // UTF-8:
 //   "STRT" numbers of the starts
-//   "ACPT" once a finding: number, number of the target, 32 bytes of the sentence's SHA-256, text
-//   of
-//          the kind
+//   "ACPT" once a finding: number, target, 32 bytes of the sentence's SHA-256, text of the kind
 //   "READ" numbers of the paragraphs read
 //   "TAKN" once a choice: number from, number to
 //   "BKMK" once a bookmark: text of the name, u32 count, numbers of the way

@@ -4,7 +4,6 @@
 #include "widgets/BoldWords.h"
 #include "widgets/Shade.h"
 
-#include <QApplication>
 #include <QPainter>
 #include <algorithm>
 
@@ -57,14 +56,8 @@ void FindingDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     }
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
-    const QStyle *style = cell.widget != nullptr ? cell.widget->style() : QApplication::style();
-    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
-    const bool selected = cell.state.testFlag(QStyle::State_Selected);
-    const bool active = cell.state.testFlag(QStyle::State_Active);
     painter->save();
-    painter->setFont(cell.font);
-    painter->setPen(cell.palette.color(active ? QPalette::Active : QPalette::Inactive,
-                                       selected ? QPalette::HighlightedText : QPalette::Text));
+    paintCell(*painter, cell);
     paintWords(*painter, cell.rect.adjusted(Gap, 0, -Gap, 0), wordsOf(m_model.at(index).finding));
     painter->restore();
 }

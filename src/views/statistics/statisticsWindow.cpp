@@ -166,8 +166,9 @@ void statisticsWindow::compute()
 {
     m_due = false;
     readTexts();
-    m_book = bookStatistics(m_variables, BookWays(m_variables), m_sizes);
-    readAtRandom();
+    const BookWays ways(m_variables);
+    m_book = bookStatistics(m_variables, ways, m_sizes);
+    readAtRandom(ways);
 }
 
 void statisticsWindow::readTexts()
@@ -180,9 +181,9 @@ void statisticsWindow::readTexts()
     m_allOld = false;
 }
 
-void statisticsWindow::readAtRandom()
+void statisticsWindow::readAtRandom(const BookWays &ways)
 {
-    m_readings = randomReadings(m_variables, BookWays(m_variables), UsualReadings, m_seed);
+    m_readings = randomReadings(m_variables, ways, UsualReadings, m_seed);
     showAll();
     giveShades();
 }
@@ -194,13 +195,13 @@ void statisticsWindow::btnRead_Click()
         m_seed = anySeed();
     else if (!takeTypedSeed())
         return;
-    readAtRandom();
+    readAtRandom(BookWays(m_variables));
 }
 
 void statisticsWindow::txtSeed_Enter()
 {
     if (takeTypedSeed())
-        readAtRandom();
+        readAtRandom(BookWays(m_variables));
 }
 
 void statisticsWindow::tellSeedRefused()

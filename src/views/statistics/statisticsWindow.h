@@ -11,6 +11,7 @@
 #include <optional>
 
 class QTextBrowser;
+struct BookWays;
 
 namespace Ui
 {
@@ -55,7 +56,7 @@ private:
     void computeSoon();
     void compute();
     void readTexts();
-    void readAtRandom();
+    void readAtRandom(const BookWays &ways);
     void btnRead_Click();
     void txtSeed_Enter();
     bool takeTypedSeed();
