@@ -1,9 +1,13 @@
 // usmira-textes SOURCES TARGET: makes the bundled texts anew.
 //   SOURCES/copyright.txt, aide.txt, help.txt -> TARGET/documents/*.rtf
 //   SOURCES/adventure.txt -> TARGET/samples/<title>.usm
+//   SOURCES/usmira.1.txt, usmira-outil.1.txt -> TARGET/man/man1, and the French ones, *.fr.1.txt,
+//     -> TARGET/man/fr/man1
 // adventure.txt begins with "titre: ..."; "=== 12" begins a paragraph, with "fixe" behind it one
-// that MasterMix leaves alone, with "fin" an ending that the author has accepted.
+// that MasterMix leaves alone, with "fin" an ending that the author has accepted. In a manual page
+// "@ TITLE" stands for what the help has under that title.
 
+#include "ManPage.h"
 #include "Markup.h"
 #include "check/CheckBook.h"
 #include "platform/Errors.h"
@@ -31,6 +35,27 @@ void makeDocument(const QString &source, const QString &target)
     HiddenBox box;
     setMarkup(box, linesOf(source));
     box.saveFile(target);
+}
+
+// What the help says is not said a second time.
+void makeManPage(const QString &source, const QString &help, const QString &target)
+{
+    QStringList lines;
+    for (const QString &line : linesOf(source))
+        if (line.startsWith(QStringLiteral("@ ")))
+            lines += sectionOf(linesOf(help), line.mid(2));
+        else
+            lines += line;
+    writeWholeFile(target, manPage(lines), Durability::Data, Links::Follow);
+}
+
+void makeManPages(const QString &sources, const QString &help, const QString &language,
+                  const QString &folder)
+{
+    QDir().mkpath(folder);
+    for (const char *program : {"usmira", "usmira-outil"})
+        makeManPage(QStringLiteral("%1/%2%3.1.txt").arg(sources, QLatin1String(program), language),
+                    sources + help, QStringLiteral("%1/%2.1").arg(folder, QLatin1String(program)));
 }
 
 // Collects the adventure in a working folder of its own, as the editor does.
@@ -110,6 +135,9 @@ void makeAll(const QString &sources, const QString &target)
                  documents + QStringLiteral("Aide Française.rtf"));
     makeDocument(sources + QStringLiteral("/help.txt"),
                  documents + QStringLiteral("English Help.rtf"));
+    makeManPages(sources, QStringLiteral("/help.txt"), {}, target + QStringLiteral("/man/man1"));
+    makeManPages(sources, QStringLiteral("/aide.txt"), QStringLiteral(".fr"),
+                 target + QStringLiteral("/man/fr/man1"));
     AdventureMaker().make(linesOf(sources + QStringLiteral("/adventure.txt")), samples);
 }
 } // namespace

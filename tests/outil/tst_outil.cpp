@@ -1,4 +1,6 @@
+#include "outil/Commands.h"
 #include "outil/Script.h"
+#include "platform/SafeFile.h"
 #include "richtext/HiddenBox.h"
 #include "richtext/RtfPlainText.h"
 #include "store/AdventureFile.h"
@@ -372,6 +374,29 @@ uniformiser - 1639
                     .endsWith("\\deflang1036\\pard\\qc \\f0\\plain\\f0\\fs24\\b 9\r\n"
                               "\\par \\pard \\f0\\plain\\f0\\fs24 Fin\r\n"
                               "\\par \r\n\\par \r\n\\par }"));
+    }
+
+    // So does the bundled help, which the pages are made of.
+    void theManualPagesNameEveryCommand_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::newRow("English") << USMIRA_RESOURCES "/man/man1/usmira-outil.1";
+        QTest::newRow("French") << USMIRA_RESOURCES "/man/fr/man1/usmira-outil.1";
+    }
+    void theManualPagesNameEveryCommand()
+    {
+        QFETCH(QString, page);
+        QStringList named;
+        QString text = QString::fromUtf8(readWholeFile(page, 1 << 20));
+        static const QRegularExpression command("\n\\.TP\n\\\\fB(\\w.*)\\\\fR\n");
+        for (auto match = command.globalMatch(text.replace("\\-", "-")); match.hasNext();)
+            named << "  " + match.next().captured(1).leftJustified(36) + ' ';
+        const QStringList lines = Commands::help().split('\n', Qt::SkipEmptyParts);
+        for (const QString &line : lines)
+            QVERIFY2(std::any_of(named.begin(), named.end(),
+                                 [&](const QString &form) { return line.startsWith(form); }),
+                     qPrintable(line));
+        QCOMPARE(named.size(), lines.size());
     }
 
     void failuresAndBadUsageHaveTheirStatus_data()

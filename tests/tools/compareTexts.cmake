@@ -1,10 +1,10 @@
 # Makes the bundled texts anew and compares them, byte by byte, with those in the source tree.
 file(REMOVE_RECURSE ${WORK})
 execute_process(COMMAND ${TOOL} ${RESOURCES}/sources ${WORK} COMMAND_ERROR_IS_FATAL ANY)
-file(GLOB_RECURSE made RELATIVE ${WORK} ${WORK}/*.rtf ${WORK}/*.usm)
+file(GLOB_RECURSE made RELATIVE ${WORK} ${WORK}/*.rtf ${WORK}/*.usm ${WORK}/*.1)
 list(LENGTH made count)
-if(NOT count EQUAL 4)
-    message(FATAL_ERROR "4 files expected, ${count} made")
+if(NOT count EQUAL 8)
+    message(FATAL_ERROR "8 files expected, ${count} made")
 endif()
 foreach(file IN LISTS made)
     execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${WORK}/${file} ${RESOURCES}/${file}
