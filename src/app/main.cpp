@@ -24,8 +24,10 @@ int main(int argc, char *argv[])
     loadTranslations();
 
     const QString programFolder = QCoreApplication::applicationDirPath();
-    QGuiApplication::setWindowIcon(
-        QIcon::fromTheme(QStringLiteral("usmira"), QIcon(QStringLiteral(USMIRA_ICON))));
+    // The sources are asked only where nothing is installed: they may be gone.
+    const QString icon = QStringLiteral("usmira");
+    QGuiApplication::setWindowIcon(QIcon::hasThemeIcon(icon) ? QIcon::fromTheme(icon)
+                                                             : QIcon(QStringLiteral(USMIRA_ICON)));
     Variables variables;
     variables.MainFolder = findWorkingFolder(programFolder);
     const WorkingPlace place = takeWorkingFolder(
