@@ -10,6 +10,7 @@ say "Packing"
 folder=build/release/package
 rm -rf "$folder"
 umask 022 # whatever it is, others are to read what the package installs
+export LC_ALL=C.UTF-8 # else cpack stops at the first accent in a name
 cpack --config build/release/CPackConfig.cmake >build/release/package.log 2>&1 ||
     { cat build/release/package.log; fail "cpack could not make the package"; }
 package=$(ls "$folder"/*.deb)
