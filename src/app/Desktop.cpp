@@ -1,5 +1,7 @@
 #include "app/Desktop.h"
 
+#include "platform/Translations.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QIcon>
@@ -63,8 +65,16 @@ Desktop::Desktop(QApplication &application)
 {
     chooseIcons(QGuiApplication::palette(), false);
     application.installEventFilter(this);
-    if (m_french.load(QStringLiteral("qtbase_fr"),
-                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+}
+
+void Desktop::speak(EditorComfort::Language chosen)
+{
+    const bool english =
+        chosen == EditorComfort::Language::English ||
+        (chosen == EditorComfort::Language::Desktop && desktopLanguage() == Language::English);
+    loadTranslations(english ? Language::English : Language::French);
+    if (!english && m_french.load(QStringLiteral("qtbase_fr"),
+                                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_french);
 }
 

@@ -9,8 +9,8 @@ class QApplication;
 
 // What the desktop decides about the look: icons from its icon theme, with a bundled theme for
 // those that it lacks, light or dark as its palette is, unless the author chose one of the two.
-// Qt's own texts (file dialogs, the menu of the editing box) are French, as the rest of the
-// program.
+// The language too may be that of the desktop; Qt's own texts (file dialogs, the menu of the
+// editing box) are in the language of the rest of the program.
 class Desktop : public QObject
 {
     Q_OBJECT
@@ -18,6 +18,8 @@ class Desktop : public QObject
 public:
     explicit Desktop(QApplication &application);
 
+    // Once, before the first text: what is on the screen stays in the language it has.
+    void speak(EditorComfort::Language chosen);
     void show(EditorComfort::Colours colours);
 
 protected:

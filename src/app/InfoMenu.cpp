@@ -2,6 +2,7 @@
 
 #include "editor/EditorView.h"
 #include "platform/Guarded.h"
+#include "platform/Translations.h"
 
 #include <QAction>
 
@@ -18,6 +19,10 @@ void InfoMenu::connectItems(const Items &items)
                    [this] { m_help.showHelp(helpWindow::Tag::English); });
     connectGuarded(&items.about, &QAction::triggered, &m_help, m_prompts,
                    [this] { menuInfoAbout_Click(); });
+    if (localeOfTexts().language() != QLocale::French) {
+        items.help.setShortcut(items.aide.shortcut());
+        items.aide.setShortcut({});
+    }
 }
 
 void InfoMenu::menuInfoAbout_Click()

@@ -1,9 +1,9 @@
 #include "app/copiesDlog.h"
 
+#include "platform/Translations.h"
 #include "ui_copiesDlog.h"
 
 #include <QHeaderView>
-#include <QLocale>
 
 copiesDlog::copiesDlog(const Variables &variables, QWidget *parent)
     : QDialog(parent), m_copies(datedCopies(variables)), m_ui(std::make_unique<Ui::copiesDlog>())
@@ -24,9 +24,9 @@ const DatedCopy &copiesDlog::chosen() const
 
 void copiesDlog::Form_Load()
 {
-    const QLocale french(QLocale::French);
+    const QLocale locale = localeOfTexts();
     for (const DatedCopy &copy : m_copies) {
-        const QString date = french.toString(copy.kept, QStringLiteral("d MMMM yyyy, HH:mm:ss"));
+        const QString date = locale.toString(copy.kept, QStringLiteral("d MMMM yyyy, HH:mm:ss"));
         auto *row = new QTreeWidgetItem({date, sizeText(copy), paragraphsText(copy)});
         row->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
         row->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);

@@ -5,9 +5,9 @@
 #include "platform/EndSignals.h"
 #include "platform/Failures.h"
 #include "platform/SystemFiles.h"
-#include "platform/Translations.h"
 #include "store/FolderLock.h"
 #include "store/SessionRecovery.h"
+#include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 
 #include <QIcon>
@@ -21,7 +21,6 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(USMIRA_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("usmira"));
     Desktop desktop(application);
-    loadTranslations();
 
     const QString programFolder = QCoreApplication::applicationDirPath();
     // The sources are asked only where nothing is installed: they may be gone.
@@ -33,6 +32,7 @@ int main(int argc, char *argv[])
     const WorkingPlace place = takeWorkingFolder(
         variables.MainFolder, findBundledDocuments(programFolder), LeftSessions::First);
     variables.WorkingFolder = place.folder;
+    desktop.speak(readComfort(WorkingFiles(variables).comfort()).language);
 
     DialogPrompts prompts;
     reportingFailures(prompts, [&] {

@@ -161,7 +161,7 @@ int main(int argc, char *argv[])
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     letTooLongWritesFail();
     const QGuiApplication application(argc, argv);
-    loadTranslations();
+    loadTranslations(Language::French); // scripts read it
     QCoreApplication::setApplicationName(QStringLiteral("Usmira"));
     QTextStream errors(stderr);
     QCommandLineParser parser;

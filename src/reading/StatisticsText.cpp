@@ -1,7 +1,8 @@
 #include "reading/StatisticsText.h"
 
+#include "platform/Translations.h"
+
 #include <QCoreApplication>
-#include <QLocale>
 #include <algorithm>
 
 namespace
@@ -12,12 +13,12 @@ struct Words {
 
 QString whole(qint64 n)
 {
-    return QLocale(QLocale::French).toString(n);
+    return localeOfTexts().toString(n);
 }
 
 QString tenths(double value)
 {
-    return QLocale(QLocale::French).toString(value, 'f', 1);
+    return localeOfTexts().toString(value, 'f', 1);
 }
 
 QString perParagraph(int total, const BookStatistics &book)

@@ -202,7 +202,7 @@ QString AdventureCommands::pathToOpen(const QString &path)
 {
     if (m_claim.take(path))
         return path;
-    const QString copy = pathBeside(path, tr("copie"));
+    const QString copy = pathBeside(path, QStringLiteral("copie"));
     switch (m_prompts.message(
         tr("L'aventure %1 est déjà ouverte dans une autre fenêtre d'Usmira. Voulez-vous en ouvrir "
            "une copie, %2 ? Sinon, vous pourrez la lire, mais pas l'enregistrer tant que l'autre "

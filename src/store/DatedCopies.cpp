@@ -4,6 +4,7 @@
 #include "platform/OpenedFile.h"
 #include "platform/SafeFile.h"
 #include "platform/SameFile.h"
+#include "platform/Translations.h"
 #include "store/AdventureFile.h"
 #include "store/DamagedTexts.h"
 #include "store/WorkingFiles.h"
@@ -12,7 +13,6 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 #include <QRegularExpression>
 #include <algorithm>
 
@@ -120,8 +120,8 @@ std::optional<int> paragraphsIn(const DatedCopy &copy)
 
 QString sizeText(const DatedCopy &copy)
 {
-    return QLocale(QLocale::French)
-        .formattedDataSize(QFileInfo(copy.path).size(), 1, QLocale::DataSizeTraditionalFormat);
+    return localeOfTexts().formattedDataSize(QFileInfo(copy.path).size(), 1,
+                                             QLocale::DataSizeTraditionalFormat);
 }
 
 QString paragraphsText(const DatedCopy &copy)
@@ -134,8 +134,8 @@ QString paragraphsText(const DatedCopy &copy)
 QString restoreBeside(const Variables &variables, const DatedCopy &copy)
 {
     static_cast<void>(readAdventure(copy.path)); // or there is nothing to open
-    const QString note = QCoreApplication::translate("DatedCopies", "copie du %1")
-                             .arg(copy.kept.toString(QStringLiteral("yyyy-MM-dd HHmm")));
+    const QString note =
+        QStringLiteral("copie du %1").arg(copy.kept.toString(QStringLiteral("yyyy-MM-dd HHmm")));
     const QString path = pathBeside(variables.AdventurePath, note);
     copyFile(copy.path, path);
     return path;

@@ -11,16 +11,15 @@ namespace
 struct StatusLook {
     const char *name; // to be translated
     QRgb colour;
-    char letter;
 };
 
 constexpr std::array<StatusLook, ParagraphStatusCount> Looks = {{
-    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Vide"), qRgb(0xFF, 0xFF, 0xFF), ' '},
-    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Tapé"), qRgb(0xFF, 0x00, 0x00), 'T'},
-    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Mort"), qRgb(0x00, 0xFF, 0x00), 'M'},
-    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Réservé"), qRgb(0x00, 0xFF, 0xFF), 'R'},
-    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Actuel"), qRgb(0xFF, 0xFF, 0x00), 'A'},
-    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Orphelin"), qRgb(0xFF, 0x00, 0xFF), 'O'},
+    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Vide"), qRgb(0xFF, 0xFF, 0xFF)},
+    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Tapé"), qRgb(0xFF, 0x00, 0x00)},
+    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Mort"), qRgb(0x00, 0xFF, 0x00)},
+    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Réservé"), qRgb(0x00, 0xFF, 0xFF)},
+    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Actuel"), qRgb(0xFF, 0xFF, 0x00)},
+    {QT_TRANSLATE_NOOP("ParagraphStatuses", "Orphelin"), qRgb(0xFF, 0x00, 0xFF)},
 }};
 
 // A paragraph that is written further on takes the place of the status Reserved.
@@ -71,5 +70,5 @@ QColor statusColour(quint8 status)
 
 QChar statusLetter(quint8 status)
 {
-    return QLatin1Char(Looks.at(status).letter);
+    return status == Empty ? QChar(u' ') : statusName(status).at(0);
 }

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSet>
@@ -130,29 +129,19 @@ private Q_SLOTS:
         }
     }
 
-    void keysOfMenusDiffer()
+    void shortcutsOfMenusDiffer()
     {
         const WindowFixture fixture;
-        const auto take = [](QSet<QString> &used, const QString &key) {
-            QVERIFY2(key.isEmpty() || !used.contains(key), qPrintable(key));
-            used.insert(key);
-        };
-        QList<QList<QAction *>> menus{fixture.window->menuBar()->actions()};
-        for (const QAction *top : std::as_const(menus.first()))
-            menus.append(top->menu()->actions());
-        QVERIFY(menus.size() >= 6);
         // Keys of commands of the editing box, and the swap's other one.
-        QSet<QString> shortcuts;
-        for (const QChar key : QString("BIU3"))
-            shortcuts.insert(QString("Ctrl+") + key);
-        const QRegularExpression mnemonic("^(?:[^&]|&&)*&([^&])");
-        for (const QList<QAction *> &menu : std::as_const(menus)) {
-            QSet<QString> mnemonics;
-            for (const QAction *action : menu) {
-                take(mnemonics, mnemonic.match(action->text()).captured(1).toLower());
-                take(shortcuts, action->shortcut().toString(QKeySequence::PortableText));
+        QSet<QString> shortcuts{"Ctrl+B", "Ctrl+I", "Ctrl+U", "Ctrl+3"};
+        const QList<QAction *> tops = fixture.window->menuBar()->actions();
+        QVERIFY(tops.size() >= 6);
+        for (const QAction *top : tops)
+            for (const QAction *action : top->menu()->actions()) {
+                const QString key = action->shortcut().toString(QKeySequence::PortableText);
+                QVERIFY2(key.isEmpty() || !shortcuts.contains(key), qPrintable(key));
+                shortcuts.insert(key);
             }
-        }
     }
 
     void windowIsPlacedOnAScreen()

@@ -145,6 +145,7 @@ private Q_SLOTS:
             child<QSpinBox>(dialog, "spinZoom").setValue(200);
             child<QSpinBox>(dialog, "spinPage").setValue(40);
             child<QComboBox>(dialog, "comboColours").setCurrentIndex(2);
+            child<QComboBox>(dialog, "comboLanguage").setCurrentIndex(1);
             child<QCheckBox>(dialog, "chkReopen").setChecked(true);
             child<QCheckBox>(dialog, "chkUnderlines").setChecked(false);
             click(dialog, "OKButton");
@@ -166,6 +167,7 @@ private Q_SLOTS:
         fixture.start();
         QCOMPARE(fixture.window->comfort().comfort(), kept);
         QCOMPARE(kept.colours, EditorComfort::Colours::Dark);
+        QCOMPARE(kept.language, EditorComfort::Language::English);
         QVERIFY(!fixture.box().findChild<ReferenceUnderlines *>()->areShown());
         QVERIFY(!fixture.variables.AdventureOpen);
         fixture.window->openCommandLine({}); // the last one comes back
@@ -197,31 +199,34 @@ private Q_SLOTS:
     void aStrangeFileDoesNoHarm()
     {
         const Table<QByteArray, QString> rows{
-            {"none", "", "100 72 0 0 "},
-            {"bounds", "zoom=401\r\npage=39\r\ncouleurs=vert\r\nrouvrir=2\r\n", "100 72 0 0 "},
-            {"numbers", "zoom=1e2\r\npage=-1\r\nzoom=99999999999\r\n", "100 72 0 0 "},
+            {"none", "", "100 72 0 0 0 "},
+            {"bounds", "zoom=401\r\npage=39\r\ncouleurs=vert\r\nrouvrir=2\r\nlangue=english\r\n",
+             "100 72 0 0 0 "},
+            {"numbers", "zoom=1e2\r\npage=-1\r\nzoom=99999999999\r\n", "100 72 0 0 0 "},
             {"good ones among bad",
-             "\r\n=\r\nx\r\npage=50\r\n\xff\xfe=\r\ncouleurs=claires\r\nrouvrir=1", "100 50 1 1 "},
+             "\r\n=\r\nx\r\npage=50\r\n\xff\xfe=\r\nlangue=en\r\ncouleurs=claires\r\nrouvrir=1",
+             "100 50 1 1 1 "},
             {"paths",
              "aventure=relatif.usm\r\naventure=/a\x01.usm\r\naventure=/b.usm\r\n"
              "aventure=/b.usm\r\naventure=/" +
                  QByteArray(5000, 'x') + "\r\naventure=/c=d.usm\r\n",
-             "100 72 0 0 /b.usm|/c=d.usm"},
+             "100 72 0 0 0 /b.usm|/c=d.usm"},
             {"too many",
              QByteArray("aventure=/") +
                  "1\r\naventure=/2\r\naventure=/3\r\naventure=/4"
                  "\r\naventure=/5\r\naventure=/6\r\naventure=/7\r\naventure=/8\r\naventure=/9"
                  "\r\naventure=/A\r\n",
-             "100 72 0 0 /1|/2|/3|/4|/5|/6|/7|/8|/9"},
-            {"endless", "zoom=200\r\n" + QByteArray(300000, 'x'), "100 72 0 0 "}};
+             "100 72 0 0 0 /1|/2|/3|/4|/5|/6|/7|/8|/9"},
+            {"endless", "zoom=200\r\n" + QByteArray(300000, 'x'), "100 72 0 0 0 "}};
         const TestAdventure folder;
         for (const auto &[name, bytes, expected] : rows) {
             const EditorComfort c = readComfort(folder.file("c", bytes));
-            QCOMPARE(QString("%1 %2 %3 %4 ")
+            QCOMPARE(QString("%1 %2 %3 %4 %5 ")
                              .arg(c.zoom)
                              .arg(c.pageWidth)
                              .arg(static_cast<int>(c.colours))
-                             .arg(c.reopenLast) +
+                             .arg(c.reopenLast)
+                             .arg(static_cast<int>(c.language)) +
                          c.adventures.join(u'|'),
                      expected);
         }

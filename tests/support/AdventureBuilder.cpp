@@ -13,7 +13,11 @@
 #include <algorithm>
 
 // What tests see is what authors see, plurals included.
-Q_COREAPP_STARTUP_FUNCTION(loadTranslations)
+static void speakFrench()
+{
+    loadTranslations(Language::French);
+}
+Q_COREAPP_STARTUP_FUNCTION(speakFrench)
 
 namespace
 {

@@ -18,6 +18,13 @@ const QStringList &colourNames()
     return names;
 }
 
+const QStringList &languageNames()
+{
+    static const QStringList names{QStringLiteral("fr"), QStringLiteral("en"),
+                                   QStringLiteral("bureau")};
+    return names;
+}
+
 void readNumber(const QString &text, int lowest, int highest, int &value)
 {
     bool ok = false;
@@ -45,6 +52,8 @@ void readValue(const QString &name, const QString &value, EditorComfort &comfort
         comfort.reopenLast = value == QStringLiteral("1");
     else if (name == QStringLiteral("renvois"))
         comfort.underlines = value != QStringLiteral("0");
+    else if (name == QStringLiteral("langue") && languageNames().contains(value))
+        comfort.language = static_cast<Comfort::Language>(languageNames().indexOf(value));
     else if (name == QStringLiteral("aventure") && isPath(value) &&
              comfort.adventures.size() < Comfort::MostAdventures &&
              !comfort.adventures.contains(value))
@@ -74,11 +83,13 @@ EditorComfort readComfort(const QString &path)
 void writeComfort(const QString &path, const EditorComfort &comfort)
 {
     const auto colours = static_cast<qsizetype>(comfort.colours);
+    const auto language = static_cast<qsizetype>(comfort.language);
     QString text = line(QStringLiteral("zoom"), QString::number(comfort.zoom)) +
                    line(QStringLiteral("page"), QString::number(comfort.pageWidth)) +
                    line(QStringLiteral("couleurs"), colourNames().at(colours)) +
                    line(QStringLiteral("rouvrir"), QString::number(comfort.reopenLast ? 1 : 0)) +
-                   line(QStringLiteral("renvois"), QString::number(comfort.underlines ? 1 : 0));
+                   line(QStringLiteral("renvois"), QString::number(comfort.underlines ? 1 : 0)) +
+                   line(QStringLiteral("langue"), languageNames().at(language));
     for (const QString &adventure : comfort.adventures)
         text += line(QStringLiteral("aventure"), adventure);
     writeWholeFile(path, text.toUtf8(), Durability::Data, Links::Replace);

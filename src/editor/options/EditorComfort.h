@@ -11,9 +11,11 @@
 //   couleurs=bureau           or claires, or sombres
 //   rouvrir=1                 or 0
 //   renvois=1                 or 0: whether references are underlined
+//   langue=fr                 or en, or bureau
 //   aventure=/home/...        of each adventure opened last, the latest first
 struct EditorComfort {
     enum class Colours { Desktop, Light, Dark };
+    enum class Language { French, English, Desktop }; // of the program from its next start on
 
     static constexpr int LeastZoom = 50;
     static constexpr int MostZoom = 400;
@@ -26,6 +28,7 @@ struct EditorComfort {
     Colours colours = Colours::Desktop;
     bool reopenLast = false;
     bool underlines = true;
+    Language language = Language::French;
     QStringList adventures;
 
     bool operator==(const EditorComfort &) const = default;

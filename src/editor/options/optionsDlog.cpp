@@ -60,6 +60,7 @@ void optionsDlog::showComfort()
     m_ui->spinZoom->setValue(comfort.zoom);
     m_ui->spinPage->setValue(comfort.pageWidth);
     m_ui->comboColours->setCurrentIndex(static_cast<int>(comfort.colours));
+    m_ui->comboLanguage->setCurrentIndex(static_cast<int>(comfort.language));
     m_ui->chkReopen->setChecked(comfort.reopenLast);
     m_ui->chkUnderlines->setChecked(comfort.underlines);
 }
@@ -81,6 +82,7 @@ void optionsDlog::takeComfort()
     comfort.zoom = m_ui->spinZoom->value();
     comfort.pageWidth = m_ui->spinPage->value();
     comfort.colours = static_cast<EditorComfort::Colours>(m_ui->comboColours->currentIndex());
+    comfort.language = static_cast<EditorComfort::Language>(m_ui->comboLanguage->currentIndex());
     comfort.reopenLast = m_ui->chkReopen->isChecked();
     comfort.underlines = m_ui->chkUnderlines->isChecked();
     m_keeper.change(comfort);

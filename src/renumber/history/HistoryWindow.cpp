@@ -1,5 +1,6 @@
 #include "renumber/history/HistoryWindow.h"
 
+#include "platform/Translations.h"
 #include "renumber/history/HistoryWords.h"
 #include "store/AdventureEvents.h"
 #include "store/Variables.h"
@@ -9,7 +10,6 @@
 
 #include <QEvent>
 #include <QHeaderView>
-#include <QLocale>
 #include <algorithm>
 
 using Command = CommandHistory::Command;
@@ -93,8 +93,7 @@ void HistoryWindow::add(const Command &command, bool undone)
     for (const int column : {Changed, Moved})
         row->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     row->setToolTip(
-        Time,
-        QLocale(QLocale::French).toString(command.time, QStringLiteral("d MMMM yyyy, HH:mm:ss")));
+        Time, localeOfTexts().toString(command.time, QStringLiteral("d MMMM yyyy, HH:mm:ss")));
     row->setToolTip(Title, command.title);
     row->setToolTip(State, reasonOf(command, undone));
     for (int column = 0; undone && column <= State; ++column)

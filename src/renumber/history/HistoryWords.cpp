@@ -1,7 +1,8 @@
 #include "renumber/history/HistoryWords.h"
 
+#include "platform/Translations.h"
+
 #include <QCoreApplication>
-#include <QLocale>
 
 namespace
 {
@@ -21,9 +22,8 @@ QString named(const Command &command)
 QString timeOf(const Command &command)
 {
     const bool today = command.time.date() == QDate::currentDate();
-    return QLocale(QLocale::French)
-        .toString(command.time,
-                  today ? QStringLiteral("HH:mm:ss") : QStringLiteral("d MMM HH:mm:ss"));
+    return localeOfTexts().toString(command.time, today ? QStringLiteral("HH:mm:ss")
+                                                        : QStringLiteral("d MMM HH:mm:ss"));
 }
 
 // The last point is now, whichever command came last.

@@ -24,7 +24,7 @@ QString counted(const QString &caption, const QList<Finding> &findings, Severity
         std::count_if(findings.begin(), findings.end(), [severity](const Finding &finding) {
             return finding.severity() == severity;
         });
-    return QStringLiteral("%1 : %2").arg(caption).arg(count);
+    return bookCheck::tr("%1 : %2").arg(caption).arg(count);
 }
 
 QString spaced(const QList<int> &numbers)

@@ -1,7 +1,8 @@
 #include "views/grid/GridShades.h"
 
+#include "platform/Translations.h"
+
 #include <QCoreApplication>
-#include <QLocale>
 #include <cmath>
 
 namespace
@@ -35,5 +36,5 @@ QString shadeWords(double share)
     if (share <= 0)
         return QCoreApplication::translate("GridShades", "aucune lecture n'y passe");
     return QCoreApplication::translate("GridShades", "%1 % des lectures y passent")
-        .arg(QLocale(QLocale::French).toString(share * 100, 'f', 1));
+        .arg(localeOfTexts().toString(share * 100, 'f', 1));
 }

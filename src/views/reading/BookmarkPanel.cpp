@@ -76,7 +76,7 @@ QString BookmarkPanel::proposedName() const
     const int n = *m_way.current();
     const QString words = firstWords(m_variables, n);
     const QString start = words.size() > longest ? words.left(longest) + u'…' : words;
-    return start.isEmpty() ? QString::number(n) : tr("%1 : %2").arg(n).arg(start);
+    return start.isEmpty() ? QString::number(n) : QStringLiteral("%1 : %2").arg(n).arg(start);
 }
 
 void BookmarkPanel::add()
