@@ -131,6 +131,8 @@ void makeAll(const QString &sources, const QString &target)
     QDir().mkpath(samples);
     makeDocument(sources + QStringLiteral("/copyright.txt"),
                  documents + QStringLiteral("Copyright.rtf"));
+    makeDocument(sources + QStringLiteral("/welcome.txt"),
+                 documents + QStringLiteral("Welcome.rtf"));
     makeDocument(sources + QStringLiteral("/aide.txt"),
                  documents + QStringLiteral("Aide Française.rtf"));
     makeDocument(sources + QStringLiteral("/help.txt"),

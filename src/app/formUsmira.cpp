@@ -14,6 +14,7 @@
 #include "platform/Failures.h"
 #include "platform/Guarded.h"
 #include "platform/SafeFile.h"
+#include "platform/Translations.h"
 #include "store/AdventureEvents.h"
 #include "store/CommandHistory.h"
 #include "store/LenientNumbers.h"
@@ -239,7 +240,10 @@ void formUsmira::Form_Load()
     m_functions.showSwapKey();
     m_comfort.load(WorkingFiles(m_variables).comfort());
     m_page.showTabPanel();
-    m_page.showWelcome(WorkingFiles(m_variables).document(WorkingFiles::Document::Welcome));
+    using Document = WorkingFiles::Document;
+    const bool french = localeOfTexts().language() == QLocale::French;
+    m_page.showWelcome(
+        WorkingFiles(m_variables).document(french ? Document::Welcome : Document::EnglishWelcome));
     m_page.focusEditor();
 }
 

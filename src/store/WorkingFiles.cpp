@@ -81,6 +81,7 @@ QString WorkingFiles::documentName(Document document)
 QStringList WorkingFiles::documentNames()
 {
     return {QStringLiteral("Copyright.rtf"),
+            QStringLiteral("Welcome.rtf"),
             QStringLiteral("Aide Française.rtf"),
             QStringLiteral("English Help.rtf"),
             QStringLiteral("Début du Fichier Unique.txt"),

@@ -45,6 +45,7 @@ public:
 
     enum class Document {
         Welcome,
+        EnglishWelcome,
         FrenchHelp,
         EnglishHelp,
         OneFileHeader,
