@@ -1116,15 +1116,15 @@
     <message numerus="yes">
         <source>Rétablir jusqu&apos;à cette commande rétablit %n commande(s).</source>
         <translation>
-            <numerusform>Redo up to this command redoes %n command.</numerusform>
-            <numerusform>Redo up to this command redoes %n commands.</numerusform>
+            <numerusform>“Redo up to this command” redoes %n command.</numerusform>
+            <numerusform>“Redo up to this command” redoes %n commands.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Revenir avant cette commande annule %n commande(s).</source>
         <translation>
-            <numerusform>Go back before this command undoes %n command.</numerusform>
-            <numerusform>Go back before this command undoes %n commands.</numerusform>
+            <numerusform>“Go back before this command” undoes %n command.</numerusform>
+            <numerusform>“Go back before this command” undoes %n commands.</numerusform>
         </translation>
     </message>
 </context>
@@ -4423,7 +4423,7 @@ Shift-click to go to that paragraph.</translation>
     </message>
     <message>
         <source>Passages</source>
-        <translation>Visits</translation>
+        <translation>Unavoidable</translation>
     </message>
     <message>
         <source>Fins</source>
