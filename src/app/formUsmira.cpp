@@ -240,11 +240,18 @@ void formUsmira::Form_Load()
     m_functions.showSwapKey();
     m_comfort.load(WorkingFiles(m_variables).comfort());
     m_page.showTabPanel();
-    using Document = WorkingFiles::Document;
-    const bool french = localeOfTexts().language() == QLocale::French;
-    m_page.showWelcome(
-        WorkingFiles(m_variables).document(french ? Document::Welcome : Document::EnglishWelcome));
+    m_page.showWelcome(welcome());
     m_page.focusEditor();
+}
+
+// A working folder made by an earlier version has none in English.
+QString formUsmira::welcome() const
+{
+    const WorkingFiles files(m_variables);
+    const QString english = files.document(WorkingFiles::Document::EnglishWelcome);
+    const bool wanted = localeOfTexts().language() == QLocale::English;
+    return wanted && QFileInfo::exists(english) ? english
+                                                : files.document(WorkingFiles::Document::Welcome);
 }
 
 void formUsmira::rescue()

@@ -84,6 +84,7 @@ private:
     void keepMaximized() const;
     void showTitle();
     void showComfort();
+    QString welcome() const;
     void rememberAdventure();
     void menuComOptions_Click();
     void txtPargNum_Enter();
