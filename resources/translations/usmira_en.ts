@@ -1624,7 +1624,7 @@ A workshop for writing gamebooks.</translation>
     <name>ReferenceDoubts</name>
     <message>
         <source>Il y a une espace de trop avant le numéro : une renumérotation l&apos;écrirait de travers.</source>
-        <translation>There is a space too many before the number: a renumbering would write it wrongly.</translation>
+        <translation>There is one space too many before the number: a renumbering would write it wrongly.</translation>
     </message>
     <message>
         <source>Il y a un zéro devant le numéro : une renumérotation l&apos;écrirait de travers.</source>
