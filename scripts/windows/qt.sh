@@ -1,0 +1,90 @@
+# Sourced by windows.sh: builds Qt for Windows from Debian's own sources, once, in the user's cache
+# folder. Expects scripts/setup.sh.
+
+QT_PACKAGES=(dpkg-dev g++-mingw-w64-x86-64-posix cmake ninja-build perl qt6-base-dev
+    qt6-base-dev-tools qt6-svg-dev qt6-l10n-tools)
+
+# What Usmira has no use for is left out; what Windows does not bring comes with Qt's sources.
+# Debian's sources of Qt lack the header of the tablets.
+QT_OPTIONS=(-DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON -DQT_BUILD_EXAMPLES=OFF
+    -DQT_BUILD_TESTS=OFF -DQT_HOST_PATH=/usr
+    -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake
+    -DFEATURE_system_zlib=OFF -DFEATURE_system_png=OFF -DFEATURE_system_jpeg=OFF
+    -DFEATURE_system_freetype=OFF -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_pcre2=OFF
+    -DFEATURE_sql=OFF -DFEATURE_dbus=OFF -DFEATURE_network=OFF -DFEATURE_xml=OFF
+    -DFEATURE_concurrent=OFF -DINPUT_opengl=no -DFEATURE_opengl=OFF -DFEATURE_vulkan=OFF
+    -DFEATURE_direct2d=OFF -DFEATURE_tabletevent=OFF -DCMAKE_CXX_FLAGS=-Wno-attributes)
+
+# A library of Qt and the tools that its build runs must be of one version.
+qt_version() { dpkg-query -W -f '${source:Version}' "$1"; }
+
+# qt_sources FOLDER: apt is given a configuration of its own; that of the machine stays as it is.
+qt_sources() {
+    local apt=$1/apt package version
+    mkdir -p "$apt/lists/partial" "$apt/parts"
+    apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT) #$(ORIGIN)' \
+        'Created-By: Packages' | sed -n 's/ #Debian$//p' >"$apt/sources.list"
+    [ -s "$apt/sources.list" ] || fail "apt knows no archive of Debian to take Qt's sources from"
+    local own=(-o "Dir::Etc::sourcelist=$apt/sources.list" -o "Dir::Etc::sourceparts=$apt/parts"
+        -o "Dir::State::lists=$apt/lists" -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache=)
+    apt-get "${own[@]}" update -q
+    for package in qt6-base qt6-svg; do
+        version=$(qt_version "$package-dev")
+        rm -rf "$1/$package"
+        (cd "$1" && apt-get "${own[@]}" source -q --download-only "$package=$version")
+        dpkg-source --no-check -x "$1/${package}_$version.dsc" "$1/$package" >/dev/null
+    done
+}
+
+# Of ninja's lines one for each twentieth of the way.
+every_twentieth() {
+    awk '
+        match($0, /^\[[0-9]+\/[0-9]+\]/) {
+            split(substr($0, 2, RLENGTH - 2), n, "/")
+            part = int(20 * n[1] / n[2])
+            if (part != last) { printf "   %d %%\n", 5 * part; fflush() }
+            last = part
+        }'
+}
+
+# qt_module NAME FOLDER CMAKE...: configures if need be, builds from where the last run stopped, and
+# installs.
+qt_module() {
+    local name=$1 folder=$2 build=$2/build-$1
+    shift 2
+    if [ ! -f "$build/build.ninja" ]; then
+        rm -rf "$build"
+        say "Configuring $name for Windows"
+        "$@" -S "$folder/$name" -B "$build" -G Ninja >"$folder/$name.log" 2>&1 ||
+            { tail -n 40 "$folder/$name.log"; fail "cmake could not configure $name"; }
+    fi
+    say "Building $name for Windows"
+    cmake --build "$build" 2>&1 | tee -a "$folder/$name.log" | every_twentieth ||
+        { tail -n 40 "$folder/$name.log"; fail "$name could not be built"; }
+    cmake --install "$build" >>"$folder/$name.log"
+}
+
+# qt_for_windows: where it lies is in QT_FOLDER then. Another version of Debian's packages or other
+# options are another folder.
+qt_for_windows() {
+    local toolchain=$PWD/cmake/Mingw.cmake needed=2000 there
+    QT_FOLDER=${XDG_CACHE_HOME:-$HOME/.cache}/usmira/qt-$(qt_version qt6-base-dev)-$(
+        cat <(printf '%s\n' "${QT_OPTIONS[@]}") "$toolchain" | sha256sum | head -c 8)
+    if [ -f "$QT_FOLDER/windows/complete" ]; then
+        say "Qt for Windows is in $QT_FOLDER"
+        return
+    fi
+    mkdir -p "$QT_FOLDER"
+    there=$(df -Pm "$QT_FOLDER" | awk 'NR == 2 { print $4 }')
+    [ "$there" -ge "$needed" ] ||
+        fail "building Qt takes $needed MB in $QT_FOLDER, and $there MB are free"
+    say "Building Qt for Windows in $QT_FOLDER: once, about 35 minutes on two cores. When it is
+   interrupted, the next run goes on where it stopped."
+    [ -d "$QT_FOLDER/qt6-svg/src" ] || { say "Fetching Debian's sources of Qt"; qt_sources "$QT_FOLDER"; }
+    qt_module qt6-base "$QT_FOLDER" cmake --toolchain "$toolchain" \
+        -DCMAKE_INSTALL_PREFIX="$QT_FOLDER/windows" "${QT_OPTIONS[@]}"
+    qt_module qt6-svg "$QT_FOLDER" "$QT_FOLDER/windows/bin/qt-cmake" -DQT_BUILD_EXAMPLES=OFF \
+        -DQT_BUILD_TESTS=OFF
+    touch "$QT_FOLDER/windows/complete"
+    rm -rf "$QT_FOLDER"/build-* "$QT_FOLDER"/*.tar.xz "$QT_FOLDER/apt"
+}

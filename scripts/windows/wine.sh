@@ -1,0 +1,25 @@
+# Sourced by windows.sh: runs what was built for Windows. Expects scripts/setup.sh and QT_FOLDER.
+
+WINE_PACKAGES=(wine wine64 xvfb xauth)
+
+# A Windows of its own, in the build folder, so that the user's is left alone.
+wine_folder() {
+    export WINEPREFIX=$PWD/build/windows/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
+    # wine itself asks for its 32-bit sister, which nothing here needs.
+    WINE=$(command -v wine64 || ls /usr/lib/wine/wine64) || fail "wine64 is missing"
+    local compiler
+    compiler=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")
+    [ -d "$WINEPREFIX/drive_c/windows" ] || { say "Preparing Wine"; "$WINE" wineboot -i; }
+    export WINEPATH
+    WINEPATH="$(for_wine "$QT_FOLDER/windows/bin");$(for_wine "$compiler");$(
+        for_wine /usr/x86_64-w64-mingw32/lib)"
+}
+
+for_wine() { printf 'Z:%s' "${1//\//\\}"; }
+
+# Without a screen, with the fonts that the tests have elsewhere too.
+wine_tests() {
+    export QT_QPA_FONTDIR
+    QT_QPA_FONTDIR=$(for_wine /usr/share/fonts/truetype/liberation)
+    ctest --test-dir build/windows --output-on-failure --no-tests=error -j "$(nproc)"
+}
