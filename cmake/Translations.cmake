@@ -16,7 +16,7 @@ function(usmira_embed_translations target)
         list(APPEND tables ${table})
     endforeach()
     add_custom_command(OUTPUT ${code}
-        COMMAND Qt6::rcc --name translations ${built}/translations.qrc -o ${code}
+        COMMAND Qt6::rcc --compress-algo zlib --name translations ${built}/translations.qrc -o ${code}
         DEPENDS ${tables} ${built}/translations.qrc)
     set_source_files_properties(${code} PROPERTIES SKIP_AUTOGEN ON SKIP_PRECOMPILE_HEADERS ON)
     target_sources(${target} PRIVATE ${code})

@@ -3,24 +3,42 @@
 #include "platform/Translations.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QEvent>
+#include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
+#include <QStyle>
 #include <utility>
 
 namespace
 {
+bool isDark(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+// Where there are no icon themes the program brings its own.
+void findCarriedIcons()
+{
+    const QString carried =
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("icons"));
+    if (QFileInfo(carried).isDir())
+        QIcon::setThemeSearchPaths({carried});
+}
+
 // A desktop without an icon theme of its own would keep the bundled theme that it had first; and
 // the theme of one with another lightness than the author's cannot be read.
 void chooseIcons(const QPalette &palette, bool ownColours)
 {
-    const bool dark = palette.color(QPalette::Window).lightness() < 128;
-    const QString bundled = dark ? QStringLiteral("breeze-dark") : QStringLiteral("breeze");
+    const QString bundled =
+        isDark(palette) ? QStringLiteral("breeze-dark") : QStringLiteral("breeze");
     QIcon::setFallbackThemeName(bundled);
     QIcon::setThemeName({});
-    if (ownColours || QIcon::themeName() == QStringLiteral("hicolor"))
+    const QString desktops = QIcon::themeName();
+    if (ownColours || desktops.isEmpty() || desktops == QStringLiteral("hicolor"))
         QIcon::setThemeName(bundled);
 }
 
@@ -61,8 +79,10 @@ QPalette paletteOf(EditorComfort::Colours colours)
 }
 } // namespace
 
-Desktop::Desktop(QApplication &application)
+Desktop::Desktop(QApplication &application) : m_nativeStyle(QApplication::style()->name())
 {
+    findCarriedIcons();
+    chooseStyle(QGuiApplication::palette());
     chooseIcons(QGuiApplication::palette(), false);
     application.installEventFilter(this);
 }
@@ -78,6 +98,16 @@ void Desktop::speak(EditorComfort::Language chosen)
         QCoreApplication::installTranslator(&m_french);
 }
 
+// The style of Windows draws its controls light, whatever the palette.
+void Desktop::chooseStyle(const QPalette &palette)
+{
+    if (m_nativeStyle != QStringLiteral("windowsvista"))
+        return;
+    const QString wanted = isDark(palette) ? QStringLiteral("fusion") : m_nativeStyle;
+    if (QApplication::style()->name() != wanted)
+        QApplication::setStyle(wanted);
+}
+
 void Desktop::show(EditorComfort::Colours colours)
 {
     if (std::exchange(m_colours, colours) == colours)
@@ -88,6 +118,7 @@ void Desktop::show(EditorComfort::Colours colours)
     if (own)
         chooseIcons(palette, true);
     QApplication::setPalette(palette);
+    chooseStyle(QGuiApplication::palette());
     if (!own)
         chooseIcons(QGuiApplication::palette(), false);
 }
@@ -95,7 +126,9 @@ void Desktop::show(EditorComfort::Colours colours)
 bool Desktop::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange &&
-        watched == QCoreApplication::instance())
+        watched == QCoreApplication::instance()) {
+        chooseStyle(QGuiApplication::palette());
         chooseIcons(QGuiApplication::palette(), m_colours != EditorComfort::Colours::Desktop);
+    }
     return QObject::eventFilter(watched, event);
 }

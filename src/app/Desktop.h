@@ -6,6 +6,7 @@
 #include <QTranslator>
 
 class QApplication;
+class QPalette;
 
 // What the desktop decides about the look: icons from its icon theme, with a bundled theme for
 // those that it lacks, light or dark as its palette is, unless the author chose one of the two.
@@ -26,6 +27,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void chooseStyle(const QPalette &palette);
+
     QTranslator m_french;
+    QString m_nativeStyle;
     EditorComfort::Colours m_colours = EditorComfort::Colours::Desktop;
 };

@@ -156,10 +156,14 @@ int runScript(const QCommandLineParser &parser, QTextStream &errors)
 
 int main(int argc, char *argv[])
 {
-    // No command needs a screen, and standard error is for the commands' own messages.
+    // No command needs a screen, and standard error is for the commands' own messages. Where there
+    // always is a screen, that without one would have no fonts.
+#ifndef Q_OS_WIN
     qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     letTooLongWritesFail();
+    useConsoleForUtf8();
     const QGuiApplication application(argc, argv);
     loadTranslations(Language::French); // scripts read it
     QCoreApplication::setApplicationName(QStringLiteral("Usmira"));

@@ -36,7 +36,7 @@ QByteArray LaterFile::read(qint64 offset, qint64 size)
 
 void LaterFile::finish()
 {
-    if (!m_file.flush())
+    if (!m_file.flush() || (!SyncsAllAtOnce && syncFile(m_file)))
         fail();
     m_file.close();
     m_finished = true;

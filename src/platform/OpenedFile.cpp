@@ -46,14 +46,14 @@ quint64 checksum(QByteArrayView bytes)
 }
 
 // Of the file from where it stands to its end.
-QList<quint64> checksums(QFile &file)
+QList<quint64> checksums(QFile &file, const QString &path)
 {
     QByteArray bytes(ReadAtOnce, Qt::Uninitialized);
     QList<quint64> sums;
     for (;;) {
         const qint64 length = file.read(bytes.data(), bytes.size());
         if (length < 0)
-            throw FileError(Operation::Read, file.fileName(), failureOf(file));
+            throw FileError(Operation::Read, path, failureOf(file));
         if (length == 0)
             return sums;
         for (qint64 at = 0; at < length; at += BlockSize)
@@ -73,7 +73,7 @@ OpenedFile::OpenedFile(const QString &path) : m_path(path), m_file(path)
         throw FileError(Operation::Read, path,
                         QStringLiteral("longer than %1 bytes").arg(LargestFile),
                         std::errc::file_too_large);
-    m_blocks = checksums(m_file);
+    m_blocks = checksums(m_file, path);
 }
 
 const FileIdentity &OpenedFile::identity()
@@ -91,15 +91,40 @@ const FileIdentity &OpenedFile::identity()
     return m_identity.emplace(FileIdentity{m_size, hash.toHex()});
 }
 
+void OpenedFile::giveWay(const QString &path)
+{
+    if (!OpenFilesGiveWay && isNamed(path))
+        m_file.close();
+}
+
+void OpenedFile::comeBack()
+{
+    try {
+        reopen();
+    } catch (const FileError &) {
+        return; // it may be there again when it is read
+    }
+}
+
+void OpenedFile::reopen()
+{
+    if (m_file.isOpen())
+        return;
+    m_file.setFileName(m_path);
+    openRegular(m_file, Mode);
+    m_stamp = stampOf(m_file).value_or(FileStamp());
+}
+
 bool OpenedFile::isUntouched() const
 {
-    return stampOf(m_file) == m_stamp;
+    return StampsProve && stampOf(m_file) == m_stamp;
 }
 
 QByteArray OpenedFile::read(qint64 offset, qint64 length)
 {
     if (offset < 0 || length < 0 || offset > size() || length > size() - offset)
         throw FileError(Operation::Read, m_path, QStringLiteral("outside the file"));
+    reopen();
     return isUntouched() ? readAt(offset, length) : readVerified(offset, length);
 }
 
@@ -136,12 +161,12 @@ bool OpenedFile::isStillAt(const QString &path)
     if (!stamp || stamp->size != size())
         return false;
     const bool sameFile = isOneFile(*stamp, m_stamp);
-    if (sameFile && *stamp == m_stamp)
+    if (StampsProve && sameFile && *stamp == m_stamp)
         return true;
     try {
         QFile file(path);
         openRegular(file, Mode);
-        if (checksums(file) != m_blocks)
+        if (checksums(file, path) != m_blocks)
             return false;
     } catch (const FileError &) {
         return false;

@@ -47,7 +47,16 @@ public:
     // The file has another name by now, by which failures speak of it.
     void setPath(const QString &path) { m_path = path; }
 
+    // Another file is about to take the name path, or to be moved there from it. Where the system
+    // lets no open file be replaced, this one is closed if that is its name.
+    void giveWay(const QString &path);
+
+    // Opens it again by its path, if that can be; else the next read tries. Bytes that others have
+    // put there meanwhile are not taken for its own.
+    void comeBack();
+
 private:
+    void reopen();
     bool isUntouched() const;
     QByteArray readVerified(qint64 offset, qint64 length);
     QByteArray readAt(qint64 offset, qint64 length);

@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
-#include <filesystem>
 
 namespace
 {
@@ -127,12 +126,13 @@ void syncFileSystem(const QString &folder)
 void openRegular(QFile &file, QIODevice::OpenMode mode)
 {
     // Asked before opening, because opening a pipe would wait for its other end.
-    const QFileInfo info(file.fileName());
+    const QString path = file.fileName();
+    const QFileInfo info(path);
     if (info.exists() && !info.isFile())
-        throw FileError(Operation::Read, file.fileName(), QStringLiteral("no regular file"),
+        throw FileError(Operation::Read, path, QStringLiteral("no regular file"),
                         std::errc::is_a_directory);
-    if (!file.open(mode))
-        throw FileError(Operation::Read, file.fileName(), failureOf(file));
+    if (const std::error_code failure = openShared(file, mode))
+        throw FileError(Operation::Read, path, failure);
 }
 
 QByteArray readWholeFile(const QString &path, qint64 limit)
@@ -200,8 +200,7 @@ void keepAs(const QString &source, const QString &target)
     const QString resolved = finalPath(source);
     std::error_code unable = std::make_error_code(std::errc::too_many_links);
     if (namesOf(resolved) == 1)
-        std::filesystem::create_hard_link(QFileInfo(resolved).filesystemFilePath(),
-                                          QFileInfo(target).filesystemFilePath(), unable);
+        unable = addName(resolved, target);
     if (unable)
         copyFile(resolved, target);
 }

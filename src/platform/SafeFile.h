@@ -66,8 +66,8 @@ void writeForLater(const QString &path, QByteArrayView bytes);
 // Brings everything written to the file system of a folder onto the disk. Throws FileError (Write).
 void syncFileSystem(const QString &folder);
 
-// Opens a file for reading. Throws FileError (Read), also for anything but a regular file: opening
-// a pipe would wait for its other end.
+// Opens a file for reading; some systems make it forget its name. Throws FileError (Read), also for
+// anything but a regular file: opening a pipe would wait for its other end.
 void openRegular(QFile &file, QIODevice::OpenMode mode);
 
 // The whole of a regular file. Throws FileError (Read) when it cannot be read, is no regular file

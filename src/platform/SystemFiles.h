@@ -1,16 +1,24 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QFile>
 #include <QString>
 #include <optional>
 #include <system_error>
 
-class QFile;
 class QFileDevice;
 
-// What only some systems offer for files. Every function here has two bodies: one for Linux, and
-// one of plain Qt and standard calls, which do what they can everywhere else (USMIRA_PORTABLE
-// builds those here too). Functions that give an error_code give an empty one on success.
+// What only some systems offer for files. Every function here has three bodies: one for Linux, one
+// for Windows, and one of plain Qt and standard calls, which do what they can everywhere else
+// (USMIRA_PORTABLE builds those here too). Functions that give an error_code give an empty one on
+// success.
+
+// Whether equal stamps of a file prove that nobody has written to it.
+extern const bool StampsProve;
+// Whether a file that is open can be replaced or removed, and what is open stays readable.
+extern const bool OpenFilesGiveWay;
+// Whether syncFileSystemOf() is all it takes; else each file is synced by itself.
+extern const bool SyncsAllAtOnce;
 
 // What a file can be told by without reading it. Equal stamps of one file: nobody has written to
 // it meanwhile. Unequal ones say nothing: it may have been touched, or written again with the same
@@ -32,6 +40,9 @@ std::optional<FileStamp> stampOf(const QFile &open);
 // when the system cannot tell.
 bool isOneFile(const FileStamp &one, const FileStamp &other);
 
+// Opens a file for reading in nobody's way.
+std::error_code openShared(QFile &file, QIODevice::OpenMode mode);
+
 // Why a call of file has failed; to be asked at once.
 std::error_code failureOf(const QFileDevice &file);
 
@@ -44,6 +55,9 @@ std::error_code renameOver(const QString &source, const QString &target);
 
 // Removes a file or a link; there must be one.
 std::error_code removeEntry(const QString &path);
+
+// Gives a file a second name, which nobody has yet.
+std::error_code addName(const QString &path, const QString &added);
 
 // Bring onto the disk: the bytes of an open file, the entries of a folder, and all that was written
 // by writeNew() to the file system on which a folder lies.
@@ -74,12 +88,17 @@ public:
     void giveUp();
 
     // False also where take() had nothing to claim.
-    bool isHeld() const { return m_descriptor >= 0; }
+    bool isHeld() const { return m_held != -1; }
 
 private:
-    int m_descriptor = -1;
+    qintptr m_held = -1; // what the system knows the claim by
+    FileStamp m_file;
 };
 
 // From now on a write that goes beyond the size that files may have fails like any other, instead
 // of ending the program. Called once, by main.
 void letTooLongWritesFail();
+
+// From now on standard input and output carry the bytes that are read and written, which are UTF-8.
+// Called once, by the main of a program for scripts.
+void useConsoleForUtf8();

@@ -1,6 +1,5 @@
 #include "platform/SystemFiles.h"
 
-#include <QFile>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -33,6 +32,14 @@ FileStamp stampFrom(const struct stat &status)
             status.st_dev};
 }
 
+std::optional<FileStamp> stampFrom(int descriptor)
+{
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0)
+        return std::nullopt;
+    return stampFrom(status);
+}
+
 // A file descriptor that is closed on every way out.
 class Descriptor
 {
@@ -57,6 +64,10 @@ private:
 };
 } // namespace
 
+const bool StampsProve = true;
+const bool OpenFilesGiveWay = true;
+const bool SyncsAllAtOnce = true;
+
 std::optional<FileStamp> stampOf(const QString &path)
 {
     struct stat status = {};
@@ -67,15 +78,17 @@ std::optional<FileStamp> stampOf(const QString &path)
 
 std::optional<FileStamp> stampOf(const QFile &open)
 {
-    struct stat status = {};
-    if (::fstat(open.handle(), &status) != 0)
-        return std::nullopt;
-    return stampFrom(status);
+    return stampFrom(open.handle());
 }
 
 bool isOneFile(const FileStamp &one, const FileStamp &other)
 {
     return one.inode == other.inode && one.device == other.device;
+}
+
+std::error_code openShared(QFile &file, QIODevice::OpenMode mode)
+{
+    return file.open(mode) ? std::error_code() : failureOf(file);
 }
 
 // Qt tells few reasons apart, and leaves the system's own number as it found it.
@@ -110,6 +123,12 @@ std::error_code renameOver(const QString &source, const QString &target)
 std::error_code removeEntry(const QString &path)
 {
     return resultOf(::unlink(QFile::encodeName(path).constData()));
+}
+
+std::error_code addName(const QString &path, const QString &added)
+{
+    return resultOf(
+        ::link(QFile::encodeName(path).constData(), QFile::encodeName(added).constData()));
 }
 
 std::error_code syncFile(const QFileDevice &file)
@@ -158,22 +177,20 @@ FileClaim::~FileClaim()
 // The lock is that of an open file, so that the same file opened once more here is another one.
 bool FileClaim::take(const QString &path)
 {
-    struct stat held = {};
-    struct stat wanted = {};
     const int descriptor =
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
         return true;
-    const bool ours = m_descriptor >= 0 && ::fstat(m_descriptor, &held) == 0 &&
-                      ::fstat(descriptor, &wanted) == 0 && held.st_ino == wanted.st_ino &&
-                      held.st_dev == wanted.st_dev;
+    const FileStamp wanted = stampFrom(descriptor).value_or(FileStamp());
+    const bool ours = isHeld() && isOneFile(wanted, m_file);
     const bool busy = !ours && ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
     if (ours || busy) {
         ::close(descriptor);
         return ours;
     }
     giveUp();
-    m_descriptor = descriptor;
+    m_held = descriptor;
+    m_file = wanted;
     return true;
 }
 
@@ -181,18 +198,22 @@ bool FileClaim::take(const QString &path)
 void FileClaim::takeOpen(const QFileDevice &open)
 {
     giveUp();
-    m_descriptor = ::fcntl(open.handle(), F_DUPFD_CLOEXEC, 0);
-    static_cast<void>(::flock(m_descriptor, LOCK_EX | LOCK_NB)); // some disks know no locks
+    const int descriptor = ::fcntl(open.handle(), F_DUPFD_CLOEXEC, 0);
+    static_cast<void>(::flock(descriptor, LOCK_EX | LOCK_NB)); // some disks know no locks
+    m_held = descriptor;
+    m_file = stampFrom(descriptor).value_or(FileStamp());
 }
 
 void FileClaim::giveUp()
 {
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
-    m_descriptor = -1;
+    if (isHeld())
+        ::close(static_cast<int>(m_held));
+    m_held = -1;
 }
 
 void letTooLongWritesFail()
 {
     std::signal(SIGXFSZ, SIG_IGN);
 }
+
+void useConsoleForUtf8() {}

@@ -16,34 +16,6 @@ bool isPlainLatin(char16_t code)
 {
     return code < 0x80 || (code >= 0xa0 && code < 0x100);
 }
-
-// Converter names, for the pages whose name is not simply "windows-" and the number.
-QByteArray converterName(int page)
-{
-    static constexpr std::array<std::pair<int, const char *>, 15> names = {{
-        {437, "IBM437"},
-        {850, "IBM850"},
-        {852, "IBM852"},
-        {866, "IBM866"},
-        {932, "Shift_JIS"},
-        {936, "GBK"},
-        {949, "windows-949"},
-        {950, "Big5"},
-        {10000, "macintosh"},
-        {10001, "Shift_JIS"},
-        {10006, "x-mac-greek"},
-        {10007, "x-mac-cyrillic"},
-        {10029, "x-mac-centraleurroman"},
-        {10081, "x-mac-turkish"},
-        {65001, "UTF-8"},
-    }};
-    const auto *found = std::find_if(names.begin(), names.end(),
-                                     [page](const auto &entry) { return entry.first == page; });
-    if (found != names.end())
-        return found->second;
-    const bool windows = page == 874 || (page >= 1250 && page <= 1258);
-    return windows ? "windows-" + QByteArray::number(page) : QByteArray();
-}
 } // namespace
 
 QString fromWindows1252(QByteArrayView bytes)
@@ -114,15 +86,6 @@ QString CodePage::decode(QByteArrayView bytes, int page)
                                    [](char c) { return static_cast<uchar>(c) < 0x80; });
     if (ascii || page == Windows1252)
         return fromWindows1252(bytes);
-    auto found = m_decoders.find(page);
-    if (found == m_decoders.end())
-        found =
-            m_decoders
-                .try_emplace(page, converterName(page).constData(), QStringDecoder::Flag::Stateless)
-                .first;
-    QStringDecoder &decoder = found->second;
-    if (!decoder.isValid())
-        return fromWindows1252(bytes);
-    decoder.resetState();
-    return decoder.decode(bytes);
+    PageDecoder &decoder = m_decoders.try_emplace(page, page).first->second;
+    return decoder.isValid() ? decoder.decode(bytes) : fromWindows1252(bytes);
 }

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "platform/PageDecoder.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
-#include <QStringDecoder>
 #include <map>
 #include <optional>
 
@@ -33,5 +34,5 @@ public:
     QString decode(QByteArrayView bytes, int page);
 
 private:
-    std::map<int, QStringDecoder> m_decoders;
+    std::map<int, PageDecoder> m_decoders;
 };

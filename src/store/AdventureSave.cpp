@@ -14,6 +14,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 AdventureSave::AdventureSave(Variables &variables, Prompts &prompts, FirstSave first,
                              OpenedFile *reserved)
@@ -80,9 +81,9 @@ bool AdventureSave::swap()
     const QString words = QCoreApplication::translate(
         "AdventureSave", "Fichier enregistré, incapable d'échanger avec l'original.");
     try {
-        const ReplaceAnswer answer = askToReplace(
-            m_variables, m_variables.AdventureFile ? m_variables.AdventureFile.get() : m_reserved,
-            m_prompts);
+        OpenedFile *const expected =
+            m_variables.AdventureFile ? m_variables.AdventureFile.get() : m_reserved;
+        const ReplaceAnswer answer = askToReplace(m_variables, expected, m_prompts);
         if (!answer.allowed) {
             swapFailed(words);
             return false;
@@ -94,7 +95,7 @@ bool AdventureSave::swap()
         if (m_first == FirstSave::Yes)
             version.emplace(m_variables);
         noteSave(m_variables, *m_saved.file);
-        moveIntoPlace(m_temporary, m_variables.AdventurePath);
+        takePlaceOf(expected);
         if (version) {
             version->isReplaced();
             m_notKept = version->failure();
@@ -107,9 +108,23 @@ bool AdventureSave::swap()
     }
     // The adventure is saved: nothing below may fail. The file that was read back stays the one
     // that is read; what it is asked here is answered once, instead of at each later read.
-    m_saved.file->isStillAt(m_variables.AdventurePath);
     m_saved.file->setPath(m_variables.AdventurePath);
+    m_saved.file->comeBack();
+    m_saved.file->isStillAt(m_variables.AdventurePath);
     return true;
+}
+
+void AdventureSave::takePlaceOf(OpenedFile *replaced)
+{
+    if (replaced != nullptr)
+        replaced->giveWay(m_variables.AdventurePath);
+    m_saved.file->giveWay(m_temporary);
+    auto comeBack = qScopeGuard([replaced] {
+        if (replaced != nullptr)
+            replaced->comeBack();
+    });
+    moveIntoPlace(m_temporary, m_variables.AdventurePath);
+    comeBack.dismiss();
 }
 
 void AdventureSave::swapFailed(const QString &text)

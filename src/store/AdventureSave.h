@@ -44,6 +44,7 @@ private:
     void writeTo(const QString &folder, const Progress &progress);
     QString adventureFolder() const;
     bool swap();
+    void takePlaceOf(OpenedFile *replaced);
     void swapFailed(const QString &text);
     void takeOverSaved();
     void announce() const;

@@ -242,7 +242,7 @@ qint64 writeStep(const QString &path, const QString &name, HistoryStep &step,
     return size;
 }
 
-StepFile::StepFile(const QString &path) : m_file(path)
+StepFile::StepFile(const QString &path) : m_path(path), m_file(path)
 {
     bool whole = false;
     try {
@@ -295,6 +295,6 @@ QByteArray StepFile::textBefore(int n)
     if (known && m_file.seek(m_offsets.at(n)))
         text = m_file.read(paragraph->second.length);
     if (!known || sha256(text) != paragraph->second.before.sha256)
-        throw StepLost(m_file.fileName());
+        throw StepLost(m_path);
     return text;
 }

@@ -107,7 +107,7 @@ public:
 
     const HistoryStep &step() const { return m_step; }
     qint64 size() const { return m_file.size(); }
-    QString path() const { return m_file.fileName(); }
+    const QString &path() const { return m_path; }
 
     // The text that a paragraph had, which was written. Throws StepLost.
     QByteArray textBefore(int n);
@@ -116,6 +116,7 @@ private:
     bool readLines();
     bool placeTexts(qint64 bytes);
 
+    QString m_path;
     QFile m_file;
     HistoryStep m_step;
     std::map<int, qint64> m_offsets;

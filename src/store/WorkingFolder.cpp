@@ -29,8 +29,11 @@ QString findWorkingFolder(const QString &programFolder)
 
 QString findBundledDocuments(const QString &programFolder)
 {
-    const QString installed = QDir(programFolder).filePath(QStringLiteral("../share/usmira"));
-    return QFileInfo(installed).isDir() ? installed : QStringLiteral(USMIRA_RESOURCES);
+    // Installed for all, or carried with the program.
+    for (const QString &place : {QStringLiteral("../share/usmira"), QStringLiteral("documents")})
+        if (QFileInfo(QDir(programFolder).filePath(place)).isDir())
+            return QDir(programFolder).filePath(place);
+    return QStringLiteral(USMIRA_RESOURCES);
 }
 
 void prepareWorkingFolder(const QString &workingFolder, const QString &bundledDocuments)

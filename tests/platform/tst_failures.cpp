@@ -1,6 +1,7 @@
 #include "platform/Failures.h"
 #include "support/PromptRecorder.h"
 
+#include <QDir>
 #include <QTest>
 
 using Operation = FileError::Operation;
@@ -21,7 +22,7 @@ private Q_SLOTS:
             prompts.expect(text, "BUG");
             reportFailure(prompts, error);
         };
-        const QString path = "/home/moi/Le %1 Loup.usm";
+        const QString path = QDir::toNativeSeparators("/home/moi/Le %1 Loup.usm");
         const auto full = std::make_error_code(std::errc::no_space_on_device);
         const auto missing = std::errc::no_such_file_or_directory;
         check(FileError(Operation::Write, path, full), write + path + " : le disque est plein.");
@@ -38,7 +39,7 @@ private Q_SLOTS:
     void whatFailsWhileWritingIsAFailureToWrite()
     {
         PromptRecorder prompts;
-        prompts.expect(write + "/a.usm", "BUG");
+        prompts.expect(write + QDir::toNativeSeparators("/a.usm"), "BUG");
         QVERIFY(!reportingFailures(prompts, [] {
             return writing("/a.usm", []() -> bool { throw FormatError(0, "a phrase"); });
         }));

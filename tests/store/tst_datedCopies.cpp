@@ -2,6 +2,7 @@
 #include "platform/PartFiles.h"
 #include "platform/SafeFile.h"
 #include "platform/SameFile.h"
+#include "platform/SystemFiles.h"
 #include "store/DatedCopies.h"
 #include "store/ParagraphStore.h"
 #include "support/AdventureBuilder.h"
@@ -11,8 +12,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #include <unistd.h>
+#endif
 
 using Answer = Prompts::Answer;
 
@@ -49,11 +52,10 @@ struct Editor : TestAdventure {
     QList<DatedCopy> copies() const { return datedCopies(variables); }
 };
 
-mode_t modeOf(const QString &path)
+QFile::Permissions modeOf(const QString &path)
 {
-    struct stat status = {};
-    ::stat(qPrintable(path), &status);
-    return status.st_mode & 07777;
+    return QFile::permissions(path) &
+           (QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
 }
 } // namespace
 
@@ -120,24 +122,31 @@ private Q_SLOTS:
     {
         const char *readOnly = "L'aventure Le Loup.usm est protégée en écriture. Voulez-vous la "
                                "remplacer quand même ?";
-        addTable<int, QByteArray, Answer>({"mode", "question", "answer"},
-                                          {{"read-only, yes", 0444, readOnly, Answer::Yes},
-                                           {"read-only, no", 0444, readOnly, Answer::No},
-                                           {"other names, yes", 0640, Names.toUtf8(), Answer::Yes},
-                                           {"other names, no", 0640, Names.toUtf8(), Answer::No}});
+        addTable<bool, QByteArray, Answer>({"writable", "question", "answer"},
+                                           {{"read-only, yes", false, readOnly, Answer::Yes},
+                                            {"read-only, no", false, readOnly, Answer::No},
+                                            {"other names, yes", true, Names.toUtf8(), Answer::Yes},
+                                            {"other names, no", true, Names.toUtf8(), Answer::No}});
     }
     void whatBecomesOfTheOldFileIsAsked()
     {
-        QFETCH(int, mode);
+        QFETCH(bool, writable);
         QFETCH(QByteArray, question);
         QFETCH(Answer, answer);
         Editor e;
         const QString path = e.open();
         const QByteArray before = e.content(Wolf);
         if (question.contains("noms"))
-            QVERIFY(::link(qPrintable(path), qPrintable(e.path("autre.usm"))) == 0);
-        QVERIFY(::chmod(qPrintable(path), static_cast<mode_t>(mode)) == 0);
+            QVERIFY(!addName(path, e.path("autre.usm")));
+        QVERIFY(QFile::setPermissions(path, writable ? QFile::ReadOwner | QFile::WriteOwner |
+                                                           QFile::ReadGroup
+                                                     : QFile::ReadOwner | QFile::ReadOther));
+        const QFile::Permissions mode = modeOf(path);
+#ifdef Q_OS_UNIX
         const bool owned = ::geteuid() == 0 && ::chown(qPrintable(path), 65534, 65534) == 0;
+#else
+        const bool owned = false;
+#endif
         e.prompts.expect(QString::fromUtf8(question), "Attention !", Prompts::Buttons::YesNo,
                          answer);
         const bool saved = answer == Answer::Yes;
@@ -145,7 +154,7 @@ private Q_SLOTS:
             e.prompts.expect("Fichier enregistré, incapable d'échanger avec l'original.", "BUG");
         QCOMPARE(e.save("neuf"), saved);
         QCOMPARE(e.content(Wolf) != before, saved);
-        QCOMPARE(modeOf(path), static_cast<mode_t>(mode));
+        QCOMPARE(modeOf(path), mode);
         QVERIFY(!owned || QFileInfo(path).ownerId() == 65534);
         if (question.contains("noms")) {
             QCOMPARE(e.content("autre.usm"), before);
@@ -158,10 +167,10 @@ private Q_SLOTS:
     {
         Editor e;
         const QString path = e.file(Wolf, "an old file");
-        QVERIFY(::link(qPrintable(path), qPrintable(e.path("autre.usm"))) == 0);
+        QVERIFY(!addName(path, e.path("autre.usm")));
         e.prompts.expect(Names, "Attention !", Prompts::Buttons::YesNo, Answer::No);
         e.prompts.expect("Fichier enregistré, incapable d'échanger avec l'original.", "BUG");
-        QVERIFY(e.commands.NewAdventure(path) && QFile::remove(path));
+        QVERIFY(e.commands.NewAdventure(path) && QFile::rename(path, e.path("ailleurs.usm")));
         e.file(Wolf, "a foreign file");
         e.prompts.expect("Un autre programme a modifié l'aventure Le Loup.usm depuis son "
                          "ouverture. Voulez-vous la remplacer par la vôtre ? L'autre version "
@@ -175,7 +184,8 @@ private Q_SLOTS:
     {
         Editor e;
         const QString path = e.open("dossier/");
-        QVERIFY(QDir(e.path("dossier")).removeRecursively());
+        QVERIFY(QFile::rename(path, e.path("ailleurs.usm")) &&
+                QDir(e.path("dossier")).removeRecursively());
         e.prompts.expect("Fichier enregistré, incapable d'échanger avec l'original.", "BUG");
         QVERIFY(!e.save("neuf"));
         QCOMPARE(GetParagraphRtf(e.variables, 1), rtfOf("Un"));
@@ -210,6 +220,7 @@ private Q_SLOTS:
         QCOMPARE(left, (stay + QStringList{QFileInfo(writing).fileName(), "z.htm"}));
     }
 
+#ifdef Q_OS_UNIX
     void aNameThatIsNoTextIsRefused()
     {
         Editor e;
@@ -225,6 +236,7 @@ private Q_SLOTS:
         QVERIFY(QFile::remove("a.usm") && ::rmdir(folder.constData()) == 0);
         QVERIFY(QDir::setCurrent(before) && !opened && !made && !e.variables.AdventureOpen);
     }
+#endif
 };
 
 QTEST_MAIN(tst_datedCopies)
