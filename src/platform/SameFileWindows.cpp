@@ -24,7 +24,7 @@ bool isNamePermitted(const QString &name)
             "[\\x00-\\x1f<>:\"/\\\\|?*]|[ .]$|"
             "^(con|prn|aux|nul|conin\\$|conout\\$|(com|lpt)[1-9\\xb9\\xb2\\xb3]) *(\\.|$)"),
         QRegularExpression::CaseInsensitiveOption);
-    return !name.isEmpty() && !forbidden.match(name).hasMatch();
+    return !forbidden.match(name).hasMatch(); // that of a whole disk is empty
 }
 
 // Of something that is there: links followed, and each name spelled as it is on the disk.

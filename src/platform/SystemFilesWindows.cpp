@@ -281,7 +281,7 @@ void letTooLongWritesFail() {}
 // Windows would add a sign to each line end, and show the bytes as those of an old code page.
 void useConsoleForUtf8()
 {
-    for (std::FILE *const stream : {stdin, stdout})
+    for (std::FILE *const stream : {stdin, stdout, stderr})
         ::_setmode(::_fileno(stream), _O_BINARY);
     ::SetConsoleOutputCP(CP_UTF8);
 }
