@@ -44,7 +44,8 @@ paragraphs other numbers with every reference rewritten, shows the whole book
 as a grid or a graph and all that is wrong with it in one list, reads it as
 its reader will, and publishes it as HTML or RTF.
 .
-usmira-outil runs the same commands from scripts. The interface is French or English.")
+usmira-outil runs the same commands from scripts. The interface is French or
+English.")
 # The libraries are found by themselves; that of SVG brings what reads the icons. The program looks
 # for the others when it runs: the icons and the French of Qt's own windows.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
