@@ -3,6 +3,7 @@
 # unpack anywhere, and an installer.
 cd "$(dirname "$0")"
 . scripts/setup.sh
+set -E # a step that fails within a function says so too
 . scripts/windows/qt.sh
 . scripts/windows/wine.sh
 . scripts/windows/pack.sh

@@ -87,7 +87,7 @@ removals() {
 
 # pack_all FOLDER QT VERSION: the archive and the installer, in build/.
 pack_all() {
-    local archive=$PWD/build/Usmira-$3-windows.zip installer=$PWD/build/Usmira-$3-windows.exe
+    local made archive=$PWD/build/Usmira-$3-windows.zip installer=$PWD/build/Usmira-$3-windows.exe
     say "Packing"
     ship "$1" "$2"
     rm -f "$archive" "$installer"

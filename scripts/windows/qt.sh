@@ -4,6 +4,8 @@
 QT_PACKAGES=(dpkg-dev g++-mingw-w64-x86-64-posix cmake ninja-build perl qt6-base-dev
     qt6-base-dev-tools qt6-svg-dev qt6-l10n-tools)
 
+QT_MODULES=(qt6-base qt6-svg)
+
 # What Usmira has no use for is left out; what Windows does not bring comes with Qt's sources.
 # Debian's sources of Qt lack the header of the tablets.
 QT_OPTIONS=(-DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON -DQT_BUILD_EXAMPLES=OFF
@@ -18,7 +20,8 @@ QT_OPTIONS=(-DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON -DQT_BUILD_EXAMPLE
 # A library of Qt and the tools that its build runs must be of one version.
 qt_version() { dpkg-query -W -f '${source:Version}' "$1"; }
 
-# qt_sources FOLDER: apt is given a configuration of its own; that of the machine stays as it is.
+# qt_sources FOLDER: fetches what is not there yet. apt is given a configuration of its own; that of
+# the machine stays as it is.
 qt_sources() {
     local apt=$1/apt package version
     mkdir -p "$apt/lists/partial" "$apt/parts"
@@ -28,11 +31,14 @@ qt_sources() {
     local own=(-o "Dir::Etc::sourcelist=$apt/sources.list" -o "Dir::Etc::sourceparts=$apt/parts"
         -o "Dir::State::lists=$apt/lists" -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache=)
     apt-get "${own[@]}" update -q
-    for package in qt6-base qt6-svg; do
+    for package in "${QT_MODULES[@]}"; do
+        [ ! -d "$1/$package" ] || continue
         version=$(qt_version "$package-dev")
-        rm -rf "$1/$package"
-        (cd "$1" && apt-get "${own[@]}" source -q --download-only "$package=$version")
-        dpkg-source --no-check -x "$1/${package}_$version.dsc" "$1/$package" >/dev/null
+        (cd "$1" && apt-get "${own[@]}" source -q --download-only "$package=$version") ||
+            fail "Debian's archive does not give out the sources of $package $version"
+        rm -rf "$1/$package.part"
+        dpkg-source --no-check -x "$1/${package}_${version#*:}.dsc" "$1/$package.part" >/dev/null
+        mv "$1/$package.part" "$1/$package"
     done
 }
 
@@ -67,20 +73,24 @@ qt_module() {
 # qt_for_windows: where it lies is in QT_FOLDER then. Another version of Debian's packages or other
 # options are another folder.
 qt_for_windows() {
-    local toolchain=$PWD/cmake/Mingw.cmake needed=2000 there
+    local toolchain needed=2000 there
     QT_FOLDER=${XDG_CACHE_HOME:-$HOME/.cache}/usmira/qt-$(qt_version qt6-base-dev)-$(
-        cat <(printf '%s\n' "${QT_OPTIONS[@]}") "$toolchain" | sha256sum | head -c 8)
+        cat <(printf '%s\n' "${QT_OPTIONS[@]}") cmake/Mingw.cmake | sha256sum | head -c 8)
     if [ -f "$QT_FOLDER/windows/complete" ]; then
         say "Qt for Windows is in $QT_FOLDER"
         return
     fi
+    # Qt remembers where its toolchain lies, and this clone may be gone when the next one comes.
+    toolchain=$QT_FOLDER/Mingw.cmake
     mkdir -p "$QT_FOLDER"
+    cp cmake/Mingw.cmake "$toolchain"
     there=$(df -Pm "$QT_FOLDER" | awk 'NR == 2 { print $4 }')
     [ "$there" -ge "$needed" ] ||
         fail "building Qt takes $needed MB in $QT_FOLDER, and $there MB are free"
     say "Building Qt for Windows in $QT_FOLDER: once, about 35 minutes on two cores. When it is
    interrupted, the next run goes on where it stopped."
-    [ -d "$QT_FOLDER/qt6-svg/src" ] || { say "Fetching Debian's sources of Qt"; qt_sources "$QT_FOLDER"; }
+    say "Fetching Debian's sources of Qt"
+    qt_sources "$QT_FOLDER"
     qt_module qt6-base "$QT_FOLDER" cmake --toolchain "$toolchain" \
         -DCMAKE_INSTALL_PREFIX="$QT_FOLDER/windows" "${QT_OPTIONS[@]}"
     qt_module qt6-svg "$QT_FOLDER" "$QT_FOLDER/windows/bin/qt-cmake" -DQT_BUILD_EXAMPLES=OFF \

@@ -37,7 +37,7 @@ public:
     void activate() const
     {
         reading().activateWindow();
-        QVERIFY(QTest::qWaitFor([this] { return reading().isActiveWindow(); }));
+        QVERIFY(QTest::qWaitFor([this] { return QApplication::activeWindow() == &reading(); }));
     }
     void press(Qt::Key key, Qt::KeyboardModifiers keys = {}) const
     {
