@@ -9,27 +9,25 @@ _usmira_outil_forms() {
 
 # The words that the form of a command has in small letters, such as "bas|haut" or "[json]".
 _usmira_outil_keywords() {
+    [[ $2 =~ ^[a-z-]+$ ]] || return
     _usmira_outil_forms "$1" | sed -nE "s/^$2 +//p" | tr ' |[]' '\n' | grep -xE '[a-z]+|[01]'
 }
 
-# A command with its arguments is one word here and many to the program: they are completed in
-# quotes alone, and what is blank in a name is escaped.
+# A command with its arguments is one word here and many to the program. Names of files are not
+# completed in it: what has to be escaped in them depends on both.
 _usmira_outil_command() {
-    local program=$1 typed=${2//\\ /$'\a'}
+    local program=$1 typed=$2 before last
     if [[ $typed != *' '* ]]; then
         mapfile -t COMPREPLY < <(
             compgen -W "$(_usmira_outil_forms "$program" | grep -o '^[a-z][^ ]*')" -- "$typed")
         return
     fi
     [[ ${COMP_WORDS[COMP_CWORD]} == [\'\"]* ]] || return
-    local last=${typed##* }
-    local before=${typed%"$last"}
-    last=${last//$'\a'/ }
+    last=${typed##* }
+    before=${typed%"$last"}
     mapfile -t COMPREPLY < <(
-        compgen -W "$(_usmira_outil_keywords "$program" "${typed%% *}")" -- "$last"
-        compgen -f -- "$last")
-    COMPREPLY=("${COMPREPLY[@]// /\\ }")
-    COMPREPLY=("${COMPREPLY[@]/#/${before//$'\a'/\\ }}")
+        compgen -W "$(_usmira_outil_keywords "$program" "${typed%% *}")" -- "$last")
+    COMPREPLY=("${COMPREPLY[@]/#/$before}")
 }
 
 _usmira_outil() {

@@ -18,7 +18,7 @@ touch 'Le Loup.usm'
 offers 'compter|combler|compiler-rtf' -e com
 offers '--aide' '' --a
 offers 'deplacer 1 2 3 haut' -e 'deplacer 1 2 3 ha' "'"
-offers 'ouvrir Le\ Loup.usm' -e 'ouvrir Le\ ' "'"
-offers '' -e 'ouvrir Le'
+offers '' -e 'ouvrir Le' "'"
+offers '' -e '[ s' "'"
 offers 'Le Loup.usm' x Le
 [ -z "${failed-}" ]
