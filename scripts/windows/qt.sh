@@ -2,9 +2,7 @@
 # folder. Expects scripts/setup.sh.
 
 QT_PACKAGES=(dpkg-dev g++-mingw-w64-x86-64-posix cmake ninja-build perl qt6-base-dev
-    qt6-base-dev-tools qt6-svg-dev qt6-l10n-tools)
-
-QT_MODULES=(qt6-base qt6-svg)
+    qt6-base-dev-tools qt6-l10n-tools)
 
 # What Usmira has no use for is left out; what Windows does not bring comes with Qt's sources.
 # Debian's sources of Qt lack the header of the tablets.
@@ -20,10 +18,11 @@ QT_OPTIONS=(-DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON -DQT_BUILD_EXAMPLE
 # A library of Qt and the tools that its build runs must be of one version.
 qt_version() { dpkg-query -W -f '${source:Version}' "$1"; }
 
-# qt_sources FOLDER: fetches what is not there yet. apt is given a configuration of its own; that of
+# qt_sources FOLDER: fetches them, if they are not there. apt is given a configuration of its own; that of
 # the machine stays as it is.
 qt_sources() {
-    local apt=$1/apt package version
+    local apt=$1/apt version
+    [ ! -d "$1/qt6-base" ] || return 0
     mkdir -p "$apt/lists/partial" "$apt/parts"
     apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT) #$(ORIGIN)' \
         'Created-By: Packages' | sed -n 's/ #Debian$//p' >"$apt/sources.list"
@@ -31,15 +30,12 @@ qt_sources() {
     local own=(-o "Dir::Etc::sourcelist=$apt/sources.list" -o "Dir::Etc::sourceparts=$apt/parts"
         -o "Dir::State::lists=$apt/lists" -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache=)
     apt-get "${own[@]}" update -q
-    for package in "${QT_MODULES[@]}"; do
-        [ ! -d "$1/$package" ] || continue
-        version=$(qt_version "$package-dev")
-        (cd "$1" && apt-get "${own[@]}" source -q --download-only "$package=$version") ||
-            fail "Debian's archive does not give out the sources of $package $version"
-        rm -rf "$1/$package.part"
-        dpkg-source --no-check -x "$1/${package}_${version#*:}.dsc" "$1/$package.part" >/dev/null
-        mv "$1/$package.part" "$1/$package"
-    done
+    version=$(qt_version qt6-base-dev)
+    (cd "$1" && apt-get "${own[@]}" source -q --download-only "qt6-base=$version") ||
+        fail "Debian's archive does not give out the sources of qt6-base $version"
+    rm -rf "$1/qt6-base.part"
+    dpkg-source --no-check -x "$1/qt6-base_${version#*:}.dsc" "$1/qt6-base.part" >/dev/null
+    mv "$1/qt6-base.part" "$1/qt6-base"
 }
 
 # Of ninja's lines one for each twentieth of the way.
@@ -53,27 +49,26 @@ every_twentieth() {
         }'
 }
 
-# qt_module NAME FOLDER CMAKE...: configures if need be, builds from where the last run stopped, and
-# installs.
-qt_module() {
-    local name=$1 folder=$2 build=$2/build-$1
-    shift 2
+# qt_build FOLDER: configures if need be, builds from where the last run stopped, and installs.
+qt_build() {
+    local build=$1/build log=$1/qt6-base.log
     if [ ! -f "$build/build.ninja" ]; then
         rm -rf "$build"
-        say "Configuring $name for Windows"
-        "$@" -S "$folder/$name" -B "$build" -G Ninja >"$folder/$name.log" 2>&1 ||
-            { tail -n 40 "$folder/$name.log"; fail "cmake could not configure $name"; }
+        say "Configuring Qt for Windows"
+        cmake --toolchain "$1/Mingw.cmake" -DCMAKE_INSTALL_PREFIX="$1/windows" "${QT_OPTIONS[@]}" \
+            -S "$1/qt6-base" -B "$build" -G Ninja >"$log" 2>&1 ||
+            { tail -n 40 "$log"; fail "cmake could not configure Qt"; }
     fi
-    say "Building $name for Windows"
-    cmake --build "$build" 2>&1 | tee -a "$folder/$name.log" | every_twentieth ||
-        { tail -n 40 "$folder/$name.log"; fail "$name could not be built"; }
-    cmake --install "$build" >>"$folder/$name.log"
+    say "Building Qt for Windows"
+    cmake --build "$build" 2>&1 | tee -a "$log" | every_twentieth ||
+        { tail -n 40 "$log"; fail "Qt could not be built"; }
+    cmake --install "$build" >>"$log"
 }
 
 # qt_for_windows: where it lies is in QT_FOLDER then. Another version of Debian's packages or other
 # options are another folder.
 qt_for_windows() {
-    local toolchain needed=2000 there
+    local needed=2000 there
     QT_FOLDER=${XDG_CACHE_HOME:-$HOME/.cache}/usmira/qt-$(qt_version qt6-base-dev)-$(
         cat <(printf '%s\n' "${QT_OPTIONS[@]}") cmake/Mingw.cmake | sha256sum | head -c 8)
     if [ -f "$QT_FOLDER/windows/complete" ]; then
@@ -81,9 +76,8 @@ qt_for_windows() {
         return
     fi
     # Qt remembers where its toolchain lies, and this clone may be gone when the next one comes.
-    toolchain=$QT_FOLDER/Mingw.cmake
     mkdir -p "$QT_FOLDER"
-    cp cmake/Mingw.cmake "$toolchain"
+    cp cmake/Mingw.cmake "$QT_FOLDER/"
     there=$(df -Pm "$QT_FOLDER" | awk 'NR == 2 { print $4 }')
     [ "$there" -ge "$needed" ] ||
         fail "building Qt takes $needed MB in $QT_FOLDER, and $there MB are free"
@@ -91,10 +85,7 @@ qt_for_windows() {
    interrupted, the next run goes on where it stopped."
     say "Fetching Debian's sources of Qt"
     qt_sources "$QT_FOLDER"
-    qt_module qt6-base "$QT_FOLDER" cmake --toolchain "$toolchain" \
-        -DCMAKE_INSTALL_PREFIX="$QT_FOLDER/windows" "${QT_OPTIONS[@]}"
-    qt_module qt6-svg "$QT_FOLDER" "$QT_FOLDER/windows/bin/qt-cmake" -DQT_BUILD_EXAMPLES=OFF \
-        -DQT_BUILD_TESTS=OFF
+    qt_build "$QT_FOLDER"
     touch "$QT_FOLDER/windows/complete"
-    rm -rf "$QT_FOLDER"/build-* "$QT_FOLDER"/*.tar.xz "$QT_FOLDER/apt"
+    rm -rf "$QT_FOLDER/build" "$QT_FOLDER"/*.tar.xz "$QT_FOLDER/apt"
 }
