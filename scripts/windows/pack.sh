@@ -8,30 +8,40 @@ icons_used() {
     grep -rhoE 'iconset theme="[^"]+"' --include='*.ui' "$1" | sed 's/.*"\(.*\)"/\1/' | sort -u
 }
 
-# ship_icons FOLDER: of Debian's theme what is used, light and dark, with its licence.
+# ship_icons FOLDER: of Debian's theme what is used, light and dark, as pictures, since Qt's base
+# reads no SVG; also twice as large for screens with small dots.
 ship_icons() {
-    local theme name file
+    local theme name file scale side
     for theme in breeze breeze-dark; do
         mkdir -p "$1/$theme"
         cp "/usr/share/icons/$theme/index.theme" "$1/$theme/"
         for name in $(icons_used src); do
             while read -r file; do
-                mkdir -p "$1/$theme/$(dirname "$file")"
-                cp -L "/usr/share/icons/$theme/$file" "$1/$theme/$file"
+                for scale in 1 2; do
+                    ship_icon "/usr/share/icons/$theme/$file" "$scale" \
+                        "$1/$theme/$(dirname "$file")$([ $scale = 1 ] || echo @2x)/$name.png"
+                done
             done < <(cd "/usr/share/icons/$theme" && find . -name "$name.svg" \
-                \( -path '*/16/*' -o -path '*/22/*' -o -path '*/24/*' -o -path '*/32/*' \))
+                \( -path '*/16/*' -o -path '*/22/*' -o -path '*/32/*' \))
         done
     done
-    mkdir -p "$1/hicolor/scalable/apps"
-    cp resources/desktop/usmira.svg "$1/hicolor/scalable/apps/"
+    for side in 16 24 32 48 64 128 256; do
+        mkdir -p "$1/hicolor/$side"
+        cp "build/windows/usmira-$side.png" "$1/hicolor/$side/usmira.png"
+    done
     cp resources/windows/hicolor.theme "$1/hicolor/index.theme"
+}
+
+# ship_icon SVG SCALE PNG
+ship_icon() {
+    mkdir -p "$(dirname "$3")"
+    rsvg-convert --zoom "$2" --output "$3" "$1"
 }
 
 # ship_licences FOLDER QT: of all that is not ours.
 ship_licences() {
     mkdir -p "$1"
     cp "$2/qt6-base/debian/copyright" "$1/Qt.txt"
-    cp "$2/qt6-svg/debian/copyright" "$1/Qt SVG.txt"
     cp /usr/share/doc/breeze-icon-theme/copyright "$1/Breeze.txt"
     cp /usr/share/doc/gcc-mingw-w64-base/copyright "$1/GCC.txt"
     cp /usr/share/doc/mingw-w64-x86-64-dev/copyright "$1/MinGW.txt"
@@ -41,7 +51,7 @@ ship_licences() {
 # ship_libraries FOLDER QT
 ship_libraries() {
     local file
-    for file in Core Gui Widgets Svg; do
+    for file in Core Gui Widgets; do
         cp "$2/windows/bin/Qt6$file.dll" "$1/"
     done
     for file in libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll; do
@@ -49,7 +59,7 @@ ship_libraries() {
     done
     # offscreen: the tool draws on no screen.
     for file in platforms/qwindows platforms/qoffscreen styles/qwindowsvistastyle \
-        imageformats/qsvg imageformats/qjpeg iconengines/qsvgicon; do
+        imageformats/qjpeg; do
         mkdir -p "$1/plugins/$(dirname "$file")"
         cp "$2/windows/plugins/$file.dll" "$1/plugins/$file.dll"
     done

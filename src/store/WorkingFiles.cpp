@@ -73,6 +73,11 @@ QString WorkingFiles::comfort() const
     return m_folder + QStringLiteral("Usmira Confort.xyz");
 }
 
+QString WorkingFiles::deliveries() const
+{
+    return m_folder + QStringLiteral("Usmira Documents.xyz");
+}
+
 QString WorkingFiles::documentName(Document document)
 {
     return documentNames().at(static_cast<int>(document));

@@ -8,6 +8,7 @@
 #include "store/Session.h"
 #include "support/AdventureBuilder.h"
 #include "support/TestTable.h"
+#include "views/graph/GraphFile.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -311,7 +312,7 @@ melanger 4 9
                                               .bytes())
                                     .toUtf8() +
                                 "'\n";
-        const QString drawing = adventure.path(QStringLiteral("a.svg"));
+        const QString drawing = adventure.path(DrawsSvg ? QStringLiteral("a.svg") : QStringLiteral("a.png"));
         const Outcome outcome = run(adventure, {},
                                     open + "arbre 1 avant 3\narbre 9 arriere 1\n" +
                                         "arbre 1 avant 3 " + drawing.toUtf8());
@@ -320,7 +321,7 @@ melanger 4 9
                  QStringLiteral("0\t1\tTapé\n1\t2\tTapé\n2\t1\tTapé\tdéjà montré ailleurs\n"
                                 "1\t9\tRéservé\n0\t9\tRéservé\n"
                                 "1\t1\tTapé\tsuite non montrée\n"));
-        QVERIFY(adventure.content(QStringLiteral("a.svg")).contains("<svg"));
+        QVERIFY(adventure.content(drawing).contains(DrawsSvg ? "<svg" : "PNG"));
         for (const char *wrong : {"x avant 3", "1 avent 3", "1 avant 0", "1 avant 26"})
             QCOMPARE(run(adventure, {}, open + "arbre " + wrong).status, 2);
         QCOMPARE(

@@ -7,7 +7,9 @@
 #include <QBuffer>
 #include <QImage>
 #include <QPainter>
+#ifndef Q_OS_WIN
 #include <QSvgGenerator>
+#endif
 #include <algorithm>
 #include <cmath>
 #include <new>
@@ -29,6 +31,12 @@ double scaleOf(const QSizeF &size)
 }
 } // namespace
 
+#ifdef Q_OS_WIN
+QByteArray graphSvg(const GraphDrawing &, const QString &)
+{
+    return {};
+}
+#else
 QByteArray graphSvg(const GraphDrawing &drawing, const QString &title)
 {
     QByteArray bytes;
@@ -44,6 +52,7 @@ QByteArray graphSvg(const GraphDrawing &drawing, const QString &title)
     painter.end();
     return bytes;
 }
+#endif
 
 GraphPng graphPng(const GraphDrawing &drawing)
 {
@@ -69,12 +78,16 @@ QString graphName(const Variables &variables, int start)
     return proposedName(variables) + u' ' + QString::number(start);
 }
 
+bool isImageName(const QString &path)
+{
+    return path.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive);
+}
+
 double saveGraph(const Variables &variables, const GraphDrawing &drawing, const QString &path,
                  const QString &title)
 {
     refuseOwnFiles(variables, path);
-    const bool image = path.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive);
-    const GraphPng saved = image ? graphPng(drawing) : GraphPng{graphSvg(drawing, title), 1};
+    const GraphPng saved = isImageName(path) ? graphPng(drawing) : GraphPng{graphSvg(drawing, title), 1};
     writeWholeFile(path, saved.bytes, Durability::Full, Links::Follow);
     return saved.scale;
 }

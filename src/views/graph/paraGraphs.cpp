@@ -68,6 +68,7 @@ void paraGraphs::connectGraph()
 
 void paraGraphs::connectSaving()
 {
+    m_ui->btnSvg->setVisible(DrawsSvg);
     connectGuarded(m_ui->btnSvg, &QPushButton::clicked, this, m_prompts,
                    [this] { save(QStringLiteral("svg"), tr("Dessins SVG")); });
     connectGuarded(m_ui->btnPng, &QPushButton::clicked, this, m_prompts,
