@@ -43,7 +43,8 @@ void writeDeliveries(const QString &path, const Deliveries &deliveries)
 {
     QByteArray lines;
     for (auto it = deliveries.begin(); it != deliveries.end(); ++it)
-        lines += it.value() + ' ' + it.key() + "\r\n";
+        if (!it.value().isEmpty())
+            lines += it.value() + ' ' + it.key() + "\r\n";
     writeWholeFile(path, lines, Durability::Data, Links::Replace);
 }
 

@@ -3,6 +3,7 @@
 #include "store/AdventureCommands.h"
 #include "store/FolderLock.h"
 #include "store/WorkingFiles.h"
+#include "store/WorkingFolder.h"
 #include "support/AdventureBuilder.h"
 #include "support/PromptRecorder.h"
 #include "support/TestTable.h"
@@ -63,6 +64,29 @@ private Q_SLOTS:
         QFile settings(WorkingFiles(place.folder).settings());
         QVERIFY(settings.open(QIODevice::ReadOnly));
         QCOMPARE(settings.readAll(), QByteArray("settings of the first"));
+    }
+
+    void aNewerProgramRenewsWhatWasLeftAlone()
+    {
+        const TestAdventure adventure;
+        const QString bundled = adventure.path("documents/");
+        const QString folder = adventure.path("new/");
+        QDir().mkpath(bundled);
+        const QStringList names{"Welcome.rtf", "English Help.rtf", "Copyright.rtf"};
+        const auto deliver = [&](const QByteArray &bytes) {
+            for (const QString &name : names)
+                write(bundled + name, bytes);
+            prepareWorkingFolder(folder, bundled);
+        };
+        deliver("first");
+        write(folder + names.at(1), "the author's");
+        QVERIFY(QFile::remove(folder + names.at(2)));
+        for (const QByteArray &bytes : {"second", "third"}) {
+            deliver(bytes);
+            QCOMPARE(adventure.content(folder + names.at(0)), bytes);
+            QCOMPARE(adventure.content(folder + names.at(1)), QByteArray("the author's"));
+            QVERIFY(!QFile::exists(folder + names.at(2)));
+        }
     }
 
     void anAdventureOpenElsewhereIsNotReplaced()
