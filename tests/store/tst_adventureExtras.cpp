@@ -33,7 +33,9 @@ QByteArray records(const QByteArray &one, const QByteArray &other)
     return record("STRT", one + other) + record("ACPT", other + one + Sum + u32(6) + "piège") +
            record("READ", one) + record("TAKN", one + other) +
            record("BKMK", u32(3) + "\xEF\xBB\xBF" + u32(2) + one + other + u32(0) + u32(0)) +
-           record("ZZZZ", "kept \1") + record("AAAA", "") + record("ZZZZ", "twice");
+           record("BOOK", u32(4) + "Loup" + u32(0) + u32(2) + "fr" + u32(0) + u32(0) + u32(0)) +
+           record("COVR", "\x89PNG") + record("ZZZZ", "kept \1") + record("AAAA", "") +
+           record("ZZZZ", "twice");
 }
 const QByteArray Full = records(Two, Last);
 } // namespace
@@ -51,6 +53,7 @@ private Q_SLOTS:
         QCOMPARE(extras->starts, (QList<int>{2, 2000}));
         QCOMPARE(extras->accepted, (QList<AcceptedFinding>{{"piège", 2000, Sum, 2}}));
         QCOMPARE(extras->reading.bookmarks.first().way, (QList<int>{2, 2000}));
+        QCOMPARE(extras->book.title + extras->book.language, "Loupfr");
         QCOMPARE(bytesOf(*extras), whole);
         QCOMPARE(bytesOf({}), QByteArray());
     }
@@ -69,6 +72,7 @@ private Q_SLOTS:
              {"half a finding", extrasBlock(record("ACPT", Two + Two + Sum + u32(7) + "vide"))},
              {"half a choice", extrasBlock(record("TAKN", Two))},
              {"way of 4 GiB", extrasBlock(record("BKMK", u32(0) + u32(-1) + Two))},
+             {"title of 4 GiB", extrasBlock(record("BOOK", u32(-1)))},
              {"name of 4 GiB", extrasBlock(record("BKMK", u32(-1)))},
              {"record of 4 GiB", extrasBlock("ZZZZ" + u32(-1))},
              {"half a tag", extrasBlock("ZZZ")},

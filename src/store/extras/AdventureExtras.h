@@ -39,6 +39,18 @@ struct ReadingMarks {
     bool operator==(const ReadingMarks &) const = default;
 };
 
+// What a book says of itself when it leaves the editor. Texts may be empty, and have line feeds.
+struct BookFacts {
+    QString title; // empty: that of the adventure's file
+    QString author;
+    QString language = QStringLiteral("fr"); // by BCP 47
+    QString dedication;
+    QString before; // stands before the first paragraph
+    QString after;
+    QByteArray cover; // a PNG or JPEG file, or nothing
+    bool operator==(const BookFacts &) const = default;
+};
+
 // What another version of the program has put there: nobody here understands it, and nobody loses
 // it.
 struct UnknownRecord {
@@ -51,6 +63,7 @@ struct AdventureExtras {
     QList<int> starts; // where readings start, each once; none: see readingStarts()
     QList<AcceptedFinding> accepted;
     ReadingMarks reading;
+    BookFacts book;
     QList<UnknownRecord> unknown; // in the order of the file
     bool operator==(const AdventureExtras &) const = default;
 };

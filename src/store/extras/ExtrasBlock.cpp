@@ -16,6 +16,8 @@ constexpr QByteArrayView Accepted("ACPT");
 constexpr QByteArrayView Read("READ");
 constexpr QByteArrayView Taken("TAKN");
 constexpr QByteArrayView Bookmarks("BKMK");
+constexpr QByteArrayView Facts("BOOK");
+constexpr QByteArrayView Cover("COVR");
 constexpr quint16 Version = 1;
 constexpr qsizetype LengthOfSum = 32;
 constexpr qsizetype LengthOfTag = 4;
@@ -131,13 +133,23 @@ QByteArray bookmarkBytes(const QList<ReadingMarks::Bookmark> &bookmarks)
     return bytes;
 }
 
+QByteArray factsBytes(BookFacts facts)
+{
+    facts.cover.clear();
+    if (facts == BookFacts())
+        return {};
+    return textBytes(facts.title) + textBytes(facts.author) + textBytes(facts.language) +
+           textBytes(facts.dedication) + textBytes(facts.before) + textBytes(facts.after);
+}
+
 QByteArray recordBytes(const AdventureExtras &extras)
 {
     QByteArray bytes = record(Starts, numbersBytes(extras.starts)) +
                        record(Accepted, acceptedBytes(extras.accepted)) +
                        record(Read, numbersBytes(extras.reading.read)) +
                        record(Taken, takenBytes(extras.reading.taken)) +
-                       record(Bookmarks, bookmarkBytes(extras.reading.bookmarks));
+                       record(Bookmarks, bookmarkBytes(extras.reading.bookmarks)) +
+                       record(Facts, factsBytes(extras.book)) + record(Cover, extras.book.cover);
     for (const UnknownRecord &unknown : extras.unknown)
         bytes += unknown.tag + lengthBytes(unknown.bytes.size()) + unknown.bytes;
     return bytes;
@@ -179,6 +191,13 @@ QList<ReadingMarks::Bookmark> readBookmarks(RecordReader &record)
     return bookmarks;
 }
 
+void readFacts(RecordReader &record, BookFacts &facts)
+{
+    for (QString *text : {&facts.title, &facts.author, &facts.language, &facts.dedication,
+                          &facts.before, &facts.after})
+        *text = record.takeText();
+}
+
 void readRecord(QByteArrayView tag, QByteArrayView bytes, AdventureExtras &extras)
 {
     RecordReader record(bytes);
@@ -192,6 +211,10 @@ void readRecord(QByteArrayView tag, QByteArrayView bytes, AdventureExtras &extra
         extras.reading.taken = readTaken(record);
     else if (tag == Bookmarks)
         extras.reading.bookmarks = readBookmarks(record);
+    else if (tag == Facts)
+        readFacts(record, extras.book);
+    else if (tag == Cover)
+        extras.book.cover = bytes.toByteArray();
     else
         extras.unknown.append({tag.toByteArray(), bytes.toByteArray()});
 }

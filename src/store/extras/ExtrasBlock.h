@@ -18,6 +18,8 @@
 //   "READ" numbers of the paragraphs read
 //   "TAKN" once a choice: number from, number to
 //   "BKMK" once a bookmark: text of the name, u32 count, numbers of the way
+//   "BOOK" texts: title, author, language, dedication, before, after
+//   "COVR" a picture file
 //
 // Records of other tags are kept as they are. What a tag means never changes: another layout gets
 // another tag. Of two records of a known tag the last counts.

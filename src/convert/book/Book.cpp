@@ -1,0 +1,188 @@
+#include "convert/book/Book.h"
+
+#include "platform/Errors.h"
+#include "richtext/RtfReader.h"
+#include "store/ParagraphTexts.h"
+#include "store/Variables.h"
+#include "store/references/ReferenceMarks.h"
+
+#include <QCoreApplication>
+#include <QMap>
+#include <QSet>
+#include <QStringList>
+#include <algorithm>
+
+namespace
+{
+class BlockCollector : public RtfHandler
+{
+public:
+    void text(QStringView text, const CharState &chars) override
+    {
+        m_block.runs.append({text.toString(), chars});
+    }
+
+    void paragraphEnd(const ParagraphState &format, const CharState &chars) override
+    {
+        m_block.format = format;
+        m_block.mark = chars;
+        m_blocks.append(std::move(m_block));
+        m_block = {};
+    }
+
+    QList<BookBlock> takeBlocks() { return std::move(m_blocks); }
+
+private:
+    QList<BookBlock> m_blocks;
+    BookBlock m_block;
+};
+
+QString textOf(const BookBlock &block)
+{
+    QString text;
+    for (const BookRun &run : block.runs)
+        text += run.text;
+    return text;
+}
+
+// Takes runs apart at references, from the beginning of a block to its end.
+class RunSplitter
+{
+public:
+    explicit RunSplitter(const BookBlock &block) : m_runs(block.runs), m_text(textOf(block)) {}
+
+    QList<BookRun> split(const QString &phrase)
+    {
+        LineReferences references;
+        references.read(m_text, {}, phrase);
+        for (const ReferenceMark &mark : references.marks()) {
+            if (mark.read == 0)
+                continue;
+            takeText(mark.digits);
+            takeReference(mark.position + mark.length, mark.read);
+        }
+        takeText(m_text.size());
+        return std::move(m_result);
+    }
+
+private:
+    void takeText(qsizetype end)
+    {
+        while (m_at < end) {
+            skipRuns();
+            const qsizetype next = std::min(end, m_runBegin + m_runs.at(m_run).text.size());
+            m_result.append({m_text.mid(m_at, next - m_at), m_runs.at(m_run).chars});
+            m_at = next;
+        }
+    }
+
+    // It keeps together, whatever its digits look like.
+    void takeReference(qsizetype end, int refersTo)
+    {
+        skipRuns();
+        m_result.append({m_text.mid(m_at, end - m_at), m_runs.at(m_run).chars, refersTo});
+        m_at = end;
+    }
+
+    // Up to the run that has the character at m_at.
+    void skipRuns()
+    {
+        while (m_at >= m_runBegin + m_runs.at(m_run).text.size())
+            m_runBegin += m_runs.at(m_run++).text.size();
+    }
+
+    const QList<BookRun> &m_runs;
+    QString m_text;
+    QList<BookRun> m_result;
+    qsizetype m_at = 0;
+    qsizetype m_run = 0;
+    qsizetype m_runBegin = 0;
+};
+
+void removeEmptyEnd(QList<BookBlock> &blocks)
+{
+    while (!blocks.isEmpty() && textOf(blocks.last()).trimmed().isEmpty())
+        blocks.removeLast();
+}
+
+template <typename Action> void forEachRun(Book &book, const Action &action)
+{
+    for (BookParagraph &paragraph : book.paragraphs)
+        for (BookBlock &block : paragraph.blocks)
+            for (BookRun &run : block.runs)
+                action(run);
+}
+
+void settleReferences(Book &book, const Variables &variables)
+{
+    QSet<int> there;
+    for (const BookParagraph &paragraph : book.paragraphs)
+        there.insert(paragraph.number);
+    forEachRun(book, [&](BookRun &run) {
+        run.linked = there.contains(run.refersTo);
+        if (run.refersTo != 0 && variables.Written.at(run.refersTo) == 0)
+            book.emptyTargets.append(run.refersTo);
+    });
+}
+
+int usualHalfPoints(Book &book)
+{
+    QMap<int, qsizetype> lengths;
+    forEachRun(book, [&](const BookRun &run) { lengths[run.chars.halfPoints] += run.text.size(); });
+    const auto most = std::max_element(lengths.begin(), lengths.end());
+    return most == lengths.end() ? CharState::DefaultHalfPoints : most.key();
+}
+} // namespace
+
+BookParagraph bookParagraph(int number, QByteArrayView rtf, const QString &phrase)
+{
+    if (rtf.isEmpty())
+        return {number, {}};
+    BlockCollector collector;
+    RtfReader(rtf).read(collector);
+    BookParagraph paragraph{number, collector.takeBlocks()};
+    removeEmptyEnd(paragraph.blocks);
+    for (BookBlock &block : paragraph.blocks)
+        block.runs = RunSplitter(block).split(phrase);
+    return paragraph;
+}
+
+Book readBook(const Variables &variables, const ExportRange &range, const Progress &progress)
+{
+    Book book;
+    QList<int> unreadable;
+    forEachWritten(variables, {std::max(range.low, 1), range.high}, progress, [&](int n) {
+        try {
+            book.paragraphs.append(
+                bookParagraph(n, GetParagraphRtf(variables, n), variables.TargetPhrase));
+        } catch (const UsmiraError &) {
+            unreadable.append(n);
+        }
+    });
+    if (!unreadable.isEmpty())
+        throw UnreadableTexts(unreadable);
+    settleReferences(book, variables);
+    book.halfPoints = usualHalfPoints(book);
+    return book;
+}
+
+QString emptyTargetsSentence(const Book &book)
+{
+    if (book.emptyTargets.isEmpty())
+        return {};
+    QList<int> numbers = book.emptyTargets;
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    QStringList list;
+    for (const int n : numbers)
+        list.append(QString::number(n));
+    const QString sentence =
+        numbers.size() == 1
+            ? QCoreApplication::translate("Book",
+                                          "%n renvoi(s) mène(nt) à un paragraphe vide : %1.",
+                                          nullptr, static_cast<int>(book.emptyTargets.size()))
+            : QCoreApplication::translate("Book",
+                                          "%n renvoi(s) mène(nt) à des paragraphes vides : %1.",
+                                          nullptr, static_cast<int>(book.emptyTargets.size()));
+    return withNoBreakSpaces(sentence.arg(list.join(QStringLiteral(", "))));
+}
