@@ -240,6 +240,23 @@
     </message>
 </context>
 <context>
+    <name>Book</name>
+    <message numerus="yes">
+        <source>%n renvoi(s) mène(nt) à un paragraphe vide : %1.</source>
+        <translation>
+            <numerusform>%n reference leads to an empty paragraph: %1.</numerusform>
+            <numerusform>%n references lead to an empty paragraph: %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renvoi(s) mène(nt) à des paragraphes vides : %1.</source>
+        <translation>
+            <numerusform>%n reference leads to empty paragraphs: %1.</numerusform>
+            <numerusform>%n references lead to empty paragraphs: %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>BookLayout</name>
     <message>
         <source>Départ</source>

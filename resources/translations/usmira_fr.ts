@@ -36,6 +36,23 @@
     </message>
 </context>
 <context>
+    <name>Book</name>
+    <message numerus="yes">
+        <source>%n renvoi(s) mène(nt) à un paragraphe vide : %1.</source>
+        <translation>
+            <numerusform>%n renvoi mène à un paragraphe vide : %1.</numerusform>
+            <numerusform>%n renvois mènent à un paragraphe vide : %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renvoi(s) mène(nt) à des paragraphes vides : %1.</source>
+        <translation>
+            <numerusform>%n renvoi mène à des paragraphes vides : %1.</numerusform>
+            <numerusform>%n renvois mènent à des paragraphes vides : %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CheckBook</name>
     <message numerus="yes">
         <source>%n faute(s)</source>

@@ -176,13 +176,11 @@ QString emptyTargetsSentence(const Book &book)
     QStringList list;
     for (const int n : numbers)
         list.append(QString::number(n));
-    const QString sentence =
-        numbers.size() == 1
-            ? QCoreApplication::translate("Book",
-                                          "%n renvoi(s) mène(nt) à un paragraphe vide : %1.",
-                                          nullptr, static_cast<int>(book.emptyTargets.size()))
-            : QCoreApplication::translate("Book",
-                                          "%n renvoi(s) mène(nt) à des paragraphes vides : %1.",
-                                          nullptr, static_cast<int>(book.emptyTargets.size()));
-    return withNoBreakSpaces(sentence.arg(list.join(QStringLiteral(", "))));
+    const auto references = static_cast<int>(book.emptyTargets.size());
+    const QString one = QCoreApplication::translate(
+        "Book", "%n renvoi(s) mène(nt) à un paragraphe vide : %1.", nullptr, references);
+    const QString more = QCoreApplication::translate(
+        "Book", "%n renvoi(s) mène(nt) à des paragraphes vides : %1.", nullptr, references);
+    return withNoBreakSpaces(
+        (numbers.size() == 1 ? one : more).arg(list.join(QStringLiteral(", "))));
 }
