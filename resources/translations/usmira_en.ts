@@ -359,6 +359,33 @@
     </message>
 </context>
 <context>
+    <name>CoverPicture</name>
+    <message>
+        <source>Aucune image</source>
+        <translation>No picture</translation>
+    </message>
+    <message>
+        <source>Choisir une Image</source>
+        <translation>Choose a Picture</translation>
+    </message>
+    <message>
+        <source>Images PNG et JPEG (*.png *.jpg *.jpeg)|*.png;*.jpg;*.jpeg</source>
+        <translation>PNG and JPEG pictures (*.png *.jpg *.jpeg)|*.png;*.jpg;*.jpeg</translation>
+    </message>
+    <message>
+        <source>Zut</source>
+        <translation>Oops</translation>
+    </message>
+    <message>
+        <source>Ce fichier n&apos;est pas une image PNG ou JPEG.</source>
+        <translation>This file is no PNG or JPEG picture.</translation>
+    </message>
+    <message>
+        <source>Cette image est trop grande : une couverture a 8 Mo et %1 points de côté au plus.</source>
+        <translation>This picture is too large: a cover has 8 MB and %1 pixels to a side at most.</translation>
+    </message>
+</context>
+<context>
     <name>DamagedTexts</name>
     <message>
         <source>Paragraphes illisibles : %1</source>
@@ -2688,6 +2715,93 @@ A workshop for writing gamebooks.</translation>
     <message>
         <source>Enregistré : %1</source>
         <translation>Saved: %1</translation>
+    </message>
+</context>
+<context>
+    <name>bookFactsDlog</name>
+    <message>
+        <source>Le Livre</source>
+        <translation>The Book</translation>
+    </message>
+    <message>
+        <source>&amp;Titre :</source>
+        <translation>&amp;Title:</translation>
+    </message>
+    <message>
+        <source>A&amp;uteur :</source>
+        <translation>A&amp;uthor:</translation>
+    </message>
+    <message>
+        <source>&amp;Langue :</source>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message>
+        <source>&amp;Dédicace :</source>
+        <translation>&amp;Dedication:</translation>
+    </message>
+    <message>
+        <source>Couverture</source>
+        <translation>Cover</translation>
+    </message>
+    <message>
+        <source>&amp;Couverture...</source>
+        <translation>&amp;Cover...</translation>
+    </message>
+    <message>
+        <source>&amp;Enlever</source>
+        <translation>&amp;Remove</translation>
+    </message>
+    <message>
+        <source>Texte a&amp;vant le premier paragraphe :</source>
+        <translation>Text &amp;before the first paragraph:</translation>
+    </message>
+    <message>
+        <source>Texte a&amp;près le dernier paragraphe :</source>
+        <translation>Text a&amp;fter the last paragraph:</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Garder</source>
+        <translation>Keep</translation>
+    </message>
+    <message>
+        <source>Français</source>
+        <translation>French</translation>
+    </message>
+    <message>
+        <source>Anglais</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Allemand</source>
+        <translation>German</translation>
+    </message>
+    <message>
+        <source>Espagnol</source>
+        <translation>Spanish</translation>
+    </message>
+    <message>
+        <source>Italien</source>
+        <translation>Italian</translation>
+    </message>
+    <message>
+        <source>Néerlandais</source>
+        <translation>Dutch</translation>
+    </message>
+    <message>
+        <source>Portugais</source>
+        <translation>Portuguese</translation>
+    </message>
+    <message>
+        <source>La langue se donne par son nom ou par un code comme fr, en ou fr-CA.</source>
+        <translation>The language is given by its name or by a code such as fr, en or fr-CA.</translation>
+    </message>
+    <message>
+        <source>Zut</source>
+        <translation>Oops</translation>
     </message>
 </context>
 <context>

@@ -1,4 +1,5 @@
 #include "WindowFixture.h"
+#include "convert/book/bookFactsDlog.h"
 #include "platform/Translations.h"
 #include "support/TestTable.h"
 
@@ -222,7 +223,10 @@ private Q_SLOTS:
                     window->close();
                 }
         }
-        QVERIFY2(names.size() == 23, qPrintable(names.join(u' ')));
+        bookFactsDlog facts(fixture.variables, fixture.prompts, fixture.window.get());
+        facts.show();
+        look(facts);
+        QVERIFY2(names.size() == 24, qPrintable(names.join(u' ')));
     }
 
 private:

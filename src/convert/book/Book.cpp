@@ -2,12 +2,14 @@
 
 #include "platform/Errors.h"
 #include "richtext/RtfReader.h"
+#include "store/ExportTarget.h"
 #include "store/ParagraphTexts.h"
 #include "store/Variables.h"
 #include "store/references/ReferenceMarks.h"
 
 #include <QCoreApplication>
 #include <QMap>
+#include <QRegularExpression>
 #include <QSet>
 #include <QStringList>
 #include <algorithm>
@@ -164,6 +166,23 @@ Book readBook(const Variables &variables, const ExportRange &range, const Progre
     settleReferences(book, variables);
     book.halfPoints = usualHalfPoints(book);
     return book;
+}
+
+bool isLanguageCode(const QString &code)
+{
+    static const QRegularExpression form(
+        QStringLiteral("\\A[A-Za-z]{2,3}(-[A-Za-z]{4})?(-([A-Za-z]{2}|[0-9]{3}))?\\z"));
+    return form.match(code).hasMatch();
+}
+
+BookFacts bookFacts(const Variables &variables)
+{
+    BookFacts facts = variables.extras.book;
+    if (facts.title.isEmpty())
+        facts.title = proposedName(variables);
+    if (!isLanguageCode(facts.language))
+        facts.language = BookFacts().language;
+    return facts;
 }
 
 QString emptyTargetsSentence(const Book &book)

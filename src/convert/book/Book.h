@@ -3,6 +3,7 @@
 #include "convert/ExportRange.h"
 #include "platform/Progress.h"
 #include "richtext/TextStates.h"
+#include "store/extras/AdventureExtras.h"
 
 #include <QByteArrayView>
 #include <QList>
@@ -48,6 +49,13 @@ BookParagraph bookParagraph(int number, QByteArrayView rtf, const QString &phras
 // The written paragraphs of the range, without paragraph 0. Throws UnreadableTexts with every text
 // that cannot be read.
 Book readBook(const Variables &variables, const ExportRange &range, const Progress &progress);
+
+// Whether a word is the code of a language, with a writing and a country or without: "fr", "fr-CA".
+bool isLanguageCode(const QString &code);
+
+// What the book says of itself, with a title and a language in any case: the adventure's file and
+// French where the author gave none.
+BookFacts bookFacts(const Variables &variables);
 
 // "2 renvois mènent à des paragraphes vides : 83, 90."; empty where there are none.
 QString emptyTargetsSentence(const Book &book);
