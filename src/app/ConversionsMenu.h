@@ -32,7 +32,7 @@ private:
     template <typename Dialog, typename... State> void publish(State &...state);
     void menuConvLoad1_Click(const RtfBox &box);
 
-    const Variables &m_variables;
+    Variables &m_variables;
     Prompts &m_prompts;
     EditorView &m_view;
     WorkReport &m_report;

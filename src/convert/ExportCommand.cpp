@@ -26,7 +26,7 @@ bool ExportCommand::run(const ExportRequest &request, const Kind &kind) const
                 LongWork work(m_report, kind.caption, WorkReport::Stopping::OnEscape);
                 written = kind.write(exportRange(request.first, request.second), work.progress());
             }
-            announce(written, request.place);
+            announce(written, request.place, kind.remark ? kind.remark() : QString());
             return true;
         } catch (const WorkStopped &) {
             m_report.announce(tr("Conversion arrêtée : aucun fichier n'a été écrit."));
@@ -44,7 +44,8 @@ void ExportCommand::tellNothingWritten(const FileError &error) const
     m_report.announce(failureLine(tr("Aucun fichier n'a été écrit."), error));
 }
 
-void ExportCommand::announce(int written, const QString &place) const
+void ExportCommand::announce(int written, const QString &place, const QString &remark) const
 {
-    m_report.announce(tr("%n paragraphe(s) écrit(s) : %1", nullptr, written).arg(place));
+    const QString told = tr("%n paragraphe(s) écrit(s) : %1", nullptr, written).arg(place);
+    m_report.announce(remark.isEmpty() ? told : told + QStringLiteral(" · ") + remark);
 }

@@ -34,6 +34,8 @@ public:
         // Writes the paragraphs and gives their number. What it throws has changed no file.
         std::function<int(const ExportRange &, const Progress &)> write;
         QString failure; // the words when a file cannot be written, if the usual ones are not meant
+        // What is told behind how much went where, once it is written.
+        std::function<QString()> remark = {};
     };
 
     // False when the file is one of the adventure's own: the author has been told.
@@ -49,7 +51,7 @@ public:
     const Variables &variables() const { return m_variables; }
 
 private:
-    void announce(int written, const QString &place) const;
+    void announce(int written, const QString &place, const QString &remark) const;
 
     const Variables &m_variables;
     Prompts &m_prompts;
