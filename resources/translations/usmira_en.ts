@@ -255,6 +255,10 @@
             <numerusform>%n references lead to empty paragraphs: %1.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, par %2</source>
+        <translation>%1, by %2</translation>
+    </message>
 </context>
 <context>
     <name>BookLayout</name>
@@ -489,6 +493,13 @@
     </message>
 </context>
 <context>
+    <name>EpubCommand</name>
+    <message>
+        <source>Livre numérique...</source>
+        <translation>E-book...</translation>
+    </message>
+</context>
+<context>
     <name>ExportCommand</name>
     <message>
         <source>Conversion arrêtée : aucun fichier n&apos;a été écrit.</source>
@@ -508,6 +519,14 @@
             <numerusform>%n paragraph written: %1</numerusform>
             <numerusform>%n paragraphs written: %1</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Aucun paragraphe n&apos;est écrit de %1 à %2.</source>
+        <translation>No paragraph is written from %1 to %2.</translation>
+    </message>
+    <message>
+        <source>Zut</source>
+        <translation>Oops</translation>
     </message>
 </context>
 <context>
@@ -2927,6 +2946,61 @@ Usmira keeps one before the first save that follows each opening.</translation>
     </message>
 </context>
 <context>
+    <name>epubDlog</name>
+    <message>
+        <source>Livre Numérique</source>
+        <translation>E-book</translation>
+    </message>
+    <message>
+        <source>Créer un livre numérique (EPUB) contenant les paragraphes</source>
+        <translation>Create an e-book (EPUB) with the paragraphs</translation>
+    </message>
+    <message>
+        <source>Premier paragraphe</source>
+        <translation>First paragraph</translation>
+    </message>
+    <message>
+        <source>à</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>Dernier paragraphe</source>
+        <translation>Last paragraph</translation>
+    </message>
+    <message>
+        <source>Le &amp;Livre...</source>
+        <translation>The &amp;Book...</translation>
+    </message>
+    <message>
+        <source>Un fichier par &amp;centaine de paragraphes</source>
+        <translation>One file per &amp;hundred paragraphs</translation>
+    </message>
+    <message>
+        <source>Un fichier par &amp;paragraphe</source>
+        <translation>One file per &amp;paragraph</translation>
+    </message>
+    <message>
+        <source>Avancement du travail</source>
+        <translation>Progress of the work</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Créer</source>
+        <translation>Create</translation>
+    </message>
+    <message>
+        <source>Enregistrer Livre Numérique</source>
+        <translation>Save E-book</translation>
+    </message>
+    <message>
+        <source>Livres numériques (*.epub)|*.epub</source>
+        <translation>E-books (*.epub)|*.epub</translation>
+    </message>
+</context>
+<context>
     <name>exchangeDlog</name>
     <message>
         <source>Section Swap</source>
@@ -3391,6 +3465,10 @@ Usmira keeps one before the first save that follows each opening.</translation>
         <source>Usmira - %1</source>
         <translation>Usmira - %1</translation>
     </message>
+    <message>
+        <source>Livre &amp;Numérique (EPUB)...</source>
+        <translation>&amp;E-book (EPUB)...</translation>
+    </message>
 </context>
 <context>
     <name>helpWindow</name>
@@ -3812,6 +3890,53 @@ Create it?</translation>
     <message>
         <source>Combler</source>
         <translation>Fill</translation>
+    </message>
+</context>
+<context>
+    <name>pageDlog</name>
+    <message>
+        <source>Page de Lecture</source>
+        <translation>Reading Page</translation>
+    </message>
+    <message>
+        <source>Créer une page HTML pour lire les paragraphes</source>
+        <translation>Create an HTML page for reading the paragraphs</translation>
+    </message>
+    <message>
+        <source>Premier paragraphe</source>
+        <translation>First paragraph</translation>
+    </message>
+    <message>
+        <source>à</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>Dernier paragraphe</source>
+        <translation>Last paragraph</translation>
+    </message>
+    <message>
+        <source>Le &amp;Livre...</source>
+        <translation>The &amp;Book...</translation>
+    </message>
+    <message>
+        <source>De quoi prendre des notes et jeter un dé</source>
+        <translation>For taking notes and throwing a die</translation>
+    </message>
+    <message>
+        <source>&amp;Fiche</source>
+        <translation>&amp;Sheet</translation>
+    </message>
+    <message>
+        <source>Avancement du travail</source>
+        <translation>Progress of the work</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Créer</source>
+        <translation>Create</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include "app/ConversionsMenu.h"
 
+#include "convert/epub/ZipArchive.h"
+#include "convert/epub/epubDlog.h"
 #include "convert/html/manyHTML.h"
 #include "convert/html/onebigHTML.h"
 #include "convert/rtf/convertRTF.h"
@@ -22,6 +24,8 @@ void ConversionsMenu::connectItems(const Items &items, const RtfBox &box, Comman
     runner.add(items.loadOne, Kind::Editing, [this, &box] { menuConvLoad1_Click(box); });
     runner.add(items.oneHtml, Kind::Saved, [this] { publish<onebigHTML>(); });
     runner.add(items.manyHtml, Kind::Saved, [this] { publish<manyHTML>(m_lastFolder); });
+    runner.add(items.epub, Kind::Saved, [this] { publish<epubDlog>(); });
+    items.epub.setVisible(ZipArchive::isAvailable());
 }
 
 template <typename Dialog, typename... State> void ConversionsMenu::publish(State &...state)

@@ -24,6 +24,7 @@ public:
         QAction &loadOne;
         QAction &oneHtml;
         QAction &manyHtml;
+        QAction &epub; // not shown where the program was built without it
     };
     // box is the one of the view.
     void connectItems(const Items &items, const RtfBox &box, CommandRunner &runner);

@@ -3,6 +3,9 @@
 #include "platform/Failures.h"
 #include "store/ExportTarget.h"
 #include "store/LongWork.h"
+#include "store/Variables.h"
+
+#include <algorithm>
 
 ExportCommand::ExportCommand(const Variables &variables, Prompts &prompts, WorkReport &report)
     : m_variables(variables), m_prompts(prompts), m_report(report)
@@ -15,6 +18,17 @@ bool ExportCommand::mayReplace(const QString &path) const
         refuseOwnFiles(m_variables, path);
         return true;
     });
+}
+
+bool ExportCommand::hasParagraphs(const ExportRequest &request) const
+{
+    const ExportRange range = exportRange(request.first, request.second);
+    for (int n = std::max(range.low, 1); n <= range.high; ++n)
+        if (m_variables.Written.at(n) == 1)
+            return true;
+    m_prompts.message(tr("Aucun paragraphe n'est écrit de %1 à %2.").arg(range.low).arg(range.high),
+                      tr("Zut"), Prompts::Buttons::Ok);
+    return false;
 }
 
 bool ExportCommand::run(const ExportRequest &request, const Kind &kind) const

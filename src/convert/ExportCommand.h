@@ -41,6 +41,10 @@ public:
     // False when the file is one of the adventure's own: the author has been told.
     bool mayReplace(const QString &path) const;
 
+    // False when none of the paragraphs is a written one of the book: the author has been told. For
+    // books, which need one.
+    bool hasParagraphs(const ExportRequest &request) const;
+
     // Writes, and announces in the end how much went where. False when it failed, or the author has
     // stopped it: the author has been told, and what was there before still is.
     bool run(const ExportRequest &request, const Kind &kind) const;

@@ -64,3 +64,4 @@ std::vector<CommandEntry> checkEntries();
 std::vector<CommandEntry> statisticsEntries();
 std::vector<CommandEntry> viewsEntries();
 std::vector<CommandEntry> publishEntries();
+std::vector<CommandEntry> bookEntries();

@@ -58,7 +58,8 @@ QByteArray arbre(CommandServices &script, const QStringList &arguments)
 {
     const TreeRequest request = treeRequest(arguments);
     if (!DrawsSvg && arguments.size() > 3 && !isImageName(arguments.at(3)))
-        throw UsageError(Commands::tr("sous Windows, nom en .png attendu : %1").arg(arguments.at(3)));
+        throw UsageError(
+            Commands::tr("sous Windows, nom en .png attendu : %1").arg(arguments.at(3)));
     const QList<TreeNode> tree = referenceTree(ReferenceWeb(script.variables), request);
     if (arguments.size() < 4)
         return treeLines(tree, script.variables).join(u'\n').toUtf8() + '\n';

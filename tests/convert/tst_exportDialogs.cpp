@@ -72,7 +72,8 @@ private Q_SLOTS:
         const std::tuple<const char *, QString, QString> cases[] = {
             {"menuConv1toHTML", "onebigHTML", "Cancel"},
             {"menuConvNtoHTML", "manyHTML", "Cancel"},
-            {"menuConvRTF", "convertRTF", "CancelButton"}};
+            {"menuConvRTF", "convertRTF", "CancelButton"},
+            {"menuConvEpub", "epubDlog", "CancelButton"}};
         for (const auto &[item, name, cancel] : cases) {
             const auto leave = [&, button = cancel](const QDialog &dialog) {
                 auto &low = child<QLineEdit>(dialog, "txtLow");
@@ -92,7 +93,8 @@ private Q_SLOTS:
     void captionsAreWholeOnASmallScreen()
     {
         const Scene scene;
-        for (const char *item : {"menuConv1toHTML", "menuConvNtoHTML", "menuConvRTF"}) {
+        for (const char *item :
+             {"menuConv1toHTML", "menuConvNtoHTML", "menuConvRTF", "menuConvEpub"}) {
             scene.in(item, [&](QDialog &dialog) {
                 QFont font = dialog.font();
                 font.setPointSize(12);
@@ -242,6 +244,35 @@ private Q_SLOTS:
         QCOMPARE(document.selFontSize(), 20.0);
         QVERIFY(document.selBold() == true && document.selItalic() == true);
         QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.path("a.rtf"));
+    }
+
+    void anEpubIsWritten()
+    {
+        Scene scene;
+        scene.in("menuConvEpub", [&](QDialog &dialog) {
+            const auto &book = child<QLabel>(dialog, "lblBook");
+            QCOMPARE(book.text(), "Le Loup");
+            scene.inDialog([&] { click(dialog, "btnBook"); },
+                           [](QDialog &facts) {
+                               typeOver(child<QLineEdit>(facts, "txtAuthor"), "Moi");
+                               click(facts, "OKButton");
+                           });
+            QCOMPARE(book.text(), "Le Loup, par Moi");
+            fill(dialog, {{"txtLow", "6"}, {"txtHigh", "11"}});
+            scene.prompts.expectFileDialog("Enregistrer Livre Numérique", scene.path("a.epub"),
+                                           "Le Loup");
+            scene.prompts.expect("Aucun paragraphe n'est écrit de 6 à 11.", "Zut");
+            click(dialog, "OKButton");
+            QVERIFY(dialog.isVisible() && !QFileInfo::exists(scene.path("a.epub")));
+            fill(dialog, {{"txtLow", "5"}, {"txtHigh", "12"}});
+            child<QAbstractButton>(dialog, "optEach").click();
+            scene.prompts.expectFileDialog("Enregistrer Livre Numérique", scene.path("a.epub"),
+                                           "Le Loup");
+            click(dialog, "OKButton");
+            QVERIFY(!dialog.isVisible());
+        });
+        QVERIFY(scene.adventure.content("a.epub").contains("p0012.xhtml"));
+        QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.path("a.epub"));
     }
 
     void eachBoxHasItsFile_data()

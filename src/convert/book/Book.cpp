@@ -185,6 +185,13 @@ BookFacts bookFacts(const Variables &variables)
     return facts;
 }
 
+QString bookLine(const BookFacts &facts)
+{
+    return facts.author.isEmpty()
+               ? facts.title
+               : QCoreApplication::translate("Book", "%1, par %2").arg(facts.title, facts.author);
+}
+
 QString emptyTargetsSentence(const Book &book)
 {
     if (book.emptyTargets.isEmpty())

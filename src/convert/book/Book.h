@@ -57,5 +57,8 @@ bool isLanguageCode(const QString &code);
 // French where the author gave none.
 BookFacts bookFacts(const Variables &variables);
 
+// "La Tour, par A. Morel", for the dialogs.
+QString bookLine(const BookFacts &facts);
+
 // "2 renvois mènent à des paragraphes vides : 83, 90."; empty where there are none.
 QString emptyTargetsSentence(const Book &book);

@@ -1,0 +1,35 @@
+#include "convert/epub/EpubCommand.h"
+
+#include "convert/epub/EpubBook.h"
+#include "store/AdventureChanges.h"
+#include "store/ExportTarget.h"
+
+#include <QFileInfo>
+
+namespace
+{
+// When the book last changed.
+QDateTime modifiedAt(const Variables &variables)
+{
+    const QDateTime saved = QFileInfo(variables.AdventurePath).lastModified();
+    return hasUnsavedChanges(variables) || !saved.isValid() ? QDateTime::currentDateTimeUtc()
+                                                            : saved;
+}
+} // namespace
+
+bool exportToEpub(const ExportCommand &command, const ExportRequest &request,
+                  const BookFacts &facts, EpubPages::Files files)
+{
+    const Variables &variables = command.variables();
+    Book book;
+    const auto write = [&](const ExportRange &range, const Progress &progress) {
+        book = readBook(variables, range, progress);
+        writeExport(variables, request.place, epubOf(book, facts, files, modifiedAt(variables)));
+        return static_cast<int>(book.paragraphs.size());
+    };
+    return command.mayReplace(request.place) && command.hasParagraphs(request) &&
+           command.run(request, {QCoreApplication::translate("EpubCommand", "Livre numérique..."),
+                                 write,
+                                 {},
+                                 [&] { return emptyTargetsSentence(book); }});
+}

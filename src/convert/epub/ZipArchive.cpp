@@ -1,0 +1,85 @@
+#include "convert/epub/ZipArchive.h"
+
+#include "platform/Errors.h"
+
+#include <QList>
+#include <zip.h>
+
+struct ZipArchive::Library {
+    zip_source_t *target = nullptr;
+    zip_t *archive = nullptr;
+    QList<QByteArray> contents; // the library takes no copies
+
+    ~Library()
+    {
+        if (archive != nullptr)
+            zip_discard(archive);
+        if (target != nullptr)
+            zip_source_free(target);
+    }
+};
+
+namespace
+{
+// The first day that the format knows. A date of its own would make other bytes of the same book.
+constexpr zip_uint16_t NoDate = (1 << 5) + 1;
+
+[[noreturn]] void fail(const char *what)
+{
+    throw UsmiraError(QStringLiteral("zip archive: ") + QString::fromUtf8(what));
+}
+} // namespace
+
+ZipArchive::ZipArchive() : m_library(std::make_unique<Library>())
+{
+    m_library->target = zip_source_buffer_create(nullptr, 0, 0, nullptr);
+    if (m_library->target == nullptr)
+        fail("no buffer");
+    m_library->archive = zip_open_from_source(m_library->target, ZIP_TRUNCATE, nullptr);
+    if (m_library->archive == nullptr)
+        fail("not opened");
+    zip_source_keep(m_library->target); // the archive frees one use of it when it closes
+}
+
+ZipArchive::~ZipArchive() = default;
+
+bool ZipArchive::isAvailable()
+{
+    return true;
+}
+
+void ZipArchive::add(const QString &name, const QByteArray &bytes, Packing packing)
+{
+    zip_t *archive = m_library->archive;
+    m_library->contents.append(bytes);
+    const QByteArray &kept = m_library->contents.last();
+    zip_source_t *source =
+        zip_source_buffer(archive, kept.constData(), static_cast<zip_uint64_t>(kept.size()), 0);
+    const zip_int64_t index = zip_file_add(archive, name.toLatin1().constData(), source, 0);
+    if (index < 0) {
+        zip_source_free(source);
+        fail(zip_strerror(archive));
+    }
+    const auto place = static_cast<zip_uint64_t>(index);
+    const int method = packing == Packing::Stored ? ZIP_CM_STORE : ZIP_CM_DEFLATE;
+    if (zip_set_file_compression(archive, place, method, 0) < 0 ||
+        zip_file_set_dostime(archive, place, 0, NoDate, 0) < 0)
+        fail(zip_strerror(archive));
+}
+
+QByteArray ZipArchive::finish()
+{
+    if (zip_close(m_library->archive) < 0)
+        fail(zip_strerror(m_library->archive));
+    m_library->archive = nullptr;
+    zip_stat_t size;
+    zip_source_t *target = m_library->target;
+    if (zip_source_stat(target, &size) < 0 || zip_source_open(target) < 0)
+        fail("not read");
+    QByteArray bytes(static_cast<qsizetype>(size.size), Qt::Uninitialized);
+    const zip_int64_t got = zip_source_read(target, bytes.data(), size.size);
+    zip_source_close(target);
+    if (got != bytes.size())
+        fail("not whole");
+    return bytes;
+}

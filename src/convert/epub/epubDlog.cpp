@@ -1,0 +1,58 @@
+#include "convert/epub/epubDlog.h"
+
+#include "convert/book/bookFactsDlog.h"
+#include "convert/epub/EpubCommand.h"
+#include "platform/Guarded.h"
+#include "store/ExportTarget.h"
+#include "store/LenientNumbers.h"
+#include "store/Variables.h"
+#include "ui_epubDlog.h"
+#include "widgets/WorkInDialog.h"
+
+epubDlog::epubDlog(Variables &variables, Prompts &prompts, WorkReport &report, QWidget *parent)
+    : NumberDialog(prompts, Enter::Confirms, parent), m_variables(variables), m_prompts(prompts),
+      m_report(report), m_ui(std::make_unique<Ui::epubDlog>())
+{
+    m_ui->setupUi(this);
+    connectForm(*m_ui->CancelButton, *m_ui->txtLow);
+    connectGuarded(m_ui->btnBook, &QPushButton::clicked, this, prompts,
+                   [this] { btnBook_Click(); });
+    connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
+                   [this] { OKButton_Click(); });
+    Form_Load();
+}
+
+epubDlog::~epubDlog() = default;
+
+void epubDlog::Form_Load()
+{
+    fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
+    showTitle();
+}
+
+void epubDlog::OKButton_Click()
+{
+    const double low = lenientNumber(m_ui->txtLow->text());
+    const double high = lenientNumber(m_ui->txtHigh->text());
+    const QString path = m_prompts.saveName(tr("Enregistrer Livre Numérique"),
+                                            tr("Livres numériques (*.epub)|*.epub"),
+                                            QStringLiteral("epub"), proposedName(m_variables));
+    if (path.isEmpty())
+        return;
+    WorkInDialog work(m_report, *m_ui->barWork);
+    if (exportToEpub({m_variables, m_prompts, work}, {low, high, path}, bookFacts(m_variables),
+                     m_ui->optEach->isChecked() ? EpubPages::Files::Each
+                                                : EpubPages::Files::Hundreds))
+        accept();
+}
+
+void epubDlog::btnBook_Click()
+{
+    bookFactsDlog(m_variables, m_prompts, this).exec();
+    showTitle();
+}
+
+void epubDlog::showTitle()
+{
+    m_ui->lblBook->setText(bookLine(bookFacts(m_variables)));
+}
