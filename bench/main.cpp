@@ -1,6 +1,7 @@
 // Prints what the program costs on an adventure of 2000 paragraphs, a line a figure.
 
 #include "BigAdventure.h"
+#include "BookFigures.h"
 #include "CheckFigures.h"
 #include "CompilationFigures.h"
 #include "ConvertFigures.h"
@@ -42,6 +43,7 @@ int main(int argc, char *argv[])
     printSearchFigures(path, folder.path());
     printStoreFigures(path, folder.path());
     printConvertFigures(path, folder.path());
+    printBookFigures(path, folder.path());
     printTypingFigures(path, folder.path());
     printReferenceFigures(path, folder.path());
     printCheckFigures(path, folder.path());

@@ -5,6 +5,8 @@
 #include "outil/Script.h"
 #include "store/LenientNumbers.h"
 
+#include <optional>
+
 namespace
 {
 ExportRequest exportRequest(const QStringList &arguments)
@@ -12,27 +14,41 @@ ExportRequest exportRequest(const QStringList &arguments)
     return {lenientNumber(arguments.at(0)), lenientNumber(arguments.at(1)), arguments.at(2)};
 }
 
-// Takes the words "titre=..." and "auteur=..." for this book alone.
-BookFacts factsOf(const CommandServices &script, const QStringList &words)
+// "titre=La Tour" gives "La Tour"; nothing for the words of other names.
+std::optional<QString> valueOf(const QString &word, const QString &name)
 {
-    BookFacts facts = bookFacts(script.variables);
+    return word.startsWith(name + u'=') ? std::optional(word.mid(name.size() + 1)) : std::nullopt;
+}
+
+QDateTime dateOf(const QString &value)
+{
+    const QDate date = QDate::fromString(value, Qt::ISODate);
+    if (!date.isValid())
+        throw UsageError(Commands::tr("date=AAAA-MM-JJ attendu : %1").arg(value));
+    return date.startOfDay(Qt::UTC);
+}
+
+// What is said of the book counts for this file alone.
+EpubChoice choiceOf(const CommandServices &script, const QStringList &words)
+{
+    EpubChoice choice{bookFacts(script.variables)};
     for (const QString &word : words) {
-        const QString name = word.section(u'=', 0, 0);
-        const QString value = word.section(u'=', 1);
-        if (name == QStringLiteral("titre") && !value.isEmpty())
-            facts.title = value;
-        else if (name == QStringLiteral("auteur") && word.contains(u'='))
-            facts.author = value;
+        if (const auto title = valueOf(word, QStringLiteral("titre")); title && !title->isEmpty())
+            choice.facts.title = *title;
+        else if (const auto author = valueOf(word, QStringLiteral("auteur")))
+            choice.facts.author = *author;
+        else if (const auto date = valueOf(word, QStringLiteral("date")))
+            choice.modified = dateOf(*date);
         else
-            throw UsageError(Commands::tr("titre=... ou auteur=... attendu : %1").arg(word));
+            throw UsageError(
+                Commands::tr("titre=..., auteur=... ou date=... attendu : %1").arg(word));
     }
-    return facts;
+    return choice;
 }
 
 QByteArray epub(CommandServices &script, const QStringList &arguments)
 {
-    const BookFacts facts = factsOf(script, arguments.mid(3));
-    exportToEpub(script.exports, exportRequest(arguments), facts, EpubPages::Files::Hundreds);
+    exportToEpub(script.exports, exportRequest(arguments), choiceOf(script, arguments.mid(3)));
     return {};
 }
 } // namespace
@@ -41,7 +57,7 @@ std::vector<CommandEntry> bookEntries()
 {
     std::vector<CommandEntry> entries;
     if (ZipArchive::isAvailable())
-        entries.push_back({"epub", "BAS HAUT FICHIER [titre=TITRE] [auteur=AUTEUR]",
+        entries.push_back({"epub", "BAS HAUT FICHIER [titre=TITRE] [auteur=AUTEUR] [date=DATE]",
                            QT_TRANSLATE_NOOP("Commands", "publie un livre numérique (EPUB)"), true,
                            &epub});
     return entries;

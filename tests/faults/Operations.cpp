@@ -72,6 +72,8 @@ const QList<Operation> &operations()
                    QStringLiteral("out/x-0007.htm")}),
         exporting(QStringLiteral("compiler-rtf"), QStringLiteral("compiler-rtf 1 9 @/out/o.rtf"),
                   {QStringLiteral("out/o.rtf")}),
+        exporting(QStringLiteral("epub"), QStringLiteral("epub 1 9 @/out/o.epub date=2026-11-22"),
+                  {QStringLiteral("out/o.epub")}),
     };
     return all;
 }
@@ -93,5 +95,6 @@ QList<std::pair<QString, QByteArray>> preparedFiles()
             {QStringLiteral("u.rtf"), "{\\rtf1\\ansi Allez \\b au\\b0  2.\\par Fin.}"},
             {old + QStringLiteral("o.htm"), "avant"},
             {old + QStringLiteral("x-0003.htm"), "avant"},
-            {old + QStringLiteral("o.rtf"), "avant"}};
+            {old + QStringLiteral("o.rtf"), "avant"},
+            {old + QStringLiteral("o.epub"), "avant"}};
 }

@@ -313,7 +313,8 @@ melanger 4 9
                                               .bytes())
                                     .toUtf8() +
                                 "'\n";
-        const QString drawing = adventure.path(DrawsSvg ? QStringLiteral("a.svg") : QStringLiteral("a.png"));
+        const QString drawing =
+            adventure.path(DrawsSvg ? QStringLiteral("a.svg") : QStringLiteral("a.png"));
         const Outcome outcome = run(adventure, {},
                                     open + "arbre 1 avant 3\narbre 9 arriere 1\n" +
                                         "arbre 1 avant 3 " + drawing.toUtf8());
@@ -322,7 +323,8 @@ melanger 4 9
                  QStringLiteral("0\t1\tTapé\n1\t2\tTapé\n2\t1\tTapé\tdéjà montré ailleurs\n"
                                 "1\t9\tRéservé\n0\t9\tRéservé\n"
                                 "1\t1\tTapé\tsuite non montrée\n"));
-        QVERIFY(adventure.content(QFileInfo(drawing).fileName()).contains(DrawsSvg ? "<svg" : "PNG"));
+        QVERIFY(
+            adventure.content(QFileInfo(drawing).fileName()).contains(DrawsSvg ? "<svg" : "PNG"));
         for (const char *wrong : {"x avant 3", "1 avent 3", "1 avant 0", "1 avant 26"})
             QCOMPARE(run(adventure, {}, open + "arbre " + wrong).status, 2);
         QCOMPARE(
@@ -363,12 +365,14 @@ uniformiser - 1639
             QStringLiteral("a.usm"),
             AdventureBuilder({QStringLiteral("1: Va au 9"), QStringLiteral("9: Fin")}).bytes());
         const QByteArray script = "ouvrir '@a.usm'\ncompiler-rtf 2000 2 '@livre.rtf'\n"
-                                  "html 1 9 '@livre.htm'\npages 5 2000 '@' L-\npages 1 1 '@'\n";
+                                  "html 1 9 '@livre.htm'\npages 5 2000 '@' L-\npages 1 1 '@'\n"
+                                  "epub 1 9 '@livre.epub' date=2026-11-22 'titre=Le Loup'\n";
         const Outcome outcome = run(adventure, {}, QByteArray(script).replace('@', folder));
         QCOMPARE(outcome.errors, QString());
         QCOMPARE(outcome.status, 0);
         QVERIFY(
             adventure.content(QStringLiteral("livre.htm")).contains("<A HREF=\"#P0009\">9</A>"));
+        QVERIFY(adventure.content(QStringLiteral("livre.epub")).contains("OEBPS/p0001.xhtml"));
         QVERIFY(adventure.content(QStringLiteral("L-0009.htm")).contains("Fin"));
         QVERIFY(adventure.content(QStringLiteral("L-0001.htm")).isEmpty());
         QVERIFY(adventure.content(QStringLiteral("a-0001.htm")).contains("a-0009.htm"));
@@ -432,6 +436,12 @@ uniformiser - 1639
             QStringLiteral("Erreur pendant l'écriture du fichier."));
         row("a file that cannot be opened, said nowhere",
             {QStringLiteral("ouvrir @"), QStringLiteral("html 1 9 /nowhere/a.htm")}, 1, QString());
+        row("word of a book", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e titre=")},
+            2, QStringLiteral("titre=..., auteur=... ou date=... attendu : titre="));
+        row("date", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e date=hier")}, 2,
+            QStringLiteral("date=AAAA-MM-JJ attendu : hier"));
+        row("nothing in the range", {QStringLiteral("ouvrir @"), QStringLiteral("epub 5 9 @.e")}, 1,
+            QStringLiteral("Aucun paragraphe n'est écrit de 5 à 9."));
         row("existing file", {QStringLiteral("nouvelle @")}, 1, QStringLiteral("existe déjà"));
     }
     void failuresAndBadUsageHaveTheirStatus()

@@ -18,13 +18,15 @@ QDateTime modifiedAt(const Variables &variables)
 } // namespace
 
 bool exportToEpub(const ExportCommand &command, const ExportRequest &request,
-                  const BookFacts &facts, EpubPages::Files files)
+                  const EpubChoice &choice)
 {
     const Variables &variables = command.variables();
     Book book;
     const auto write = [&](const ExportRange &range, const Progress &progress) {
         book = readBook(variables, range, progress);
-        writeExport(variables, request.place, epubOf(book, facts, files, modifiedAt(variables)));
+        const QDateTime modified =
+            choice.modified.isValid() ? choice.modified : modifiedAt(variables);
+        writeExport(variables, request.place, epubOf(book, choice.facts, choice.files, modified));
         return static_cast<int>(book.paragraphs.size());
     };
     return command.mayReplace(request.place) && command.hasParagraphs(request) &&

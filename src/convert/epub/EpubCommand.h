@@ -3,6 +3,15 @@
 #include "convert/ExportCommand.h"
 #include "convert/epub/EpubPages.h"
 
+#include <QDateTime>
+
+// What the author chooses of an EPUB.
+struct EpubChoice {
+    BookFacts facts;
+    EpubPages::Files files = EpubPages::Files::Hundreds;
+    QDateTime modified = {}; // invalid: when the adventure was saved, or now where it is not
+};
+
 // Writes the book as an EPUB as a command.
 bool exportToEpub(const ExportCommand &command, const ExportRequest &request,
-                  const BookFacts &facts, EpubPages::Files files);
+                  const EpubChoice &choice);

@@ -148,8 +148,7 @@ QString EpubPages::contents() const
             numbered = true;
         }
     }
-    return list(QStringLiteral("epub:type=\"toc\" role=\"doc-toc\""), m_words.contents,
-                links);
+    return list(QStringLiteral("epub:type=\"toc\" role=\"doc-toc\""), m_words.contents, links);
 }
 
 QString EpubPages::hundreds() const

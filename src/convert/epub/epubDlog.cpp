@@ -40,9 +40,10 @@ void epubDlog::OKButton_Click()
     if (path.isEmpty())
         return;
     WorkInDialog work(m_report, *m_ui->barWork);
-    if (exportToEpub({m_variables, m_prompts, work}, {low, high, path}, bookFacts(m_variables),
-                     m_ui->optEach->isChecked() ? EpubPages::Files::Each
-                                                : EpubPages::Files::Hundreds))
+    const auto files =
+        m_ui->optEach->isChecked() ? EpubPages::Files::Each : EpubPages::Files::Hundreds;
+    if (exportToEpub({m_variables, m_prompts, work}, {low, high, path},
+                     {bookFacts(m_variables), files}))
         accept();
 }
 
