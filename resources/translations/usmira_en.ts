@@ -2901,6 +2901,14 @@ A workshop for writing gamebooks.</translation>
         <source>Fichiers RTF (*.rtf)|*.rtf</source>
         <translation>RTF files (*.rtf)|*.rtf</translation>
     </message>
+    <message>
+        <source>Chaque renvoi mène à son paragraphe, dans un traitement de texte qui suit les liens</source>
+        <translation>Every reference leads to its paragraph, in a word processor that follows links</translation>
+    </message>
+    <message>
+        <source>Liens</source>
+        <translation>Links</translation>
+    </message>
 </context>
 <context>
     <name>copiesDlog</name>

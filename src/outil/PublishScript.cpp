@@ -2,6 +2,8 @@
 #include "convert/html/HtmlCommands.h"
 #include "convert/rtf/CompileCommand.h"
 #include "outil/CommandEntry.h"
+#include "outil/Commands.h"
+#include "outil/Script.h"
 #include "store/LenientNumbers.h"
 #include "store/WorkingFiles.h"
 
@@ -40,7 +42,11 @@ QByteArray pages(CommandServices &script, const QStringList &arguments)
 
 QByteArray compilerRtf(CommandServices &script, const QStringList &arguments)
 {
-    compileToRtf(script.exports, exportRequest(arguments), defaultNumberStyle(script.variables));
+    const QString word = arguments.value(3);
+    if (!word.isEmpty() && word != QStringLiteral("liens"))
+        throw UsageError(Commands::tr("liens attendu : %1").arg(word));
+    compileToRtf(script.exports, exportRequest(arguments), defaultNumberStyle(script.variables),
+                 word.isEmpty() ? RtfLinks::Without : RtfLinks::With);
     return {};
 }
 } // namespace
@@ -52,7 +58,7 @@ std::vector<CommandEntry> publishEntries()
          QT_TRANSLATE_NOOP("Commands", "publie en un seul fichier HTML"), true, &html},
         {"pages", "BAS HAUT DOSSIER [PREFIXE]",
          QT_TRANSLATE_NOOP("Commands", "publie une page HTML par paragraphe"), true, &pages},
-        {"compiler-rtf", "BAS HAUT FICHIER",
+        {"compiler-rtf", "BAS HAUT FICHIER [liens]",
          QT_TRANSLATE_NOOP("Commands", "réunit les paragraphes de BAS à HAUT en un document RTF"),
          true, &compilerRtf},
     };

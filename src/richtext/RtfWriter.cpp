@@ -86,13 +86,18 @@ class RtfStream::Writer
 public:
     explicit Writer(const QFont &base) : m_base(base) { m_colours.of(qRgb(0, 0, 0)); }
 
+    void setMarks(const QList<RtfMark> &marks) { m_marks = marks; }
     void writeBlocks(const QTextDocument &document, int from, int to);
     QByteArray takeBody() { return std::exchange(m_body, QByteArray()); }
     QByteArray header() const;
 
 private:
     void writeBlock(const QTextBlock &block, int from, int to);
+    void writeFragment(const QTextFragment &fragment, int from, int to);
     void startParagraph(const ParagraphState &state);
+    void openMark(int position);
+    void closeMark(int position);
+    int nextEdge(int position, int end) const;
     void writeText(const QString &text, const CharState &state);
     void writeCharState(const CharState &state);
 
@@ -101,8 +106,12 @@ private:
     Numbering<QString> m_fonts;
     Numbering<QRgb> m_colours;
     bool m_anyBullet = false;
+    bool m_anyLink = false;
+    bool m_inLink = false;
     std::optional<ParagraphState> m_paragraph;
-    std::optional<CharState> m_chars; // in force at this place, empty when none was written
+    std::optional<CharState> m_chars;        // in force at this place, empty when none was written
+    QList<RtfMark> m_marks;                  // still to come
+    std::optional<CharState> m_charsOutside; // of the link that is open
 };
 
 void RtfStream::Writer::writeBlocks(const QTextDocument &document, int from, int to)
@@ -135,9 +144,58 @@ void RtfStream::Writer::writeBlock(const QTextBlock &block, int from, int to)
         const int start = std::max(from, fragment.position());
         const int end = std::min(to, fragment.position() + fragment.length());
         if (start < end)
-            writeText(fragment.text().mid(start - fragment.position(), end - start),
-                      CharState::of(fragment.charFormat(), m_base));
+            writeFragment(fragment, start, end);
     }
+}
+
+void RtfStream::Writer::writeFragment(const QTextFragment &fragment, int from, int to)
+{
+    const QString text = fragment.text();
+    const CharState chars = CharState::of(fragment.charFormat(), m_base);
+    for (int at = from; at < to;) {
+        openMark(at);
+        const int edge = nextEdge(at, to);
+        writeText(text.mid(at - fragment.position(), edge - at), chars);
+        closeMark(edge);
+        at = edge;
+    }
+}
+
+void RtfStream::Writer::openMark(int position)
+{
+    if (m_marks.isEmpty() || m_marks.first().from != position)
+        return;
+    const RtfMark &mark = m_marks.first();
+    if (mark.kind == RtfMark::Kind::Bookmark)
+        return;
+    m_charsOutside = m_chars;
+    m_body += "{\\field{\\*\\fldinst{HYPERLINK \\\\l \"" + mark.name + "\"}}{\\fldrslt\\cs1 ";
+    m_inLink = true;
+    m_anyLink = true;
+}
+
+// A bookmark stands behind its characters: LibreOffice loses one that begins where the document
+// does.
+void RtfStream::Writer::closeMark(int position)
+{
+    if (m_marks.isEmpty() || m_marks.first().to != position)
+        return;
+    const RtfMark mark = m_marks.takeFirst();
+    if (mark.kind == RtfMark::Kind::Bookmark) {
+        m_body += "{\\*\\bkmkstart " + mark.name + "}{\\*\\bkmkend " + mark.name + '}';
+        return;
+    }
+    m_body += "}}";
+    m_inLink = false;
+    m_chars = m_charsOutside;
+}
+
+int RtfStream::Writer::nextEdge(int position, int end) const
+{
+    if (m_marks.isEmpty())
+        return end;
+    const RtfMark &mark = m_marks.first();
+    return std::min(end, position < mark.from ? mark.from : mark.to);
 }
 
 void RtfStream::Writer::startParagraph(const ParagraphState &state)
@@ -179,6 +237,8 @@ void RtfStream::Writer::writeCharState(const CharState &state)
     m_chars = state;
     m_body += "\\plain\\f" + number(m_fonts.of(state.family));
     m_body += "\\fs" + number(state.halfPoints);
+    if (m_inLink)
+        m_body += "\\cs1";
     if (state.colour)
         m_body += "\\cf" + number(m_colours.of(*state.colour));
     if (state.bold)
@@ -202,6 +262,9 @@ QByteArray RtfStream::Writer::header() const
         header += "\\red" + number(qRed(colour)) + "\\green" + number(qGreen(colour)) + "\\blue" +
                   number(qBlue(colour)) + ";";
     header += "}\r\n";
+    // Links look like the text around them; without a style LibreOffice leaves them out of a PDF.
+    if (m_anyLink)
+        header += "{\\stylesheet{\\s0 Normal;}{\\*\\cs1\\additive Hyperlink;}}\r\n";
     if (m_anyBullet)
         header += "{\\*\\listtable{\\list\\listtemplateid1\\listsimple1{\\listlevel\\levelnfc23"
                   "\\leveljc0\\levelfollow0\\levelstartat1{\\leveltext\\'01\\'95;}{\\levelnumbers;}"
@@ -214,8 +277,9 @@ RtfStream::RtfStream(const QFont &base) : m_writer(std::make_unique<Writer>(base
 
 RtfStream::~RtfStream() = default;
 
-QByteArray RtfStream::paragraphs(const QTextDocument &part)
+QByteArray RtfStream::paragraphs(const QTextDocument &part, const QList<RtfMark> &marks)
 {
+    m_writer->setMarks(marks);
     m_writer->writeBlocks(part, 0, part.lastBlock().position() - 1);
     return m_writer->takeBody();
 }

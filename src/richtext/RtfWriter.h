@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <memory>
 
 class QFont;
@@ -25,6 +26,16 @@ QByteArray writeRtf(const QTextDocument &document, const QFont &base, int from, 
 // The bytes of a text of one formatting within what writeRtf gives, without the formatting.
 qint64 writtenSize(const QString &text);
 
+// A place of a document that other programs are to know: where a link leads, or a link. Neither is
+// empty or goes over the end of a paragraph. The name is of letters and digits.
+struct RtfMark {
+    enum class Kind { Bookmark, Link };
+    Kind kind;
+    int from; // document positions
+    int to;
+    QByteArray name; // of the bookmark
+};
+
 // Writes one document as the parts of it come, for texts that are larger than a document should be.
 // Put together, header() and all that the other calls gave are what writeRtf would give.
 class RtfStream
@@ -36,7 +47,8 @@ public:
     RtfStream &operator=(const RtfStream &) = delete;
 
     // The paragraphs of a part that are whole: the text goes on in its last one. At least two.
-    QByteArray paragraphs(const QTextDocument &part);
+    // Its marks are ascending and apart from one another.
+    QByteArray paragraphs(const QTextDocument &part, const QList<RtfMark> &marks = {});
     // The last paragraph of the last part, or what stands between two positions of it, and the end.
     QByteArray end(const QTextDocument &part);
     QByteArray end(const QTextDocument &part, int from, int to);

@@ -2,6 +2,7 @@
 #include "outil/HeadlessView.h"
 #include "platform/OpenedFile.h"
 #include "store/AdventureFile.h"
+#include "store/ReferenceIndex.h"
 #include "support/AdventureBuilder.h"
 #include "support/PromptRecorder.h"
 #include "support/TestTable.h"
@@ -93,6 +94,36 @@ private Q_SLOTS:
                  "\\par \\pard \\f0\\plain\\f2\\fs24 \r\n"
                  "\\par \r\n"
                  "\\par }");
+    }
+
+    // 7 is in the document, 20 is not, and nobody has written 83.
+    void referencesBecomeLinks()
+    {
+        Scene scene;
+        scene.open(
+            AdventureBuilder({"7: x", "12: fin", "20: fin"})
+                .rawText(7, "{\\rtf1 x au {\\b 1}2, au 20, au 83\\par\\pard\\qc{\\i  au 7}!}"));
+        RebuildReferenceIndex(scene.v, [](int, int) {});
+        QVERIFY(compileToRtf({scene.v, scene.prompts, scene.view},
+                             {7, 12, scene.adventure.path("livre.rtf")}, Plain, RtfLinks::With));
+        const QByteArray document = scene.document();
+        QCOMPARE(document.sliced(document.indexOf("\\deflang")),
+                 "\\deflang1036\\pard \\f0\\plain\\f0\\fs24 7{\\*\\bkmkstart P0007}"
+                 "{\\*\\bkmkend P0007}\r\n"
+                 "\\par x au {\\field{\\*\\fldinst{HYPERLINK \\\\l \"P0012\"}}{\\fldrslt\\cs1 "
+                 "\\f0\\plain\\f0\\fs24\\cs1\\b 1\\f0\\plain\\f0\\fs24\\cs1 2}}, au 20, au 83\r\n"
+                 "\\par \\pard\\qc \\f0\\plain\\f0\\fs24\\i  au {\\field{\\*\\fldinst{HYPERLINK "
+                 "\\\\l \"P0007\"}}{\\fldrslt\\cs1 7}}\\f0\\plain\\f0\\fs24 !\r\n"
+                 "\\par \\pard \\f0\\plain\\f0\\fs24 \r\n"
+                 "\\par 12{\\*\\bkmkstart P0012}{\\*\\bkmkend P0012}\r\n"
+                 "\\par fin\r\n\\par \r\n\\par \r\n\\par }");
+        HiddenBox linked;
+        linked.setRtf(document);
+        QVERIFY(scene.compile(7, 12, Plain, "livre.rtf"));
+        HiddenBox plain;
+        plain.setRtf(scene.document());
+        QCOMPARE(linked.rtf(), plain.rtf());
+        QVERIFY(!scene.document().contains("P0007"));
     }
 
     void theRangeIsLenient_data()

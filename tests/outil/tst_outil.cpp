@@ -438,6 +438,9 @@ uniformiser - 1639
             {QStringLiteral("ouvrir @"), QStringLiteral("html 1 9 /nowhere/a.htm")}, 1, QString());
         row("word of a book", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e titre=")},
             2, QStringLiteral("titre=..., auteur=... ou date=... attendu : titre="));
+        row("word of a compilation",
+            {QStringLiteral("ouvrir @"), QStringLiteral("compiler-rtf 1 9 @.e lien")}, 2,
+            QStringLiteral("liens attendu : lien"));
         row("date", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e date=hier")}, 2,
             QStringLiteral("date=AAAA-MM-JJ attendu : hier"));
         row("nothing in the range", {QStringLiteral("ouvrir @"), QStringLiteral("epub 5 9 @.e")}, 1,

@@ -4,6 +4,7 @@
 #include "richtext/RtfReader.h"
 #include "store/ExportTarget.h"
 #include "store/ParagraphTexts.h"
+#include "store/ReferenceIndex.h"
 #include "store/Variables.h"
 #include "store/references/ReferenceMarks.h"
 
@@ -192,17 +193,35 @@ QString bookLine(const BookFacts &facts)
                : QCoreApplication::translate("Book", "%1, par %2").arg(facts.title, facts.author);
 }
 
+QList<int> emptyTargets(const Variables &variables, const ExportRange &range)
+{
+    QList<int> targets;
+    forEachWritten(
+        variables, range, [](int, int) {},
+        [&](int n) {
+            for (const int target : referredParagraphs(variables.refIndex.at(n)))
+                if (target != 0 && variables.Written.at(target) == 0)
+                    targets.append(target);
+        });
+    return targets;
+}
+
 QString emptyTargetsSentence(const Book &book)
 {
-    if (book.emptyTargets.isEmpty())
+    return emptyTargetsSentence(book.emptyTargets);
+}
+
+QString emptyTargetsSentence(const QList<int> &targets)
+{
+    if (targets.isEmpty())
         return {};
-    QList<int> numbers = book.emptyTargets;
+    QList<int> numbers = targets;
     std::sort(numbers.begin(), numbers.end());
     numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
     QStringList list;
     for (const int n : numbers)
         list.append(QString::number(n));
-    const auto references = static_cast<int>(book.emptyTargets.size());
+    const auto references = static_cast<int>(targets.size());
     const QString one = QCoreApplication::translate(
         "Book", "%n renvoi(s) mène(nt) à un paragraphe vide : %1.", nullptr, references);
     const QString more = QCoreApplication::translate(

@@ -60,5 +60,9 @@ BookFacts bookFacts(const Variables &variables);
 // "La Tour, par A. Morel", for the dialogs.
 QString bookLine(const BookFacts &facts);
 
+// Where references of the range to unwritten paragraphs lead, a number for each.
+QList<int> emptyTargets(const Variables &variables, const ExportRange &range);
+
 // "2 renvois mènent à des paragraphes vides : 83, 90."; empty where there are none.
+QString emptyTargetsSentence(const QList<int> &targets);
 QString emptyTargetsSentence(const Book &book);

@@ -1,16 +1,32 @@
 #include "convert/rtf/CompileCommand.h"
 
-bool compileToRtf(const ExportCommand &command, const ExportRequest &request,
-                  const NumberStyle &style)
+#include "convert/book/Book.h"
+
+namespace
 {
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("CompileCommand", text);
+}
+} // namespace
+
+bool compileToRtf(const ExportCommand &command, const ExportRequest &request,
+                  const NumberStyle &style, RtfLinks links)
+{
+    const Variables &variables = command.variables();
     const auto write = [&](const ExportRange &range, const Progress &progress) {
-        return compileRtf(command.variables(), range, style, request.place, progress);
+        return compileRtf(variables, range, style, links, request.place, progress);
+    };
+    const auto remark = [&] {
+        return links == RtfLinks::With ? emptyTargetsSentence(emptyTargets(
+                                             variables, exportRange(request.first, request.second)))
+                                       : QString();
     };
     return command.mayReplace(request.place) &&
-           command.run(request, {QCoreApplication::translate(
-                                     "CompileCommand", "Conversion en Cours Veuillez Attendre"),
+           command.run(request, {translated(QT_TRANSLATE_NOOP(
+                                     "CompileCommand", "Conversion en Cours Veuillez Attendre")),
                                  write,
-                                 QCoreApplication::translate(
-                                     "CompileCommand", "Erreur d'enregistrement du fichier")});
+                                 translated(QT_TRANSLATE_NOOP(
+                                     "CompileCommand", "Erreur d'enregistrement du fichier")),
+                                 remark});
 }
-#include <QCoreApplication>

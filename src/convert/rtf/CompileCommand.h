@@ -5,4 +5,4 @@
 
 // Compiles paragraphs into an RTF document as a command.
 bool compileToRtf(const ExportCommand &command, const ExportRequest &request,
-                  const NumberStyle &style);
+                  const NumberStyle &style, RtfLinks links = RtfLinks::Without);

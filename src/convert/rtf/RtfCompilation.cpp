@@ -6,7 +6,9 @@
 #include "richtext/HiddenBox.h"
 #include "richtext/RtfWriter.h"
 #include "store/ParagraphTexts.h"
+#include "store/references/ReferenceMarks.h"
 
+#include <QTextBlock>
 #include <limits>
 
 namespace
@@ -16,15 +18,17 @@ namespace
 class Compilation
 {
 public:
-    Compilation(const Variables &variables, const NumberStyle &style, const QString &path)
-        : m_variables(variables), m_style(style), m_file(path, Durability::Full, Links::Follow),
-          m_body(path), m_stream(m_part.baseFont())
+    Compilation(const Variables &variables, const NumberStyle &style, RtfLinks links,
+                const QString &path)
+        : m_variables(variables), m_style(style), m_links(links),
+          m_file(path, Durability::Full, Links::Follow), m_body(path), m_stream(m_part.baseFont())
     {
         m_part.setLimit(std::numeric_limits<qint64>::max()); // a text of any size, and its number
     }
 
     int run(const ExportRange &range, const Progress &progress)
     {
+        m_range = range;
         const int written =
             forEachWritten(m_variables, range, progress, [this](int n) { append(n); });
         if (!m_unreadable.isEmpty())
@@ -50,8 +54,34 @@ private:
             return;
         }
         appendEmptyLine();
-        write(m_stream.paragraphs(*m_part.document()));
+        write(m_stream.paragraphs(*m_part.document(),
+                                  m_links == RtfLinks::With ? marks(n) : QList<RtfMark>()));
     }
+
+    // The first line is the number.
+    QList<RtfMark> marks(int n) const
+    {
+        QTextBlock block = m_part.document()->firstBlock();
+        QList<RtfMark> found{{RtfMark::Kind::Bookmark, 0, block.length() - 1, bookmark(n)}};
+        for (block = block.next(); block.isValid(); block = block.next()) {
+            LineReferences references;
+            references.read(block.text(), {}, m_variables.TargetPhrase);
+            for (const ReferenceMark &mark : references.marks())
+                if (isInDocument(mark.read))
+                    found.append({RtfMark::Kind::Link,
+                                  block.position() + static_cast<int>(mark.digits),
+                                  block.position() + static_cast<int>(mark.position + mark.length),
+                                  bookmark(mark.read)});
+        }
+        return found;
+    }
+
+    bool isInDocument(int n) const
+    {
+        return n > 0 && n >= m_range.low && n <= m_range.high && m_variables.Written.at(n) == 1;
+    }
+
+    static QByteArray bookmark(int n) { return "P" + fourDigits(n).toLatin1(); }
 
     // Other programs are to read this. One of them, AbiWord 3, forgets the format of the characters
     // in front of "plain" unless another attribute stands between.
@@ -91,6 +121,8 @@ private:
 
     const Variables &m_variables;
     const NumberStyle &m_style;
+    RtfLinks m_links;
+    ExportRange m_range{0, 0};
     SafeFile m_file;
     ScratchFile m_body;
     HiddenBox m_part;
@@ -110,7 +142,7 @@ NumberStyle defaultNumberStyle(const Variables &variables)
 }
 
 int compileRtf(const Variables &variables, const ExportRange &range, const NumberStyle &style,
-               const QString &path, const Progress &progress)
+               RtfLinks links, const QString &path, const Progress &progress)
 {
-    return Compilation(variables, style, path).run(range, progress);
+    return Compilation(variables, style, links, path).run(range, progress);
 }

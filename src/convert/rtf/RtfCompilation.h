@@ -17,6 +17,10 @@ struct NumberStyle {
     bool centred;
 };
 
+// Whether the numbers are bookmarks, and the references to paragraphs of the document links to
+// them.
+enum class RtfLinks { Without, With };
+
 // The style where nobody has chosen one: the author's font and size, bold and centred.
 NumberStyle defaultNumberStyle(const Variables &variables);
 
@@ -29,4 +33,4 @@ NumberStyle defaultNumberStyle(const Variables &variables);
 // adventure's own files. Throws UnreadableTexts with every text that cannot be read, or FileError
 // (Write), and the old file stays. Gives the number of paragraphs written.
 int compileRtf(const Variables &variables, const ExportRange &range, const NumberStyle &style,
-               const QString &path, const Progress &progress);
+               RtfLinks links, const QString &path, const Progress &progress);

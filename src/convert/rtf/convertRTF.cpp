@@ -75,7 +75,8 @@ void convertRTF::OKButton_Click()
     repaint();
     WorkInDialog work(m_report, *m_ui->barWork);
     const bool done =
-        compileToRtf({m_variables, m_prompts, work}, {low, high, path}, chosenStyle());
+        compileToRtf({m_variables, m_prompts, work}, {low, high, path}, chosenStyle(),
+                     m_ui->chkLinks->isChecked() ? RtfLinks::With : RtfLinks::Without);
     m_ui->waitLabel->hide();
     if (done)
         accept();
