@@ -8,6 +8,7 @@
 #include "GraphFigures.h"
 #include "HistoryFigures.h"
 #include "MergeFigures.h"
+#include "PdfFigures.h"
 #include "ReadingFigures.h"
 #include "ReferenceFigures.h"
 #include "RenumberFigures.h"
@@ -37,6 +38,7 @@ int main(int argc, char *argv[])
     const QString path = folder.filePath(QStringLiteral("Grande Aventure.usm"));
     BigAdventure::make(path);
     printCompilationFigures(path, folder.path());
+    printPdfFigures(path, folder.path());
     printRenumberFigures(path, folder.path());
     printHistoryFigures(path, folder.path());
     printMergeFigures(path, folder.path());

@@ -261,6 +261,13 @@
     </message>
 </context>
 <context>
+    <name>BookFonts</name>
+    <message>
+        <source>La police « %1 » manque : « %2 » la remplace.</source>
+        <translation>The font “%1” is missing: “%2” stands for it.</translation>
+    </message>
+</context>
+<context>
     <name>BookLayout</name>
     <message>
         <source>Départ</source>
@@ -269,6 +276,13 @@
     <message>
         <source>Hors d&apos;atteinte depuis le %1</source>
         <translation>Out of reach from %1</translation>
+    </message>
+</context>
+<context>
+    <name>BookTypesetter</name>
+    <message>
+        <source>Les mots ne sont pas coupés : le dictionnaire de césures manque (%1).</source>
+        <translation>Words are not parted: the hyphenation dictionary is missing (%1).</translation>
     </message>
 </context>
 <context>
@@ -1525,6 +1539,41 @@ A workshop for writing gamebooks.</translation>
     </message>
 </context>
 <context>
+    <name>PageSetup</name>
+    <message>
+        <source>Le papier doit avoir de %1 à %2 mm de côté.</source>
+        <translation>The sides of the paper must be %1 to %2 mm.</translation>
+    </message>
+    <message>
+        <source>Les marges doivent avoir de 0 à %1 mm.</source>
+        <translation>Margins must be 0 to %1 mm.</translation>
+    </message>
+    <message>
+        <source>Les marges intérieure et extérieure ne laissent pas %1 mm au texte sur un papier large de %2 mm.</source>
+        <translation>The inside and outside margins do not leave %1 mm for the text on paper %2 mm wide.</translation>
+    </message>
+    <message>
+        <source>Les marges de tête et de pied ne laissent pas %1 mm au texte sur un papier haut de %2 mm.</source>
+        <translation>The top and bottom margins do not leave %1 mm for the text on paper %2 mm high.</translation>
+    </message>
+    <message>
+        <source>Les caractères doivent avoir de %1 à %2 points.</source>
+        <translation>Type must be %1 to %2 points.</translation>
+    </message>
+    <message>
+        <source>L&apos;interligne doit avoir de %1 à %2 points pour des caractères de %3 points.</source>
+        <translation>The leading must be %1 to %2 points for type of %3 points.</translation>
+    </message>
+    <message>
+        <source>Le titre courant demande une marge de tête de %1 mm au moins.</source>
+        <translation>The running head asks for a top margin of at least %1 mm.</translation>
+    </message>
+    <message>
+        <source>Les numéros de page demandent une marge de pied de %1 mm au moins.</source>
+        <translation>The page numbers ask for a bottom margin of at least %1 mm.</translation>
+    </message>
+</context>
+<context>
     <name>ParagraphPage</name>
     <message>
         <source>Vide</source>
@@ -1560,6 +1609,13 @@ A workshop for writing gamebooks.</translation>
     <message>
         <source>Fixe</source>
         <translation>Fixed</translation>
+    </message>
+</context>
+<context>
+    <name>PdfCommand</name>
+    <message>
+        <source>Mise en pages...</source>
+        <translation>Setting the pages...</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,9 @@
 #include "convert/epub/EpubCommand.h"
 #include "convert/epub/ZipArchive.h"
+#ifndef Q_OS_WIN
+#include "convert/pdf/PageWords.h"
+#include "convert/pdf/PdfCommand.h"
+#endif
 #include "outil/CommandEntry.h"
 #include "outil/Commands.h"
 #include "outil/Script.h"
@@ -51,6 +55,41 @@ QByteArray epub(CommandServices &script, const QStringList &arguments)
     exportToEpub(script.exports, exportRequest(arguments), choiceOf(script, arguments.mid(3)));
     return {};
 }
+
+#ifndef Q_OS_WIN
+// Title and author count for this file alone, the other words are those of a page setup.
+PdfChoice pdfChoiceOf(const CommandServices &script, const QStringList &words)
+{
+    PdfChoice choice{bookFacts(script.variables), defaultPageSetup(script.variables)};
+    QStringList pageWords;
+    for (const QString &word : words) {
+        if (const auto title = valueOf(word, QStringLiteral("titre")); title && !title->isEmpty())
+            choice.facts.title = *title;
+        else if (const auto author = valueOf(word, QStringLiteral("auteur")))
+            choice.facts.author = *author;
+        else
+            pageWords.append(word);
+    }
+    const QString wrong = setPageWords(choice.setup, pageWords);
+    if (!wrong.isEmpty())
+        throw UsageError(Commands::tr("mise en pages inconnue : %1").arg(wrong));
+    return choice;
+}
+
+QByteArray pdf(CommandServices &script, const QStringList &arguments)
+{
+    const PdfChoice choice = pdfChoiceOf(script, arguments.mid(3));
+    const QString fault = pageSetupFault(choice.setup);
+    if (!fault.isEmpty()) {
+        script.prompts.message(fault, Commands::tr("Zut"), Prompts::Buttons::Ok);
+        return {};
+    }
+    const auto remark = exportToPdf(script.exports, exportRequest(arguments), choice);
+    if (remark && !remark->isEmpty())
+        script.prompts.notice(*remark, Commands::tr("Livre"));
+    return {};
+}
+#endif
 } // namespace
 
 std::vector<CommandEntry> bookEntries()
@@ -60,5 +99,11 @@ std::vector<CommandEntry> bookEntries()
         entries.push_back({"epub", "BAS HAUT FICHIER [titre=TITRE] [auteur=AUTEUR] [date=DATE]",
                            QT_TRANSLATE_NOOP("Commands", "publie un livre numérique (EPUB)"), true,
                            &epub});
+#ifndef Q_OS_WIN
+    entries.push_back(
+        {"pdf", "BAS HAUT FICHIER [papier=A5] [police=NOM] [taille=POINTS] [NOM=VALEUR...]",
+         QT_TRANSLATE_NOOP("Commands", "met un livre en pages, prêt à imprimer (PDF)"), true,
+         &pdf});
+#endif
     return entries;
 }

@@ -75,6 +75,8 @@ const QList<Operation> &operations()
                   {QStringLiteral("out/o.rtf")}),
         exporting(QStringLiteral("epub"), QStringLiteral("epub 1 9 @/out/o.epub date=2026-11-22"),
                   {QStringLiteral("out/o.epub")}),
+        exporting(QStringLiteral("pdf"), QStringLiteral("pdf 1 9 @/out/o.pdf"),
+                  {QStringLiteral("out/o.pdf")}),
     };
     return all;
 }
@@ -97,5 +99,6 @@ QList<std::pair<QString, QByteArray>> preparedFiles()
             {old + QStringLiteral("o.htm"), "avant"},
             {old + QStringLiteral("x-0003.htm"), "avant"},
             {old + QStringLiteral("o.rtf"), "avant"},
-            {old + QStringLiteral("o.epub"), "avant"}};
+            {old + QStringLiteral("o.epub"), "avant"},
+            {old + QStringLiteral("o.pdf"), "avant"}};
 }

@@ -9,6 +9,8 @@ struct Variables;
 
 // How the compiled document shows the number of each paragraph.
 struct NumberStyle {
+    bool operator==(const NumberStyle &) const = default;
+
     QString fontName; // an empty one leaves the font of plain text
     double points;    // outside 1..1638 it leaves the size of plain text
     bool bold;

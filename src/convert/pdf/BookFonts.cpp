@@ -1,0 +1,136 @@
+#include "convert/pdf/BookFonts.h"
+
+#include "convert/book/Book.h"
+
+#include <QCoreApplication>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QMap>
+#include <QStringList>
+#include <algorithm>
+
+namespace
+{
+constexpr double TwipsPerPoint = 20;
+constexpr double MarginShare = 0.85; // of the size of the text
+
+QFont fontInTwips(const QString &family, double points)
+{
+    QFont font;
+    if (!family.isEmpty())
+        font.setFamilies({family});
+    font.setPixelSize(std::max(1, qRound(points * TwipsPerPoint)));
+    // Whatever the resolution that the page is shown in, its lines end at the same words.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(QFont::ForceOutline);
+    return font;
+}
+
+QString usualFamily(const Book &book)
+{
+    QMap<QString, qsizetype> lengths;
+    for (const BookParagraph &paragraph : book.paragraphs)
+        for (const BookBlock &block : paragraph.blocks)
+            for (const BookRun &run : block.runs)
+                lengths[run.chars.family] += run.text.size();
+    const auto most = std::max_element(lengths.begin(), lengths.end());
+    return most == lengths.end() ? QString() : most.key();
+}
+
+QString keyOf(const CharState &chars)
+{
+    return QStringLiteral("%1/%2/%3/%4")
+        .arg(chars.family)
+        .arg(chars.halfPoints)
+        .arg(chars.bold * 8 + chars.italic * 4 + chars.underline * 2 + chars.strike)
+        .arg(chars.colour ? static_cast<qint64>(*chars.colour) : -1);
+}
+} // namespace
+
+BookFonts::BookFonts(const Book &book, const PageSetup &setup)
+    : m_setup(setup), m_usualFamily(usualFamily(book)), m_usualHalfPoints(book.halfPoints),
+      m_leading(setup.leading * TwipsPerPoint)
+{
+    const QFontMetricsF metrics(fontOf(setup.font, setup.points));
+    const double free = m_leading - metrics.ascent() - metrics.descent();
+    m_ascentShare = (free / 2 + metrics.ascent()) / m_leading;
+}
+
+CharState BookFonts::usual() const
+{
+    CharState chars;
+    chars.family = m_usualFamily;
+    chars.halfPoints = m_usualHalfPoints;
+    return chars;
+}
+
+const QTextCharFormat &BookFonts::format(const CharState &chars)
+{
+    const QString key = keyOf(chars);
+    const auto known = m_formats.constFind(key);
+    if (known != m_formats.cend())
+        return *known;
+    const bool usual = chars.family.isEmpty() || chars.family == m_usualFamily;
+    QFont font = fontOf(usual ? m_setup.font : chars.family,
+                        m_setup.points * chars.halfPoints / m_usualHalfPoints);
+    font.setBold(chars.bold);
+    font.setItalic(chars.italic);
+    QTextCharFormat format;
+    format.setFont(font);
+    format.setFontUnderline(chars.underline);
+    format.setFontStrikeOut(chars.strike);
+    const QRgb colour = m_setup.black ? qRgb(0, 0, 0) : chars.colour.value_or(qRgb(0, 0, 0));
+    format.setForeground(QColor(colour));
+    return *m_formats.insert(key, format);
+}
+
+double BookFonts::leading(int halfPoints) const
+{
+    return m_leading * halfPoints / m_usualHalfPoints;
+}
+
+double BookFonts::baseline(double height) const
+{
+    return height * m_ascentShare;
+}
+
+QFont BookFonts::text() const
+{
+    return fontInTwips(m_setup.font, m_setup.points);
+}
+
+QFont BookFonts::number()
+{
+    const NumberStyle &style = m_setup.number;
+    QFont font = fontOf(style.fontName.isEmpty() ? m_setup.font : style.fontName, style.points);
+    font.setBold(style.bold);
+    font.setItalic(style.italic);
+    font.setUnderline(style.underline);
+    return font;
+}
+
+QFont BookFonts::margin() const
+{
+    return fontInTwips(m_setup.font, m_setup.points * MarginShare);
+}
+
+QFont BookFonts::fontOf(const QString &family, double points)
+{
+    if (!family.isEmpty())
+        m_asked.insert(family);
+    return fontInTwips(family, points);
+}
+
+QString BookFonts::missingSentence() const
+{
+    QStringList asked(m_asked.cbegin(), m_asked.cend());
+    asked.sort();
+    QStringList sentences;
+    for (const QString &family : std::as_const(asked))
+        if (!QFontDatabase::hasFamily(family))
+            sentences.append(
+                QCoreApplication::translate("BookFonts",
+                                            "La police « %1 » manque : « %2 » la remplace.")
+                    .arg(family, QFontInfo(fontInTwips(family, m_setup.points)).family()));
+    return sentences.join(u' ');
+}

@@ -1,0 +1,79 @@
+#include "convert/pdf/PdfCommand.h"
+
+#include "convert/book/Book.h"
+#include "convert/pdf/BookTypesetter.h"
+#include "convert/pdf/PdfDrawing.h"
+#include "convert/pdf/PdfLinks.h"
+#include "platform/Errors.h"
+#include "store/ExportTarget.h"
+
+namespace
+{
+// Of the whole work, in hundredths, by how long its parts take.
+constexpr int Read = 25;
+constexpr int Set = 60;
+constexpr int Drawn = 90;
+constexpr int Linked = 100;
+
+// A part of the work is told as one of the whole.
+Progress part(const Progress &whole, int from, int to)
+{
+    return [&whole, from, to](int done, int total) {
+        whole(from * total + (to - from) * done, Linked * total);
+    };
+}
+
+class PdfExport
+{
+public:
+    PdfExport(const Variables &variables, const PdfChoice &choice)
+        : m_variables(variables), m_choice(choice)
+    {
+    }
+
+    int write(const ExportRange &range, const QString &path, const Progress &progress)
+    {
+        const Book book = readBook(m_variables, range, part(progress, 0, Read));
+        const QByteArray bytes = writing(path, [&] { return made(book, progress); });
+        writeExport(m_variables, path, bytes);
+        return static_cast<int>(book.paragraphs.size());
+    }
+
+    QString remark() const { return m_remarks.join(u' '); }
+
+private:
+    QByteArray made(const Book &book, const Progress &progress)
+    {
+        BookTypesetter typesetter(book, m_choice.facts, m_choice.setup);
+        const auto total = static_cast<int>(book.paragraphs.size());
+        for (bool more = true; more;) {
+            more = typesetter.step();
+            part(progress, Read, Set)(typesetter.done(), total);
+        }
+        const BookPages pages = typesetter.pages();
+        m_remarks = QStringList{emptyTargetsSentence(book), typesetter.remarks()};
+        m_remarks.removeAll(QString());
+        return withLinks(drawPdf(pages, part(progress, Set, Drawn)), pages, m_choice.facts,
+                         part(progress, Drawn, Linked));
+    }
+
+    const Variables &m_variables;
+    const PdfChoice &m_choice;
+    QStringList m_remarks;
+};
+} // namespace
+
+std::optional<QString> exportToPdf(const ExportCommand &command, const ExportRequest &request,
+                                   const PdfChoice &choice)
+{
+    if (!command.hasParagraphs(request) || !command.mayReplace(request.place))
+        return std::nullopt;
+    PdfExport pdf(command.variables(), choice);
+    ExportCommand::Kind kind;
+    kind.caption = QCoreApplication::translate("PdfCommand", "Mise en pages...");
+    kind.write = [&](const ExportRange &range, const Progress &progress) {
+        return pdf.write(range, request.place, progress);
+    };
+    kind.remark = [&] { return pdf.remark(); };
+    return command.run(request, kind) ? std::optional(pdf.remark()) : std::nullopt;
+}
