@@ -1539,6 +1539,13 @@ A workshop for writing gamebooks.</translation>
     </message>
 </context>
 <context>
+    <name>PageCommand</name>
+    <message>
+        <source>Page de lecture...</source>
+        <translation>Reading page...</translation>
+    </message>
+</context>
+<context>
     <name>PageSetup</name>
     <message>
         <source>Le papier doit avoir de %1 à %2 mm de côté.</source>
@@ -3533,6 +3540,10 @@ Usmira keeps one before the first save that follows each opening.</translation>
         <source>Livre &amp;Numérique (EPUB)...</source>
         <translation>&amp;E-book (EPUB)...</translation>
     </message>
+    <message>
+        <source>Pa&amp;ge de Lecture (HTML)...</source>
+        <translation>Readin&amp;g Page (HTML)...</translation>
+    </message>
 </context>
 <context>
     <name>helpWindow</name>
@@ -4001,6 +4012,14 @@ Create it?</translation>
     <message>
         <source>Créer</source>
         <translation>Create</translation>
+    </message>
+    <message>
+        <source>Enregistrer Page de Lecture</source>
+        <translation>Save Reading Page</translation>
+    </message>
+    <message>
+        <source>Fichiers HTML (*.html)|*.html</source>
+        <translation>HTML files (*.html)|*.html</translation>
     </message>
 </context>
 <context>

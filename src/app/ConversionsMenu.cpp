@@ -4,6 +4,7 @@
 #include "convert/epub/epubDlog.h"
 #include "convert/html/manyHTML.h"
 #include "convert/html/onebigHTML.h"
+#include "convert/page/pageDlog.h"
 #include "convert/rtf/convertRTF.h"
 #include "editor/CommandRunner.h"
 #include "editor/EditorView.h"
@@ -25,6 +26,7 @@ void ConversionsMenu::connectItems(const Items &items, const RtfBox &box, Comman
     runner.add(items.oneHtml, Kind::Saved, [this] { publish<onebigHTML>(); });
     runner.add(items.manyHtml, Kind::Saved, [this] { publish<manyHTML>(m_lastFolder); });
     runner.add(items.epub, Kind::Saved, [this] { publish<epubDlog>(); });
+    runner.add(items.page, Kind::Saved, [this] { publish<pageDlog>(); });
     items.epub.setVisible(ZipArchive::isAvailable());
 }
 

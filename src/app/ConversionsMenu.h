@@ -25,6 +25,7 @@ public:
         QAction &oneHtml;
         QAction &manyHtml;
         QAction &epub; // not shown where the program was built without it
+        QAction &page;
     };
     // box is the one of the view.
     void connectItems(const Items &items, const RtfBox &box, CommandRunner &runner);

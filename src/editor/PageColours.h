@@ -3,10 +3,6 @@
 #include <QColor>
 #include <QSyntaxHighlighter>
 
-// A colour in which text can be read upon a dark page: the same, or a lighter one of its hue, so
-// that the contrast is 4.5 to 1. On a light page every colour is as it was chosen.
-QColor readableColour(const QColor &colour, const QColor &page);
-
 // Paints the chosen colours of a text so that they can be read upon a dark page. It changes what is
 // painted and nothing else: neither the document nor its undo list nor what is copied or saved.
 //

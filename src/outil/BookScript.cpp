@@ -1,5 +1,6 @@
 #include "convert/epub/EpubCommand.h"
 #include "convert/epub/ZipArchive.h"
+#include "convert/page/PageCommand.h"
 #ifndef Q_OS_WIN
 #include "convert/pdf/PageWords.h"
 #include "convert/pdf/PdfCommand.h"
@@ -90,11 +91,21 @@ QByteArray pdf(CommandServices &script, const QStringList &arguments)
     return {};
 }
 #endif
+QByteArray lecture(CommandServices &script, const QStringList &arguments)
+{
+    const QString word = arguments.value(3);
+    if (!word.isEmpty() && word != QStringLiteral("fiche"))
+        throw UsageError(Commands::tr("fiche attendu : %1").arg(word));
+    exportToPage(script.exports, exportRequest(arguments), !word.isEmpty());
+    return {};
+}
 } // namespace
 
 std::vector<CommandEntry> bookEntries()
 {
-    std::vector<CommandEntry> entries;
+    std::vector<CommandEntry> entries{
+        {"lecture", "BAS HAUT FICHIER.html [fiche]",
+         QT_TRANSLATE_NOOP("Commands", "publie une page HTML pour lire le livre"), true, &lecture}};
     if (ZipArchive::isAvailable())
         entries.push_back({"epub", "BAS HAUT FICHIER [titre=TITRE] [auteur=AUTEUR] [date=DATE]",
                            QT_TRANSLATE_NOOP("Commands", "publie un livre numérique (EPUB)"), true,

@@ -226,7 +226,7 @@ private Q_SLOTS:
         bookFactsDlog facts(fixture.variables, fixture.prompts, fixture.window.get());
         facts.show();
         look(facts);
-        QVERIFY2(names.size() == 25, qPrintable(names.join(u' ')));
+        QVERIFY2(names.size() == 26, qPrintable(names.join(u' ')));
     }
 
 private:

@@ -73,7 +73,8 @@ private Q_SLOTS:
             {"menuConv1toHTML", "onebigHTML", "Cancel"},
             {"menuConvNtoHTML", "manyHTML", "Cancel"},
             {"menuConvRTF", "convertRTF", "CancelButton"},
-            {"menuConvEpub", "epubDlog", "CancelButton"}};
+            {"menuConvEpub", "epubDlog", "CancelButton"},
+            {"menuConvPage", "pageDlog", "CancelButton"}};
         for (const auto &[item, name, cancel] : cases) {
             const auto leave = [&, button = cancel](const QDialog &dialog) {
                 auto &low = child<QLineEdit>(dialog, "txtLow");
@@ -93,8 +94,8 @@ private Q_SLOTS:
     void captionsAreWholeOnASmallScreen()
     {
         const Scene scene;
-        for (const char *item :
-             {"menuConv1toHTML", "menuConvNtoHTML", "menuConvRTF", "menuConvEpub"}) {
+        for (const char *item : {"menuConv1toHTML", "menuConvNtoHTML", "menuConvRTF",
+                                 "menuConvEpub", "menuConvPage"}) {
             scene.in(item, [&](QDialog &dialog) {
                 QFont font = dialog.font();
                 font.setPointSize(12);
@@ -273,6 +274,19 @@ private Q_SLOTS:
         });
         QVERIFY(scene.adventure.content("a.epub").contains("p0012.xhtml"));
         QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.path("a.epub"));
+    }
+
+    void aPageForReadingIsWritten()
+    {
+        Scene scene;
+        scene.in("menuConvPage", [&](QDialog &dialog) {
+            scene.prompts.expectFileDialog("Enregistrer Page de Lecture", scene.path("a.html"),
+                                           "Le Loup");
+            click(dialog, "OKButton");
+            QVERIFY(!dialog.isVisible());
+        });
+        QVERIFY(scene.adventure.content("a.html").contains("id=\"die\""));
+        QCOMPARE(scene.status(), "3 paragraphes écrits : " + scene.path("a.html"));
     }
 
     void eachBoxHasItsFile_data()

@@ -77,6 +77,8 @@ const QList<Operation> &operations()
                   {QStringLiteral("out/o.epub")}),
         exporting(QStringLiteral("pdf"), QStringLiteral("pdf 1 9 @/out/o.pdf"),
                   {QStringLiteral("out/o.pdf")}),
+        exporting(QStringLiteral("lecture"), QStringLiteral("lecture 1 9 @/out/o.html fiche"),
+                  {QStringLiteral("out/o.html")}),
     };
     return all;
 }
@@ -100,5 +102,6 @@ QList<std::pair<QString, QByteArray>> preparedFiles()
             {old + QStringLiteral("x-0003.htm"), "avant"},
             {old + QStringLiteral("o.rtf"), "avant"},
             {old + QStringLiteral("o.epub"), "avant"},
-            {old + QStringLiteral("o.pdf"), "avant"}};
+            {old + QStringLiteral("o.pdf"), "avant"},
+            {old + QStringLiteral("o.html"), "avant"}};
 }

@@ -366,6 +366,7 @@ uniformiser - 1639
             AdventureBuilder({QStringLiteral("1: Va au 9"), QStringLiteral("9: Fin")}).bytes());
         const QByteArray script = "ouvrir '@a.usm'\ncompiler-rtf 2000 2 '@livre.rtf'\n"
                                   "html 1 9 '@livre.htm'\npages 5 2000 '@' L-\npages 1 1 '@'\n"
+                                  "lecture 1 9 '@livre.html'\n"
                                   "epub 1 9 '@livre.epub' date=2026-11-22 'titre=Le Loup'\n";
         const Outcome outcome = run(adventure, {}, QByteArray(script).replace('@', folder));
         QCOMPARE(outcome.errors, QString());
@@ -373,6 +374,8 @@ uniformiser - 1639
         QVERIFY(
             adventure.content(QStringLiteral("livre.htm")).contains("<A HREF=\"#P0009\">9</A>"));
         QVERIFY(adventure.content(QStringLiteral("livre.epub")).contains("OEBPS/p0001.xhtml"));
+        const QByteArray page = adventure.content(QStringLiteral("livre.html"));
+        QVERIFY(page.contains("<a href=\"#p9\">9</a>") && !page.contains("id=\"die\""));
         QVERIFY(adventure.content(QStringLiteral("L-0009.htm")).contains("Fin"));
         QVERIFY(adventure.content(QStringLiteral("L-0001.htm")).isEmpty());
         QVERIFY(adventure.content(QStringLiteral("a-0001.htm")).contains("a-0009.htm"));
@@ -448,6 +451,8 @@ uniformiser - 1639
             {QStringLiteral("ouvrir @"), QStringLiteral("pdf 1 9 @.p interieur=120")}, 1,
             QStringLiteral("Zut : Les marges intérieure et extérieure ne laissent pas 25 mm"));
 #endif
+        row("word of a page", {QStringLiteral("ouvrir @"), QStringLiteral("lecture 1 9 @.e de")}, 2,
+            QStringLiteral("fiche attendu : de"));
         row("date", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e date=hier")}, 2,
             QStringLiteral("date=AAAA-MM-JJ attendu : hier"));
         row("nothing in the range", {QStringLiteral("ouvrir @"), QStringLiteral("epub 5 9 @.e")}, 1,

@@ -57,6 +57,9 @@ bool isLanguageCode(const QString &code);
 // French where the author gave none.
 BookFacts bookFacts(const Variables &variables);
 
+// A UUID that title and author make: the same for each edition of the book.
+QString bookIdentity(const BookFacts &facts);
+
 // "La Tour, par A. Morel", for the dialogs.
 QString bookLine(const BookFacts &facts);
 

@@ -102,11 +102,12 @@ QString BookHtml::blocks(const BookParagraph &paragraph)
     return inList ? html + QStringLiteral("</ul>\n") : html;
 }
 
-QString BookHtml::colourRules(const std::function<QColor(QRgb)> &shown) const
+QString BookHtml::colourRules(const std::function<QColor(QRgb)> &shown, const QString &where) const
 {
     QString rules;
     for (const QRgb colour : m_colours)
-        rules += QStringLiteral(".k%1{color:%2}\n").arg(colourName(colour), shown(colour).name());
+        rules += QStringLiteral("%1.k%2{color:%3}\n")
+                     .arg(where, colourName(colour), shown(colour).name());
     return rules;
 }
 

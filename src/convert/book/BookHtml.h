@@ -29,8 +29,8 @@ public:
     // Those that blocks() has met.
     const std::set<QRgb> &colours() const { return m_colours; }
 
-    // ".kFF0000{color:#FF0000}", a line for each colour as it is shown.
-    QString colourRules(const std::function<QColor(QRgb)> &shown) const;
+    // ".kFF0000{color:#FF0000}", a line for each colour as it is shown, within what where selects.
+    QString colourRules(const std::function<QColor(QRgb)> &shown, const QString &where = {}) const;
 
 private:
     QString item(const BookBlock &block);

@@ -2,19 +2,8 @@
 
 #include "convert/book/XmlText.h"
 
-#include <QUuid>
-
 namespace
 {
-// Ours: what is made of it is told from what others make of the same words.
-constexpr QUuid Books(0x4c3f1c52, 0x7f0e, 0x4b7a, 0x9d, 0x61, 0x2a, 0x85, 0xe0, 0x13, 0xcb, 0x94);
-
-QString identity(const BookFacts &facts)
-{
-    const QString words = facts.title + u'\n' + facts.author;
-    return QUuid::createUuidV5(Books, words.toUtf8()).toString(QUuid::WithoutBraces);
-}
-
 QString item(const QString &id, const QString &name, const QString &kind,
              const QString &properties = {})
 {
@@ -35,7 +24,7 @@ QString metadata(const BookFacts &facts, bool hasCover, const QDateTime &modifie
         return QStringLiteral("<dc:%1>%2</dc:%1>\n").arg(name, xmlText(text));
     };
     QString xml = QStringLiteral("<dc:identifier id=\"id\">urn:uuid:%1</dc:identifier>\n")
-                      .arg(identity(facts));
+                      .arg(bookIdentity(facts));
     xml += element(QStringLiteral("title"), facts.title);
     xml += element(QStringLiteral("language"), facts.language);
     if (!facts.author.isEmpty())

@@ -1,8 +1,8 @@
 #include "views/reading/ReadingPage.h"
 
-#include "editor/PageColours.h"
 #include "editor/TextPlace.h"
 #include "platform/Errors.h"
+#include "richtext/ReadableColour.h"
 #include "richtext/TextPositions.h"
 
 #include <QAbstractTextDocumentLayout>

@@ -1,0 +1,58 @@
+#include "convert/page/pageDlog.h"
+
+#include "convert/book/Book.h"
+#include "convert/book/bookFactsDlog.h"
+#include "convert/page/PageCommand.h"
+#include "platform/Guarded.h"
+#include "store/ExportTarget.h"
+#include "store/LenientNumbers.h"
+#include "store/Variables.h"
+#include "ui_pageDlog.h"
+#include "widgets/WorkInDialog.h"
+
+pageDlog::pageDlog(Variables &variables, Prompts &prompts, WorkReport &report, QWidget *parent)
+    : NumberDialog(prompts, Enter::Confirms, parent), m_variables(variables), m_prompts(prompts),
+      m_report(report), m_ui(std::make_unique<Ui::pageDlog>())
+{
+    m_ui->setupUi(this);
+    connectForm(*m_ui->CancelButton, *m_ui->txtLow);
+    connectGuarded(m_ui->btnBook, &QPushButton::clicked, this, prompts,
+                   [this] { btnBook_Click(); });
+    connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
+                   [this] { OKButton_Click(); });
+    Form_Load();
+}
+
+pageDlog::~pageDlog() = default;
+
+void pageDlog::Form_Load()
+{
+    fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
+    showTitle();
+}
+
+void pageDlog::OKButton_Click()
+{
+    const double low = lenientNumber(m_ui->txtLow->text());
+    const double high = lenientNumber(m_ui->txtHigh->text());
+    const QString path =
+        m_prompts.saveName(tr("Enregistrer Page de Lecture"), tr("Fichiers HTML (*.html)|*.html"),
+                           QStringLiteral("html"), proposedName(m_variables));
+    if (path.isEmpty())
+        return;
+    WorkInDialog work(m_report, *m_ui->barWork);
+    if (exportToPage({m_variables, m_prompts, work}, {low, high, path},
+                     m_ui->chkSheet->isChecked()))
+        accept();
+}
+
+void pageDlog::btnBook_Click()
+{
+    bookFactsDlog(m_variables, m_prompts, this).exec();
+    showTitle();
+}
+
+void pageDlog::showTitle()
+{
+    m_ui->lblBook->setText(bookLine(bookFacts(m_variables)));
+}
