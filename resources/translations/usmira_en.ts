@@ -279,6 +279,28 @@
     </message>
 </context>
 <context>
+    <name>BookPreview</name>
+    <message>
+        <source>Page %1 de %2</source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message>
+        <source>Pages %1 et %2 de %3</source>
+        <translation>Pages %1 and %2 of %3</translation>
+    </message>
+</context>
+<context>
+    <name>BookPrinting</name>
+    <message>
+        <source>Impression...</source>
+        <translation>Printing...</translation>
+    </message>
+    <message>
+        <source>L&apos;imprimante n&apos;a pas pu tout imprimer.</source>
+        <translation>The printer could not print everything.</translation>
+    </message>
+</context>
+<context>
     <name>BookTypesetter</name>
     <message>
         <source>Les mots ne sont pas coupés : le dictionnaire de césures manque (%1).</source>
@@ -1578,6 +1600,157 @@ A workshop for writing gamebooks.</translation>
     <message>
         <source>Les numéros de page demandent une marge de pied de %1 mm au moins.</source>
         <translation>The page numbers ask for a bottom margin of at least %1 mm.</translation>
+    </message>
+</context>
+<context>
+    <name>PageSetupPanel</name>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Papier</source>
+        <translation>Paper</translation>
+    </message>
+    <message>
+        <source>6 x 9 pouces</source>
+        <translation>6 x 9 inches</translation>
+    </message>
+    <message>
+        <source>14 x 21 cm</source>
+        <translation>14 x 21 cm</translation>
+    </message>
+    <message>
+        <source>Autres mesures</source>
+        <translation>Other measures</translation>
+    </message>
+    <message>
+        <source>Largeur du papier</source>
+        <translation>Width of the paper</translation>
+    </message>
+    <message>
+        <source>Hauteur du papier</source>
+        <translation>Height of the paper</translation>
+    </message>
+    <message>
+        <source>Marges en millimètres :</source>
+        <translation>Margins in millimetres:</translation>
+    </message>
+    <message>
+        <source>Intérieure</source>
+        <translation>Inside</translation>
+    </message>
+    <message>
+        <source>Extérieure</source>
+        <translation>Outside</translation>
+    </message>
+    <message>
+        <source>Tête</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Pied</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>Recto verso</source>
+        <translation>Two sides</translation>
+    </message>
+    <message>
+        <source>Une page par paragraphe</source>
+        <translation>A page for each paragraph</translation>
+    </message>
+    <message>
+        <source>Texte</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Police</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Taille</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Interligne</source>
+        <translation>Leading</translation>
+    </message>
+    <message>
+        <source>Justifié</source>
+        <translation>Justified</translation>
+    </message>
+    <message>
+        <source>Mots coupés en fin de ligne</source>
+        <translation>Words parted at line ends</translation>
+    </message>
+    <message>
+        <source>Tout en noir</source>
+        <translation>All in black</translation>
+    </message>
+    <message>
+        <source>Titre courant</source>
+        <translation>Running head</translation>
+    </message>
+    <message>
+        <source>Aucun</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Numéros de la page</source>
+        <translation>Numbers on the page</translation>
+    </message>
+    <message>
+        <source>Titre du livre</source>
+        <translation>Title of the book</translation>
+    </message>
+    <message>
+        <source>Numéros de page</source>
+        <translation>Page numbers</translation>
+    </message>
+    <message>
+        <source>Numéros</source>
+        <translation>Numbers</translation>
+    </message>
+    <message>
+        <source>Police des numéros</source>
+        <translation>Font of the numbers</translation>
+    </message>
+    <message>
+        <source>Police du texte</source>
+        <translation>Font of the text</translation>
+    </message>
+    <message>
+        <source>Gras</source>
+        <translation>Bold</translation>
+    </message>
+    <message>
+        <source>Italiques</source>
+        <translation>Italic</translation>
+    </message>
+    <message>
+        <source>Soulignés</source>
+        <translation>Underlined</translation>
+    </message>
+    <message>
+        <source>Centrés</source>
+        <translation>Centred</translation>
+    </message>
+    <message>
+        <source>Renvois</source>
+        <translation>References</translation>
+    </message>
+    <message>
+        <source>Tels quels</source>
+        <translation>As written</translation>
+    </message>
+    <message>
+        <source>En gras</source>
+        <translation>Bold</translation>
+    </message>
+    <message>
+        <source>Avec une flèche</source>
+        <translation>With an arrow</translation>
     </message>
 </context>
 <context>
@@ -2887,6 +3060,73 @@ A workshop for writing gamebooks.</translation>
     </message>
 </context>
 <context>
+    <name>bookPdfDlog</name>
+    <message>
+        <source>Livre Imprimable</source>
+        <translation>Printed Book</translation>
+    </message>
+    <message>
+        <source>Mettre en pages les paragraphes</source>
+        <translation>Set in pages the paragraphs</translation>
+    </message>
+    <message>
+        <source>Premier paragraphe</source>
+        <translation>First paragraph</translation>
+    </message>
+    <message>
+        <source>à</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>Dernier paragraphe</source>
+        <translation>Last paragraph</translation>
+    </message>
+    <message>
+        <source>Le &amp;Livre...</source>
+        <translation>The &amp;Book...</translation>
+    </message>
+    <message>
+        <source>Aperçu de deux pages</source>
+        <translation>Preview of two pages</translation>
+    </message>
+    <message>
+        <source>Pages précédentes (Page préc.)</source>
+        <translation>Pages before (Page Up)</translation>
+    </message>
+    <message>
+        <source>Pages suivantes (Page suiv.)</source>
+        <translation>Next pages (Page Down)</translation>
+    </message>
+    <message>
+        <source>Avancement du travail</source>
+        <translation>Progress of the work</translation>
+    </message>
+    <message>
+        <source>Annuler</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;Imprimer...</source>
+        <translation>&amp;Print...</translation>
+    </message>
+    <message>
+        <source>Créer le PDF...</source>
+        <translation>Create the PDF...</translation>
+    </message>
+    <message>
+        <source>Enregistrer Livre Imprimable</source>
+        <translation>Save Printed Book</translation>
+    </message>
+    <message>
+        <source>Fichiers PDF (*.pdf)|*.pdf</source>
+        <translation>PDF files (*.pdf)|*.pdf</translation>
+    </message>
+    <message>
+        <source>Zut</source>
+        <translation>Oops</translation>
+    </message>
+</context>
+<context>
     <name>convertRTF</name>
     <message>
         <source>Conversion au RTF</source>
@@ -3543,6 +3783,10 @@ Usmira keeps one before the first save that follows each opening.</translation>
     <message>
         <source>Pa&amp;ge de Lecture (HTML)...</source>
         <translation>Readin&amp;g Page (HTML)...</translation>
+    </message>
+    <message>
+        <source>Livre &amp;Imprimable (PDF)...</source>
+        <translation>Pr&amp;inted Book (PDF)...</translation>
     </message>
 </context>
 <context>

@@ -24,7 +24,8 @@ public:
         QAction &loadOne;
         QAction &oneHtml;
         QAction &manyHtml;
-        QAction &epub; // not shown where the program was built without it
+        QAction &pdf; // these two are not shown where the program was built without them
+        QAction &epub;
         QAction &page;
     };
     // box is the one of the view.

@@ -202,8 +202,8 @@ void formUsmira::connectMenus()
     m_menuStates.watch(*m_ui->menuCommands);
     connect(m_ui->menuCommands, &QMenu::aboutToShow, this, [this] { m_functions.showSwapKey(); });
     m_conversions.connectItems({*m_ui->menuConvRTF, *m_ui->menuConvSave1, *m_ui->menuConvLoad1,
-                                *m_ui->menuConv1toHTML, *m_ui->menuConvNtoHTML, *m_ui->menuConvEpub,
-                                *m_ui->menuConvPage},
+                                *m_ui->menuConv1toHTML, *m_ui->menuConvNtoHTML, *m_ui->menuConvPdf,
+                                *m_ui->menuConvEpub, *m_ui->menuConvPage},
                                *m_ui->rtfBox, m_runner);
     m_menuStates.watch(*m_ui->menuConv);
     m_runner.add(*m_ui->menuInfoSample, Kind::Anytime, [this] {

@@ -11,6 +11,7 @@ struct Variables;
 struct ExportRange {
     int low;
     int high;
+    bool operator==(const ExportRange &) const = default;
 };
 
 // The range as two numbers were typed: rounded to whole numbers, a half to the even one, put in

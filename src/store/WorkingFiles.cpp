@@ -73,6 +73,11 @@ QString WorkingFiles::comfort() const
     return m_folder + QStringLiteral("Usmira Confort.xyz");
 }
 
+QString WorkingFiles::pageSetup() const
+{
+    return m_folder + QStringLiteral("Usmira Mise en Pages.xyz");
+}
+
 QString WorkingFiles::deliveries() const
 {
     return m_folder + QStringLiteral("Usmira Documents.xyz");

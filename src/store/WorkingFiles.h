@@ -14,6 +14,7 @@ struct Variables;
 //   Usmira Settings.xyz                settings
 //   Usmira Fenêtre.xyz                 there while the window is to come back maximised
 //   Usmira Confort.xyz                 how the editor looks and starts
+//   Usmira Mise en Pages.xyz           how the pages of a printed book look
 //   Usmira Documents.xyz               which documents were delivered, by their checksums
 //   Copyright.rtf and the like         documents, which the author may replace
 //   Session/Journal.xyz                a change of many paragraphs that counts
@@ -43,6 +44,7 @@ public:
     QString settings() const;
     QString maximized() const;
     QString comfort() const;
+    QString pageSetup() const;
     QString deliveries() const;
 
     enum class Document {

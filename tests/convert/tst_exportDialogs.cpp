@@ -73,6 +73,9 @@ private Q_SLOTS:
             {"menuConv1toHTML", "onebigHTML", "Cancel"},
             {"menuConvNtoHTML", "manyHTML", "Cancel"},
             {"menuConvRTF", "convertRTF", "CancelButton"},
+#ifndef Q_OS_WIN
+            {"menuConvPdf", "bookPdfDlog", "CancelButton"},
+#endif
             {"menuConvEpub", "epubDlog", "CancelButton"},
             {"menuConvPage", "pageDlog", "CancelButton"}};
         for (const auto &[item, name, cancel] : cases) {
@@ -95,7 +98,7 @@ private Q_SLOTS:
     {
         const Scene scene;
         for (const char *item : {"menuConv1toHTML", "menuConvNtoHTML", "menuConvRTF",
-                                 "menuConvEpub", "menuConvPage"}) {
+                                 "menuConvPdf", "menuConvEpub", "menuConvPage"}) {
             scene.in(item, [&](QDialog &dialog) {
                 QFont font = dialog.font();
                 font.setPointSize(12);
@@ -288,6 +291,48 @@ private Q_SLOTS:
         QVERIFY(scene.adventure.content("a.html").contains("id=\"die\""));
         QCOMPARE(scene.status(), "3 paragraphes écrits : " + scene.path("a.html"));
     }
+
+#ifndef Q_OS_WIN
+    // With the setup that the next book begins with.
+    void aPrintedBookIsWrittenAsItWasShown()
+    {
+        Scene scene;
+        scene.in("menuConvPdf", [&](QDialog &dialog) {
+            const auto &place = child<QLabel>(dialog, "lblPlace");
+            QTRY_COMPARE(place.text(), "Page 1 de 1");
+            child<QCheckBox>(dialog, "chkPageEach").click();
+            QTRY_COMPARE(place.text(), "Pages 2 et 3 de 3"); // with paragraph 5, the current one
+            click(dialog, "btnBefore");
+            QCOMPARE(place.text(), "Page 1 de 3");
+            QVERIFY(!child<QAbstractButton>(dialog, "btnBefore").isEnabled());
+            child<QCheckBox>(dialog, "chkTwoSided").click();
+            QTRY_COMPARE(place.text(), "Pages 1 et 2 de 3");
+            auto &paper = child<QComboBox>(dialog, "comboPaper");
+            fill(dialog, {{"txtWidth", "60"}});
+            QCOMPARE(paper.currentText(), "Autres mesures");
+            const QString fault = "Les marges intérieure et extérieure ne laissent pas 25 mm au "
+                                  "texte sur un papier large de 50 mm.";
+            fill(dialog, {{"txtWidth", "50"}});
+            QCOMPARE(child<QLabel>(dialog, "lblFault").text(), fault);
+            scene.prompts.expect(fault, "Zut");
+            click(dialog, "OKButton");
+            fill(dialog, {{"txtWidth", "140"}});
+            QCOMPARE(paper.currentText(), "14 x 21 cm");
+            scene.prompts.expectFileDialog("Enregistrer Livre Imprimable", scene.path("a.pdf"),
+                                           "Le Loup");
+            click(dialog, "OKButton");
+            QVERIFY(!dialog.isVisible());
+        });
+        QVERIFY(scene.adventure.content("a.pdf").startsWith("%PDF"));
+        QVERIFY(scene.status().startsWith("3 paragraphes écrits : " + scene.path("a.pdf")));
+        scene.in("menuConvPdf", [&](QDialog &dialog) {
+            QCOMPARE(child<QLineEdit>(dialog, "txtWidth").text(), "140");
+            QVERIFY(child<QCheckBox>(dialog, "chkPageEach").isChecked());
+            QVERIFY(!child<QCheckBox>(dialog, "chkTwoSided").isChecked());
+            click(dialog, "CancelButton");
+        });
+    }
+#endif
 
     void eachBoxHasItsFile_data()
     {

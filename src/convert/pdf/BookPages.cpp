@@ -81,6 +81,15 @@ void BookPages::addPlaces()
     m_places.remove(0); // what has no number
 }
 
+int BookPages::numberOn(int page) const
+{
+    const Page &one = m_pages.at(static_cast<std::size_t>(page));
+    if (one.pieces.isEmpty())
+        return 0;
+    return one.section->paragraphs.at(static_cast<std::size_t>(one.pieces.first().paragraph))
+        .number();
+}
+
 QList<int> BookPages::numbers() const
 {
     QList<int> numbers = m_places.keys();

@@ -38,6 +38,8 @@ public:
         double y = 0;
     };
     const QHash<int, Place> &places() const { return m_places; } // of the paragraphs by number
+    // Of the paragraph that a page begins with; 0 where there is none.
+    int numberOn(int page) const;
     // The numbers of the book, ascending.
     QList<int> numbers() const;
 

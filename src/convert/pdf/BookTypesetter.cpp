@@ -46,6 +46,14 @@ bool BookTypesetter::step()
     return m_next < m_book.paragraphs.size();
 }
 
+void BookTypesetter::setAll(const Progress &progress)
+{
+    for (bool more = true; more;) {
+        more = step();
+        progress(m_next, static_cast<int>(m_book.paragraphs.size()));
+    }
+}
+
 void BookTypesetter::addText(BookPages::Kind kind, const QString &text)
 {
     if (text.trimmed().isEmpty())

@@ -2,6 +2,7 @@
 
 #include "convert/pdf/BookPages.h"
 #include "convert/pdf/Hyphenation.h"
+#include "platform/Progress.h"
 
 // Makes pages of a book, a paragraph at a time, so that whoever waits can do something else
 // meanwhile or stop it.
@@ -18,6 +19,9 @@ public:
     // Sets a paragraph. False: all are set.
     bool step();
     int done() const { return m_next; }
+
+    // Sets all, and tells how many of how many.
+    void setAll(const Progress &progress);
 
     // Once all are set: how the lines become pages.
     BookPages pages();

@@ -15,7 +15,8 @@ constexpr double MostPaper = 500;
 constexpr double LeastText = 25; // of paper, in both directions
 constexpr double LeastPoints = 4;
 constexpr double MostPoints = 72;
-constexpr double MillimetresPerPoint = 25.4 / 72;
+constexpr double Inch = 25.4;
+constexpr double MillimetresPerPoint = Inch / 72;
 
 QString shown(double value)
 {
@@ -84,6 +85,15 @@ public:
     }
 };
 } // namespace
+
+const std::array<Paper, 4> &knownPapers()
+{
+    static const std::array<Paper, 4> all{{{"A4", {210, 297}},
+                                           {"A5", {148, 210}},
+                                           {"6x9", {6 * Inch, 9 * Inch}},
+                                           {"14x21", {140, 210}}}};
+    return all;
+}
 
 PageSetup defaultPageSetup(const Variables &variables)
 {

@@ -4,6 +4,7 @@
 
 #include <QSizeF>
 #include <QString>
+#include <array>
 
 struct Variables;
 
@@ -35,6 +36,13 @@ struct PageSetup {
 
     bool operator==(const PageSetup &) const = default;
 };
+
+// The papers that have names, "A5".
+struct Paper {
+    const char *name;
+    QSizeF millimetres;
+};
+const std::array<Paper, 4> &knownPapers();
 
 // A5, in the author's font.
 PageSetup defaultPageSetup(const Variables &variables);

@@ -1,7 +1,6 @@
 #include "convert/pdf/PageWords.h"
 
 #include <QRegularExpression>
-#include <array>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -14,22 +13,6 @@ struct Word {
     std::function<bool(PageSetup &, const QString &)> set;
     std::function<QString(const PageSetup &)> value;
 };
-
-struct Paper {
-    const char *name;
-    QSizeF millimetres;
-};
-
-constexpr double Inch = 25.4;
-
-const std::array<Paper, 4> &papers()
-{
-    static const std::array<Paper, 4> all{{{"A4", {210, 297}},
-                                           {"A5", {148, 210}},
-                                           {"6x9", {6 * Inch, 9 * Inch}},
-                                           {"14x21", {140, 210}}}};
-    return all;
-}
 
 std::optional<double> number(QString text)
 {
@@ -45,7 +28,7 @@ QString text(double value)
 
 bool setPaper(PageSetup &setup, const QString &value)
 {
-    for (const Paper &paper : papers()) {
+    for (const Paper &paper : knownPapers()) {
         if (value.compare(QLatin1String(paper.name), Qt::CaseInsensitive) == 0) {
             setup.paper = paper.millimetres;
             return true;
@@ -60,7 +43,7 @@ bool setPaper(PageSetup &setup, const QString &value)
 
 QString paperValue(const PageSetup &setup)
 {
-    for (const Paper &paper : papers())
+    for (const Paper &paper : knownPapers())
         if (setup.paper == paper.millimetres)
             return QLatin1String(paper.name);
     return text(setup.paper.width()) + u'x' + text(setup.paper.height());

@@ -45,11 +45,7 @@ private:
     QByteArray made(const Book &book, const Progress &progress)
     {
         BookTypesetter typesetter(book, m_choice.facts, m_choice.setup);
-        const auto total = static_cast<int>(book.paragraphs.size());
-        for (bool more = true; more;) {
-            more = typesetter.step();
-            part(progress, Read, Set)(typesetter.done(), total);
-        }
+        typesetter.setAll(part(progress, Read, Set));
         const BookPages pages = typesetter.pages();
         m_remarks = QStringList{emptyTargetsSentence(book), typesetter.remarks()};
         m_remarks.removeAll(QString());

@@ -6,15 +6,31 @@
 
 namespace
 {
-constexpr int TwipsPerInch = 1440; // one of the writer's dots is a twip
+constexpr int TwipsPerInch = 1440;
+}
 
-void setPaper(QPdfWriter &writer, const PageSetup &setup)
+QPageLayout pageLayout(const PageSetup &setup)
 {
     const QPageSize size(setup.paper, QPageSize::Millimeter, {}, QPageSize::ExactMatch);
-    writer.setResolution(TwipsPerInch);
-    writer.setPageLayout(QPageLayout(size, QPageLayout::Portrait, QMarginsF()));
+    return {size, QPageLayout::Portrait, QMarginsF()};
 }
-} // namespace
+
+bool drawPages(QPagedPaintDevice &device, int dotsPerInch, const BookPages &pages, int first,
+               int last, const Progress &progress)
+{
+    QPainter painter;
+    if (!painter.begin(&device))
+        return false;
+    const double scale = static_cast<double>(dotsPerInch) / TwipsPerInch;
+    painter.scale(scale, scale);
+    for (int page = first; page <= last; ++page) {
+        if (page > first && !device.newPage())
+            return false;
+        pages.draw(painter, page);
+        progress(page - first + 1, last - first + 1);
+    }
+    return painter.end();
+}
 
 DrawnPdf drawPdf(const BookPages &pages, const Progress &progress)
 {
@@ -22,15 +38,18 @@ DrawnPdf drawPdf(const BookPages &pages, const Progress &progress)
     QBuffer buffer(&drawn.bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
-    setPaper(writer, pages.setup());
-    QPainter painter(&writer);
-    for (int page = 0; page < pages.count(); ++page) {
-        if (page > 0)
-            writer.newPage();
-        drawn.links.append(pages.links(page));
-        pages.draw(painter, page);
-        progress(page + 1, pages.count());
-    }
-    painter.end();
+    writer.setResolution(TwipsPerInch); // the dots of the layout
+    writer.setPageLayout(pageLayout(pages.setup()));
+    // Before a page is drawn, which gives back what both need.
+    const auto addLinks = [&](int page) {
+        if (page < pages.count())
+            drawn.links.append(pages.links(page));
+    };
+    const auto drawing = [&](int done, int total) {
+        addLinks(done);
+        progress(done, total);
+    };
+    addLinks(0);
+    drawPages(writer, TwipsPerInch, pages, 0, pages.count() - 1, drawing);
     return drawn;
 }

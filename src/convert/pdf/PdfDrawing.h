@@ -5,6 +5,11 @@
 
 #include <QByteArray>
 
+class QPagedPaintDevice;
+
+// The paper of the pages, without margins: they are in the pages themselves.
+QPageLayout pageLayout(const PageSetup &setup);
+
 // A PDF with nothing but what is seen, its fonts embedded, and where its pages have links.
 struct DrawnPdf {
     QByteArray bytes;
@@ -13,3 +18,8 @@ struct DrawnPdf {
 
 // Progress counts pages.
 DrawnPdf drawPdf(const BookPages &pages, const Progress &progress);
+
+// Draws pages first..last on a device of so many dots to the inch, which has their paper. False
+// when the device fails.
+bool drawPages(QPagedPaintDevice &device, int dotsPerInch, const BookPages &pages, int first,
+               int last, const Progress &progress);
