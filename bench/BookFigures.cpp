@@ -5,6 +5,7 @@
 #include "PeakMemory.h"
 #include "convert/epub/EpubCommand.h"
 #include "convert/epub/ZipArchive.h"
+#include "convert/page/PageCommand.h"
 #include "convert/rtf/CompileCommand.h"
 
 #include <QProcess>
@@ -31,6 +32,19 @@ void printEpub(const ExportCommand &command, const QString &folder)
                 Milliseconds);
 }
 
+void printPage(const ExportCommand &command, const QString &folder)
+{
+    printFigure(
+        QStringLiteral("page for reading"),
+        medianMilliseconds(
+            Runs, [] {},
+            [&] {
+                if (!exportToPage(command, {1, 2000, folder + QStringLiteral("/book.html")}, true))
+                    qFatal("the export failed");
+            }),
+        Milliseconds);
+}
+
 // From the compiled RTF, the one form of the whole book that it reads.
 void printPandocEpub(const ExportCommand &command, const QString &folder)
 {
@@ -54,6 +68,7 @@ void printBookFigures(const QString &path, const QString &folder)
     BenchEditor editor(folder + QStringLiteral("/book"));
     editor.commands.OpenAdventure(path);
     const ExportCommand command(editor.variables, editor.prompts, editor.view);
+    printPage(command, folder);
     if (!ZipArchive::isAvailable())
         return;
     printEpub(command, folder);

@@ -42,7 +42,7 @@ numbered, formatted paragraphs that send the reader to one another. You write
 one paragraph at a time; Usmira keeps track of who leads where, gives
 paragraphs other numbers with every reference rewritten, shows the whole book
 as a grid or a graph and all that is wrong with it in one list, reads it as
-its reader will, and publishes it as HTML or RTF.
+its reader will, and publishes it as PDF, EPUB, HTML or RTF.
 .
 usmira-outil runs the same commands from scripts. The interface is French or
 English.")

@@ -226,8 +226,10 @@ private Q_SLOTS:
         bookFactsDlog facts(fixture.variables, fixture.prompts, fixture.window.get());
         facts.show();
         look(facts);
-        const bool prints = fixture.control<QAction>("menuConvPdf").isVisible();
-        QVERIFY2(names.size() == (prints ? 27 : 26), qPrintable(names.join(u' ')));
+        qsizetype shown = 25;
+        for (const char *item : {"menuConvPdf", "menuConvEpub"}) // not on every system
+            shown += fixture.control<QAction>(item).isVisible() ? 1 : 0;
+        QVERIFY2(names.size() == shown, qPrintable(names.join(u' ')));
     }
 
 private:

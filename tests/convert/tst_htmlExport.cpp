@@ -1,5 +1,7 @@
+#include "convert/epub/EpubCommand.h"
 #include "convert/html/CodeSnippet.h"
 #include "convert/html/HtmlCommands.h"
+#include "convert/page/PageCommand.h"
 #include "outil/HeadlessView.h"
 #include "platform/Errors.h"
 #include "platform/FileBatch.h"
@@ -105,8 +107,10 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(scene.adventure.path("p")));
         QVERIFY(!exportToOneFile(command, {1, 2000, scene.adventure.path("a.htm")}, {}));
         QVERIFY(!exportToManyFiles(command, {1, 2000, scene.adventure.path("p")}, {}, {}));
+        QVERIFY(!exportToEpub(command, {1, 2000, scene.adventure.path("a.htm")}, {}));
+        QVERIFY(!exportToPage(command, {1, 2000, scene.adventure.path("a.htm")}, true));
         const QString stopped = "Conversion arrêtée : aucun fichier n'a été écrit.";
-        QCOMPARE(view.announced, QStringList({stopped, stopped}));
+        QCOMPARE(view.announced, QStringList({stopped, stopped, stopped, stopped}));
         QCOMPARE(scene.adventure.content("a.htm"), "old");
         QVERIFY(QDir(scene.adventure.path("p")).isEmpty());
     }

@@ -366,14 +366,12 @@ uniformiser - 1639
             AdventureBuilder({QStringLiteral("1: Va au 9"), QStringLiteral("9: Fin")}).bytes());
         const QByteArray script = "ouvrir '@a.usm'\ncompiler-rtf 2000 2 '@livre.rtf'\n"
                                   "html 1 9 '@livre.htm'\npages 5 2000 '@' L-\npages 1 1 '@'\n"
-                                  "lecture 1 9 '@livre.html'\n"
-                                  "epub 1 9 '@livre.epub' date=2026-11-22 'titre=Le Loup'\n";
+                                  "lecture 1 9 '@livre.html'\n";
         const Outcome outcome = run(adventure, {}, QByteArray(script).replace('@', folder));
         QCOMPARE(outcome.errors, QString());
         QCOMPARE(outcome.status, 0);
         QVERIFY(
             adventure.content(QStringLiteral("livre.htm")).contains("<A HREF=\"#P0009\">9</A>"));
-        QVERIFY(adventure.content(QStringLiteral("livre.epub")).contains("OEBPS/p0001.xhtml"));
         const QByteArray page = adventure.content(QStringLiteral("livre.html"));
         QVERIFY(page.contains("<a href=\"#p9\">9</a>") && !page.contains("id=\"die\""));
         QVERIFY(adventure.content(QStringLiteral("L-0009.htm")).contains("Fin"));
@@ -384,6 +382,25 @@ uniformiser - 1639
                               "\\par \\pard \\f0\\plain\\f0\\fs24 Fin\r\n"
                               "\\par \r\n\\par \r\n\\par }"));
     }
+
+#ifndef Q_OS_WIN
+    void aBookOfADateIsAlwaysTheSame()
+    {
+        TestAdventure adventure;
+        const QString path = adventure.file(QStringLiteral("a.usm"),
+                                            AdventureBuilder({QStringLiteral("1: Un")}).bytes());
+        const auto book = [&](const QString &change) {
+            const QStringList commands{
+                QStringLiteral("ouvrir '%1'").arg(path), change,
+                QStringLiteral("epub 1 9 '%1.epub' date=2026-11-22").arg(path)};
+            const Outcome outcome = run(adventure, {}, commands.join(u'\n').toUtf8());
+            return outcome.errors.toUtf8() + adventure.content(QStringLiteral("a.usm.epub"));
+        };
+        const QByteArray bytes = book({});
+        QVERIFY(bytes.startsWith("PK") && bytes.contains("OEBPS/p0001.xhtml"));
+        QCOMPARE(book(QStringLiteral("fixe 1 1")), bytes);
+    }
+#endif
 
     // So does the bundled help, which the pages are made of.
     void theManualPagesNameEveryCommand_data()
@@ -439,8 +456,12 @@ uniformiser - 1639
             QStringLiteral("Erreur pendant l'écriture du fichier."));
         row("a file that cannot be opened, said nowhere",
             {QStringLiteral("ouvrir @"), QStringLiteral("html 1 9 /nowhere/a.htm")}, 1, QString());
+#ifndef Q_OS_WIN
         row("word of a book", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e titre=")},
             2, QStringLiteral("titre=..., auteur=... ou date=... attendu : titre="));
+        row("date", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e date=hier")}, 2,
+            QStringLiteral("date=AAAA-MM-JJ attendu : hier"));
+#endif
         row("word of a compilation",
             {QStringLiteral("ouvrir @"), QStringLiteral("compiler-rtf 1 9 @.e lien")}, 2,
             QStringLiteral("liens attendu : lien"));
@@ -453,10 +474,8 @@ uniformiser - 1639
 #endif
         row("word of a page", {QStringLiteral("ouvrir @"), QStringLiteral("lecture 1 9 @.e de")}, 2,
             QStringLiteral("fiche attendu : de"));
-        row("date", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e date=hier")}, 2,
-            QStringLiteral("date=AAAA-MM-JJ attendu : hier"));
-        row("nothing in the range", {QStringLiteral("ouvrir @"), QStringLiteral("epub 5 9 @.e")}, 1,
-            QStringLiteral("Aucun paragraphe n'est écrit de 5 à 9."));
+        row("nothing in the range", {QStringLiteral("ouvrir @"), QStringLiteral("lecture 5 9 @.e")},
+            1, QStringLiteral("Aucun paragraphe n'est écrit de 5 à 9."));
         row("existing file", {QStringLiteral("nouvelle @")}, 1, QStringLiteral("existe déjà"));
     }
     void failuresAndBadUsageHaveTheirStatus()
