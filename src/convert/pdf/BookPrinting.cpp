@@ -25,7 +25,16 @@ void print(QPrinter &printer, const BookPages &pages, const Progress &progress)
     const int last =
         printer.toPage() == 0 ? pages.count() : std::clamp(printer.toPage(), first, pages.count());
     printer.setPageLayout(pageLayout(pages.setup())); // the dialog may have its own
-    if (!drawPages(printer, printer.resolution(), pages, first - 1, last - 1, progress))
+    // What has been drawn is printed when the painter goes, unless this comes first.
+    const auto drawing = [&](int done, int total) {
+        try {
+            progress(done, total);
+        } catch (...) {
+            printer.abort();
+            throw;
+        }
+    };
+    if (!drawPages(printer, printer.resolution(), pages, first - 1, last - 1, drawing))
         throw FileError(FileError::Operation::Write, printer.printerName(),
                         QStringLiteral("the printer fails"));
 }
@@ -39,8 +48,13 @@ bool printBook(const ExportCommand &command, const ExportRequest &request, const
     QPrintDialog dialog(&printer, &window);
     if (!command.hasParagraphs(request) || dialog.exec() != QDialog::Accepted)
         return false;
+    const QString file = printer.outputFileName();
     ExportRequest printed = request;
-    printed.place = printer.printerName();
+    printed.place = file.isEmpty() ? printer.printerName() : file;
+    if (!file.isEmpty() && printer.printRange() == QPrinter::AllPages)
+        return exportToPdf(command, printed, choice).has_value(); // which replaces it whole
+    if (!file.isEmpty() && !command.mayReplace(file))
+        return false;
     ExportCommand::Kind kind;
     QString remark;
     kind.caption = QCoreApplication::translate("BookPrinting", "Impression...");

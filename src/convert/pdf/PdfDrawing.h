@@ -4,6 +4,7 @@
 #include "platform/Progress.h"
 
 #include <QByteArray>
+#include <QPageLayout>
 
 class QPagedPaintDevice;
 

@@ -1,73 +1,43 @@
 #include "convert/pdf/PdfLinks.h"
 
+#include "convert/pdf/PdfFile.h"
 #include "platform/Errors.h"
 
-#define POINTERHOLDER_TRANSITION 4 // the library asks which of its pointers we know
-#include <qpdf/Buffer.hh>
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFObjectHandle.hh>
-#include <qpdf/QPDFPageDocumentHelper.hh>
-#include <qpdf/QPDFPageObjectHelper.hh>
-#include <qpdf/QPDFWriter.hh>
-
 #include <QCryptographicHash>
-
-#include <memory>
+#include <QSet>
 #include <vector>
 
 namespace
 {
-using Object = QPDFObjectHandle;
+using Object = PdfFile::Object;
 
 constexpr double TwipsPerPoint = 20;
 constexpr int OutlineStep = 100; // paragraphs of an entry
-constexpr int Decimals = 3;
 constexpr int SubsetLetters = 6; // in front of the name of a font
-
-Object real(double value)
-{
-    return Object::newReal(value, Decimals);
-}
-
-Object text(const QString &text)
-{
-    return Object::newUnicodeString(text.toStdString());
-}
-
-Object box(double left, double bottom, double right, double top)
-{
-    return Object::newArray({real(left), real(bottom), real(right), real(top)});
-}
 
 class Linking
 {
 public:
-    Linking(const DrawnPdf &drawn, const BookPages &pages) : m_drawn(drawn), m_pages(pages)
+    Linking(const DrawnPdf &drawn, const BookPages &pages)
+        : m_pdf(drawn.bytes), m_drawn(drawn), m_pages(pages)
     {
-        m_pdf.setSuppressWarnings(true);
-        m_pdf.processMemoryFile("book", drawn.bytes.constData(),
-                                static_cast<std::size_t>(drawn.bytes.size()));
-        m_objects = QPDFPageDocumentHelper(m_pdf).getAllPages();
-        if (static_cast<int>(m_objects.size()) != pages.count())
+        if (m_pdf.pageCount() != pages.count())
             throw FormatError(0, QStringLiteral("as many pages as were drawn"));
-        m_height = m_objects.empty() ? 0
-                                     : m_objects.front()
-                                           .getObjectHandle()
-                                           .getKey("/MediaBox")
-                                           .getArrayItem(3)
-                                           .getNumericValue();
+        for (int page = 0; page < pages.count(); ++page)
+            m_objects.push_back(m_pdf.page(page));
+        m_height = m_objects.empty() ? 0 : m_objects.front().at("/MediaBox").at(3).number();
     }
 
     void addLinks(const Progress &progress)
     {
         for (int page = 0; page < m_pages.count(); ++page) {
             setBoxes(object(page));
-            Object annotations = Object::newArray();
+            Object annotations = m_pdf.array();
             for (const PageLink &link : m_drawn.links.at(page))
                 if (m_pages.places().contains(link.number))
-                    annotations.appendItem(m_pdf.makeIndirectObject(annotation(link)));
-            if (annotations.getArrayNItems() > 0)
-                object(page).replaceKey("/Annots", annotations);
+                    annotations.append(m_pdf.shared(annotation(link)));
+            if (annotations.count() > 0)
+                object(page).set("/Annots", annotations);
             progress(page + 1, m_pages.count());
         }
     }
@@ -77,7 +47,7 @@ public:
     {
         const QList<int> numbers = m_pages.numbers();
         std::vector<Object> entries;
-        Object outline = m_pdf.makeIndirectObject(Object::newDictionary());
+        Object outline = m_pdf.shared(m_pdf.dictionary());
         for (qsizetype begin = 0; begin < numbers.size();) {
             qsizetype end = begin;
             while (end < numbers.size() &&
@@ -89,144 +59,130 @@ public:
         if (entries.empty())
             return;
         for (std::size_t i = 1; i < entries.size(); ++i) {
-            entries.at(i - 1).replaceKey("/Next", entries.at(i));
-            entries.at(i).replaceKey("/Prev", entries.at(i - 1));
+            entries.at(i - 1).set("/Next", entries.at(i));
+            entries.at(i).set("/Prev", entries.at(i - 1));
         }
-        outline.replaceKey("/Type", Object::newName("/Outlines"));
-        outline.replaceKey("/First", entries.front());
-        outline.replaceKey("/Last", entries.back());
-        outline.replaceKey("/Count", Object::newInteger(static_cast<long long>(entries.size())));
-        m_pdf.getRoot().replaceKey("/Outlines", outline);
+        outline.set("/Type", m_pdf.name(QStringLiteral("/Outlines")))
+            .set("/First", entries.front())
+            .set("/Last", entries.back())
+            .set("/Count", m_pdf.whole(static_cast<int>(entries.size())));
+        m_pdf.root().set("/Outlines", outline);
     }
 
     // Without the time at which it was made, and what the drawing has noted of itself.
     void addFacts(const BookFacts &facts)
     {
-        Object info = Object::newDictionary();
-        info.replaceKey("/Title", text(facts.title));
+        Object info = m_pdf.dictionary();
+        info.set("/Title", m_pdf.text(facts.title))
+            .set("/Creator", m_pdf.text(QStringLiteral("Usmira")));
         if (!facts.author.isEmpty())
-            info.replaceKey("/Author", text(facts.author));
-        info.replaceKey("/Creator", text(QStringLiteral("Usmira")));
-        m_pdf.getTrailer().replaceKey("/Info", m_pdf.makeIndirectObject(info));
-        m_pdf.getTrailer().removeKey("/ID");
-        Object root = m_pdf.getRoot();
-        root.removeKey("/Metadata");
+            info.set("/Author", m_pdf.text(facts.author));
+        m_pdf.trailer().set("/Info", m_pdf.shared(info)).remove("/ID");
+        Object root = m_pdf.root();
+        root.remove("/Metadata");
         if (!facts.language.isEmpty())
-            root.replaceKey("/Lang", text(facts.language));
-        Object showsTitle = Object::newDictionary();
-        showsTitle.replaceKey("/DisplayDocTitle", Object::newBool(true));
-        root.replaceKey("/ViewerPreferences", showsTitle);
+            root.set("/Lang", m_pdf.text(facts.language));
+        root.set("/ViewerPreferences",
+                 m_pdf.dictionary().set("/DisplayDocTitle", m_pdf.boolean(true)));
         if (m_pages.setup().twoSided)
-            root.replaceKey("/PageLayout", Object::newName("/TwoPageRight"));
+            root.set("/PageLayout", m_pdf.name(QStringLiteral("/TwoPageRight")));
     }
 
     // The parts of fonts are called after their place in the drawing, which is another each time;
     // here after what is in them.
     void nameFonts()
     {
-        for (Object font : m_pdf.getAllObjects()) {
-            if (!font.isDictionaryOfType("/Font", "/Type0"))
-                continue;
-            Object inner = font.getKey("/DescendantFonts").getArrayItem(0);
-            Object descriptor = inner.getKey("/FontDescriptor");
-            const Object name = subsetName(descriptor);
-            descriptor.replaceKey("/FontName", name);
-            inner.replaceKey("/BaseFont", name);
-            font.replaceKey("/BaseFont", name);
+        QSet<int> named;
+        for (const Object &page : m_objects) {
+            const Object fonts = page.at("/Resources").at("/Font");
+            for (const QString &key : fonts.keys()) {
+                Object font = fonts.at(key.toUtf8().constData());
+                if (named.contains(font.id()))
+                    continue;
+                named.insert(font.id());
+                nameFont(font);
+            }
         }
     }
 
-    QByteArray bytes()
-    {
-        QPDFWriter writer(m_pdf);
-        writer.setOutputMemory();
-        writer.setDeterministicID(true);
-        writer.write();
-        const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
-        const auto size = static_cast<qsizetype>(buffer->getSize());
-        QByteArray bytes(size, Qt::Uninitialized);
-        std::copy_n(buffer->getBuffer(), size, bytes.begin());
-        return bytes;
-    }
+    QByteArray bytes() const { return m_pdf.bytes(); }
 
 private:
-    Object object(int page)
-    {
-        return m_objects.at(static_cast<std::size_t>(page)).getObjectHandle();
-    }
+    Object &object(int page) { return m_objects.at(static_cast<std::size_t>(page)); }
 
     double fromFoot(double y) const { return m_height - y / TwipsPerPoint; }
 
+    Object box(double left, double bottom, double right, double top) const
+    {
+        return m_pdf.array(
+            {m_pdf.number(left), m_pdf.number(bottom), m_pdf.number(right), m_pdf.number(top)});
+    }
+
     // The drawing knows whole points only. The trimmed page is the paper itself.
-    void setBoxes(Object page)
+    void setBoxes(Object &page) const
     {
         const QSizeF paper = m_pages.paper();
         for (const char *name : {"/MediaBox", "/TrimBox"})
-            page.replaceKey(
-                name, box(0, fromFoot(paper.height()), paper.width() / TwipsPerPoint, m_height));
-    }
-
-    Object destination(int number)
-    {
-        const BookPages::Place place = m_pages.places().value(number);
-        return Object::newArray({object(place.page), Object::newName("/XYZ"), Object::newNull(),
-                                 real(fromFoot(place.y)), Object::newNull()});
+            page.set(name,
+                     box(0, fromFoot(paper.height()), paper.width() / TwipsPerPoint, m_height));
     }
 
     Object goTo(int number)
     {
-        Object action = Object::newDictionary();
-        action.replaceKey("/S", Object::newName("/GoTo"));
-        action.replaceKey("/D", destination(number));
-        return action;
+        const BookPages::Place place = m_pages.places().value(number);
+        const Object destination =
+            m_pdf.array({object(place.page), m_pdf.name(QStringLiteral("/XYZ")), m_pdf.null(),
+                         m_pdf.number(fromFoot(place.y)), m_pdf.null()});
+        return m_pdf.dictionary()
+            .set("/S", m_pdf.name(QStringLiteral("/GoTo")))
+            .set("/D", destination);
     }
 
     Object annotation(const PageLink &link)
     {
         const QRectF &place = link.place;
-        Object annotation = Object::newDictionary();
-        annotation.replaceKey("/Type", Object::newName("/Annot"));
-        annotation.replaceKey("/Subtype", Object::newName("/Link"));
-        annotation.replaceKey("/Rect", box(place.left() / TwipsPerPoint, fromFoot(place.bottom()),
-                                           place.right() / TwipsPerPoint, fromFoot(place.top())));
-        annotation.replaceKey("/Border",
-                              Object::newArray({Object::newInteger(0), Object::newInteger(0),
-                                                Object::newInteger(0)}));
-        annotation.replaceKey("/A", goTo(link.number));
-        return annotation;
+        const Object none = m_pdf.whole(0);
+        return m_pdf.dictionary()
+            .set("/Type", m_pdf.name(QStringLiteral("/Annot")))
+            .set("/Subtype", m_pdf.name(QStringLiteral("/Link")))
+            .set("/Rect", box(place.left() / TwipsPerPoint, fromFoot(place.bottom()),
+                              place.right() / TwipsPerPoint, fromFoot(place.top())))
+            .set("/Border", m_pdf.array({none, none, none}))
+            .set("/A", goTo(link.number));
     }
 
-    Object entry(int first, int last, Object outline)
+    Object entry(int first, int last, const Object &outline)
     {
         const QString name =
             first == last ? QString::number(first) : QStringLiteral("%1–%2").arg(first).arg(last);
-        Object entry = Object::newDictionary();
-        entry.replaceKey("/Title", text(name));
-        entry.replaceKey("/Parent", outline);
-        entry.replaceKey("/A", goTo(first));
-        return m_pdf.makeIndirectObject(entry);
+        return m_pdf.shared(m_pdf.dictionary()
+                                .set("/Title", m_pdf.text(name))
+                                .set("/Parent", outline)
+                                .set("/A", goTo(first)));
     }
 
-    // "/ABCDEF+Name".
-    static Object subsetName(Object descriptor)
+    void nameFont(Object &font) const
     {
-        const bool isTrueType = descriptor.hasKey("/FontFile2");
-        const auto data =
-            descriptor.getKey(isTrueType ? "/FontFile2" : "/FontFile3").getRawStreamData();
-        const QByteArray hash = QCryptographicHash::hash(
-            QByteArrayView(data->getBuffer(), static_cast<qsizetype>(data->getSize())),
-            QCryptographicHash::Sha256);
-        std::string tag = "/";
+        if (!font.has("/DescendantFonts"))
+            return;
+        Object inner = font.at("/DescendantFonts").at(0);
+        Object descriptor = inner.at("/FontDescriptor");
+        const char *file = descriptor.has("/FontFile2") ? "/FontFile2" : "/FontFile3";
+        const QByteArray hash =
+            QCryptographicHash::hash(descriptor.at(file).streamBytes(), QCryptographicHash::Sha256);
+        QString name(u'/');
         for (int i = 0; i < SubsetLetters; ++i)
-            tag += static_cast<char>('A' + static_cast<unsigned char>(hash.at(i)) % 26);
-        const std::string name = descriptor.getKey("/FontName").getName();
-        return Object::newName(tag + '+' + name.substr(name.find('+') + 1));
+            name += QChar('A' + static_cast<unsigned char>(hash.at(i)) % 26);
+        name += u'+' + descriptor.at("/FontName").name().section(u'+', 1).remove(u'/');
+        descriptor.set("/FontName", m_pdf.name(name));
+        inner.set("/BaseFont", m_pdf.name(name));
+        font.set("/BaseFont", m_pdf.name(name));
     }
 
-    QPDF m_pdf;
+    const PdfFile m_pdf;
     const DrawnPdf &m_drawn;
     const BookPages &m_pages;
-    std::vector<QPDFPageObjectHelper> m_objects;
+    std::vector<Object> m_objects;
     double m_height = 0; // of the page as it was drawn, in points
 };
 } // namespace
@@ -234,14 +190,10 @@ private:
 QByteArray withLinks(const DrawnPdf &drawn, const BookPages &pages, const BookFacts &facts,
                      const Progress &progress)
 {
-    try {
-        Linking linking(drawn, pages);
-        linking.addLinks(progress);
-        linking.addOutline();
-        linking.addFacts(facts);
-        linking.nameFonts();
-        return linking.bytes();
-    } catch (const QPDFExc &error) {
-        throw FormatError(0, QString::fromUtf8(error.what()));
-    }
+    Linking linking(drawn, pages);
+    linking.addLinks(progress);
+    linking.addOutline();
+    linking.addFacts(facts);
+    linking.nameFonts();
+    return linking.bytes();
 }

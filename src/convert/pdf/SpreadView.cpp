@@ -1,14 +1,11 @@
 #include "convert/pdf/SpreadView.h"
 
-#include "widgets/Shade.h"
-
 #include <QPainter>
 #include <algorithm>
 
 namespace
 {
-constexpr double Border = 12;     // around the spread, in pixels
-constexpr double EdgeShare = 0.5; // of the text's contrast, in the line around a page
+constexpr double Border = 12; // around the spread, in pixels
 } // namespace
 
 SpreadView::SpreadView(QWidget *parent) : QWidget(parent)
@@ -89,6 +86,6 @@ void SpreadView::drawPage(QPainter &painter, int page, QPointF corner, double sc
     painter.scale(scale, scale);
     m_pages->draw(painter, page);
     painter.restore();
-    painter.setPen(shade(palette(), EdgeShare));
+    painter.setPen(Qt::gray); // on white, and on any desktop
     painter.drawRect(paper);
 }
