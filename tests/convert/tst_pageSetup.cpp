@@ -1,3 +1,4 @@
+#include "convert/pdf/BlockText.h"
 #include "convert/pdf/Hyphenation.h"
 #include "convert/pdf/PageWords.h"
 #include "support/TestTable.h"
@@ -76,10 +77,7 @@ private Q_SLOTS:
     void wordsArePartedByTheirPatterns()
     {
         const QTemporaryDir folder;
-        QFile file(folder.filePath("hyph_xx_YY.dic"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("UTF-8\n.é2t1a2n\na1b\nb1u\n");
-        file.close();
+        writePatterns(folder);
         const Hyphenation patterns("xx", {folder.path()});
         QVERIFY(patterns.isThere());
         QCOMPARE(patterns.places(u"Étabulaire, l'étabulaire étab 42"),
@@ -87,7 +85,45 @@ private Q_SLOTS:
         QVERIFY(!Hyphenation("yy", {folder.path()}).isThere());
         QVERIFY(Hyphenation("yy", {folder.path()}).places(u"tabulaire").isEmpty());
     }
+
+    // Shown with "-" where a word may be parted and "_" for a no-break space.
+    void referencesStayWhole_data()
+    {
+        addTable<QByteArray, PageSetup::References, QString>(
+            {"text", "form", "laidOut"},
+            {{"no reference", "tabulaire tabulaire", PageSetup::References::AsWritten,
+              "ta-b-ulaire ta-b-ulaire"},
+             {"and the word before it", "tabulaire tabulaire 26 tabulaire",
+              PageSetup::References::AsWritten, "ta-b-ulaire tabulaire_26 ta-b-ulaire"},
+             {"an arrow", "tabulaire tabulaire 26", PageSetup::References::Arrow,
+              "ta-b-ulaire tabulaire_→_26"}});
+    }
+    void referencesStayWhole()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(PageSetup::References, form);
+        QFETCH(QString, laidOut);
+        const QTemporaryDir folder;
+        writePatterns(folder);
+        Book book;
+        book.paragraphs = {bookParagraph(1, "{\\rtf1 " + text + "}", " tabulaire ")};
+        PageSetup setup;
+        setup.references = form;
+        BookFonts fonts(book, setup);
+        const Hyphenation patterns("xx", {folder.path()});
+        QString shown =
+            blockText(book.paragraphs.first().blocks.first(), setup, fonts, &patterns).text;
+        QCOMPARE(shown.replace(QChar::SoftHyphen, u'-').replace(QChar::Nbsp, u'_'), laidOut);
+    }
+
+private:
+    static void writePatterns(const QTemporaryDir &folder)
+    {
+        QFile file(folder.filePath("hyph_xx_YY.dic"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("UTF-8\n.é2t1a2n\na1b\nb1u\n");
+    }
 };
 
-QTEST_GUILESS_MAIN(tst_pageSetup)
+QTEST_MAIN(tst_pageSetup)
 #include "tst_pageSetup.moc"

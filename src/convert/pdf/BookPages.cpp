@@ -14,7 +14,9 @@ constexpr double LeastGap = 0.5;
 constexpr double MostGap = 3.5;
 constexpr double MostSpread = 0.03;     // which nobody sees
 constexpr double DedicationShare = 0.3; // of the height of the text, above it
-constexpr double MarginLine = 1.7;      // lines between the text and what stands in the margins
+// Baselines of what stands in the margins, in lines from the text.
+constexpr double HeadAbove = 1;
+constexpr double FootBelow = 1.7;
 
 double twips(double millimetres)
 {
@@ -157,7 +159,7 @@ void BookPages::drawHead(QPainter &painter, int page) const
     const Page &one = m_pages.at(static_cast<std::size_t>(page));
     if (one.section->kind != Kind::Paragraphs || m_setup.head == PageSetup::Head::Nothing)
         return;
-    const double baseline = twips(m_setup.top) - m_leading * (MarginLine - 0.7);
+    const double baseline = twips(m_setup.top) - m_leading * HeadAbove;
     if (m_setup.head == PageSetup::Head::Title)
         drawLine(painter, m_title, page, baseline, Qt::AlignHCenter);
     else
@@ -169,7 +171,7 @@ void BookPages::drawFoot(QPainter &painter, int page) const
 {
     if (m_setup.pageNumbers)
         drawLine(painter, QString::number(page + 1), page,
-                 twips(m_setup.paper.height() - m_setup.foot) + m_leading * MarginLine,
+                 twips(m_setup.paper.height() - m_setup.foot) + m_leading * FootBelow,
                  Qt::AlignHCenter);
 }
 

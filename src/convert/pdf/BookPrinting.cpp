@@ -3,6 +3,7 @@
 #include "convert/book/Book.h"
 #include "convert/pdf/BookTypesetter.h"
 #include "convert/pdf/PdfDrawing.h"
+#include "convert/pdf/WorkPart.h"
 #include "platform/Errors.h"
 
 #include <QPrintDialog>
@@ -11,6 +12,11 @@
 
 namespace
 {
+// Of the whole work, in hundredths.
+constexpr int Read = 15;
+constexpr int Set = 40;
+constexpr int Printed = 100;
+
 void prepare(QPrinter &printer, const PdfChoice &choice)
 {
     printer.setDocName(choice.facts.title);
@@ -59,11 +65,11 @@ bool printBook(const ExportCommand &command, const ExportRequest &request, const
     QString remark;
     kind.caption = QCoreApplication::translate("BookPrinting", "Impression...");
     kind.write = [&](const ExportRange &range, const Progress &progress) {
-        const Book book = readBook(command.variables(), range, progress);
+        const Book book = readBook(command.variables(), range, workPart(progress, 0, Read));
         BookTypesetter typesetter(book, choice.facts, choice.setup);
-        typesetter.setAll(progress);
+        typesetter.setAll(workPart(progress, Read, Set));
         remark = typesetter.remarks();
-        print(printer, typesetter.pages(), progress);
+        print(printer, typesetter.pages(), workPart(progress, Set, Printed));
         return static_cast<int>(book.paragraphs.size());
     };
     kind.failure =

@@ -4,6 +4,7 @@
 #include "convert/pdf/BookTypesetter.h"
 #include "convert/pdf/PdfDrawing.h"
 #include "convert/pdf/PdfLinks.h"
+#include "convert/pdf/WorkPart.h"
 #include "platform/Errors.h"
 #include "store/ExportTarget.h"
 
@@ -15,14 +16,6 @@ constexpr int Set = 60;
 constexpr int Drawn = 90;
 constexpr int Linked = 100;
 
-// A part of the work is told as one of the whole.
-Progress part(const Progress &whole, int from, int to)
-{
-    return [&whole, from, to](int done, int total) {
-        whole(from * total + (to - from) * done, Linked * total);
-    };
-}
-
 class PdfExport
 {
 public:
@@ -33,7 +26,7 @@ public:
 
     int write(const ExportRange &range, const QString &path, const Progress &progress)
     {
-        const Book book = readBook(m_variables, range, part(progress, 0, Read));
+        const Book book = readBook(m_variables, range, workPart(progress, 0, Read));
         const QByteArray bytes = writing(path, [&] { return made(book, progress); });
         writeExport(m_variables, path, bytes);
         return static_cast<int>(book.paragraphs.size());
@@ -45,12 +38,12 @@ private:
     QByteArray made(const Book &book, const Progress &progress)
     {
         BookTypesetter typesetter(book, m_choice.facts, m_choice.setup);
-        typesetter.setAll(part(progress, Read, Set));
+        typesetter.setAll(workPart(progress, Read, Set));
         const BookPages pages = typesetter.pages();
         m_remarks = QStringList{emptyTargetsSentence(book), typesetter.remarks()};
         m_remarks.removeAll(QString());
-        return withLinks(drawPdf(pages, part(progress, Set, Drawn)), pages, m_choice.facts,
-                         part(progress, Drawn, Linked));
+        return withLinks(drawPdf(pages, workPart(progress, Set, Drawn)), pages, m_choice.facts,
+                         workPart(progress, Drawn, Linked));
     }
 
     const Variables &m_variables;
