@@ -3,7 +3,6 @@
 #include "platform/Errors.h"
 
 #include <cstdlib>
-#include <qpdf/qpdf-c.h>
 
 namespace
 {
@@ -116,7 +115,7 @@ QByteArray PdfFile::bytes() const
 }
 
 // The library keeps an object as long as its handle is not given back.
-PdfFile::Object::Object(std::shared_ptr<_qpdf_data> file, unsigned int handle)
+PdfFile::Object::Object(std::shared_ptr<Data> file, unsigned int handle)
     : m_file(std::move(file)), m_handle(new unsigned int(handle), [data = m_file](unsigned int *h) {
           qpdf_oh_release(data.get(), *h);
           delete h;

@@ -5,13 +5,15 @@
 #include <QStringList>
 #include <initializer_list>
 #include <memory>
-
-struct _qpdf_data;
+#include <qpdf/qpdf-c.h>
+#include <type_traits>
 
 // A PDF in memory whose objects can be looked at and changed, by libqpdf. It is used through its
 // functions for C, since its headers for C++ are not for every compiler.
 class PdfFile
 {
+    using Data = std::remove_pointer_t<qpdf_data>;
+
 public:
     // Throws FormatError when bytes are no PDF.
     explicit PdfFile(const QByteArray &bytes);
@@ -39,11 +41,11 @@ public:
 
     private:
         friend class PdfFile;
-        Object(std::shared_ptr<_qpdf_data> file, unsigned int handle);
-        _qpdf_data *file() const { return m_file.get(); }
+        Object(std::shared_ptr<Data> file, unsigned int handle);
+        qpdf_data file() const { return m_file.get(); }
         unsigned int handle() const { return *m_handle; }
 
-        std::shared_ptr<_qpdf_data> m_file;
+        std::shared_ptr<Data> m_file;
         std::shared_ptr<unsigned int> m_handle;
     };
 
@@ -73,5 +75,5 @@ private:
     Object object(unsigned int handle) const { return {m_file, handle}; }
 
     QByteArray m_bytes; // read as it is asked for
-    std::shared_ptr<_qpdf_data> m_file;
+    std::shared_ptr<Data> m_file;
 };
