@@ -1,6 +1,6 @@
 # Sourced by windows.sh: runs what was built for Windows. Expects scripts/setup.sh and QT_FOLDER.
 
-WINE_PACKAGES=(wine wine64)
+WINE_PACKAGES=(wine wine64 fonts-liberation fonts-dejavu-core)
 
 # A Windows of its own, in the build folder, so that the user's is left alone.
 wine_folder() {
@@ -20,7 +20,9 @@ for_wine() { printf 'Z:%s' "${1//\//\\}"; }
 # Without a screen, with the fonts that the tests have elsewhere too.
 wine_tests() {
     export QT_QPA_FONTDIR
-    QT_QPA_FONTDIR=$(for_wine /usr/share/fonts/truetype/liberation)
+    mkdir -p build/windows/fonts
+    cp /usr/share/fonts/truetype/{liberation,dejavu}/*.ttf build/windows/fonts/
+    QT_QPA_FONTDIR=$(for_wine "$PWD/build/windows/fonts")
     ctest --test-dir build/windows --no-tests=error -j "$(nproc)" || {
         find build/windows/tests -name '*.report' -exec grep -ahE -A2 '^(FAIL|QFATAL)' {} +
         fail "these tests do not pass under Wine"
