@@ -214,6 +214,9 @@ private Q_SLOTS:
 
     void aBatchFollowsLinksAndLeavesReadOnlyFiles()
     {
+#ifdef Q_OS_WIN
+        QSKIP("what Qt calls a link there is a file of the Explorer");
+#endif
         TestAdventure adventure;
         const QString real = adventure.file("real.htm", "old");
         QVERIFY(QFile::link(real, adventure.path("link.htm")));
