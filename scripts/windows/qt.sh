@@ -5,7 +5,8 @@ QT_PACKAGES=(dpkg-dev g++-mingw-w64-x86-64-posix cmake ninja-build perl qt6-base
     qt6-base-dev-tools qt6-l10n-tools)
 
 # What Usmira has no use for is left out; what Windows does not bring comes with Qt's sources.
-# Debian's sources of Qt lack the header of the tablets.
+# Debian's sources of Qt lack the header of the tablets. Without Direct2D there would be no
+# DirectWrite either, which draws the texts; what its newer half is for is a plugin that nobody uses.
 QT_OPTIONS=(-DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON -DQT_BUILD_EXAMPLES=OFF
     -DQT_BUILD_TESTS=OFF -DQT_HOST_PATH=/usr
     -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake
@@ -13,7 +14,7 @@ QT_OPTIONS=(-DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON -DQT_BUILD_EXAMPLE
     -DFEATURE_system_freetype=OFF -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_pcre2=OFF
     -DFEATURE_sql=OFF -DFEATURE_dbus=OFF -DFEATURE_network=OFF -DFEATURE_xml=OFF
     -DFEATURE_concurrent=OFF -DINPUT_opengl=no -DFEATURE_opengl=OFF -DFEATURE_vulkan=OFF
-    -DFEATURE_direct2d=OFF -DFEATURE_tabletevent=OFF -DCMAKE_CXX_FLAGS=-Wno-attributes)
+    -DFEATURE_direct2d1_1=OFF -DFEATURE_tabletevent=OFF -DCMAKE_CXX_FLAGS=-Wno-attributes)
 
 # A library of Qt and the tools that its build runs must be of one version.
 qt_version() { dpkg-query -W -f '${source:Version}' "$1"; }
