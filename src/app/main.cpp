@@ -23,10 +23,11 @@ int main(int argc, char *argv[])
     Desktop desktop(application);
 
     const QString programFolder = QCoreApplication::applicationDirPath();
-    // The sources are asked only where nothing is installed: they may be gone.
+    // Where nothing is installed the program is in the tree where it was built.
     const QString icon = QStringLiteral("usmira");
+    const QString drawing = QStringLiteral("/../../../../resources/desktop/usmira.svg");
     QGuiApplication::setWindowIcon(QIcon::hasThemeIcon(icon) ? QIcon::fromTheme(icon)
-                                                             : QIcon(QStringLiteral(USMIRA_ICON)));
+                                                             : QIcon(programFolder + drawing));
     Variables variables;
     variables.MainFolder = findWorkingFolder(programFolder);
     const WorkingPlace place = takeWorkingFolder(

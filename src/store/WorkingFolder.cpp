@@ -50,18 +50,24 @@ void writeDeliveries(const QString &path, const Deliveries &deliveries)
 
 QByteArray checksumOf(const QString &path)
 {
-    return QCryptographicHash::hash(readWholeFile(path, LongestDocument), QCryptographicHash::Sha256)
+    return QCryptographicHash::hash(readWholeFile(path, LongestDocument),
+                                    QCryptographicHash::Sha256)
         .toHex();
 }
 
-// Says whether it has changed anything. Throws UsmiraError when the document cannot be read,
-// which is so too when the author has removed it, or cannot be written.
-bool deliver(const QString &from, const QString &to, bool folderIsNew, QByteArray &delivered)
+// Says whether there is a new delivery. Throws UsmiraError when a document cannot be read or
+// written.
+bool deliver(const QString &from, const QString &to, bool first, QByteArray &delivered)
 {
     const QByteArray newest = checksumOf(from);
-    if (newest == delivered || (!folderIsNew && checksumOf(to) != delivered))
+    if (newest == delivered)
         return false;
-    copyFile(from, to);
+    const bool there = QFileInfo::exists(to);
+    const QByteArray present = there ? checksumOf(to) : QByteArray();
+    if (there ? present != (first ? newest : delivered) : !first)
+        return false;
+    if (present != newest)
+        copyFile(from, to);
     delivered = newest;
     return true;
 }
@@ -78,24 +84,26 @@ QString findWorkingFolder(const QString &programFolder)
 
 QString findBundledDocuments(const QString &programFolder)
 {
-    // Installed for all, or carried with the program.
-    for (const QString &place : {QStringLiteral("../share/usmira"), QStringLiteral("documents")})
-        if (QFileInfo(QDir(programFolder).filePath(place)).isDir())
-            return QDir(programFolder).filePath(place);
-    return QStringLiteral(USMIRA_RESOURCES);
+    // Installed for all; still in the tree where it was built; or carried with the program.
+    const QDir folder(programFolder);
+    for (const QString &place :
+         {QStringLiteral("../share/usmira"), QStringLiteral("../../../../resources/documents")})
+        if (QFileInfo(folder.filePath(place)).isDir())
+            return folder.filePath(place);
+    return folder.filePath(QStringLiteral("documents"));
 }
 
 void prepareWorkingFolder(const QString &workingFolder, const QString &bundledDocuments)
 {
-    const bool isNew = !QFileInfo::exists(workingFolder);
     QDir().mkpath(workingFolder);
     const QString list = WorkingFiles(workingFolder).deliveries();
+    const bool first = !QFileInfo::exists(list);
     Deliveries deliveries = readDeliveries(list);
     bool changed = false;
     const QStringList names = WorkingFiles::documentNames();
     for (const QString &name : names) {
         try {
-            changed |= deliver(QDir(bundledDocuments).filePath(name), workingFolder + name, isNew,
+            changed |= deliver(QDir(bundledDocuments).filePath(name), workingFolder + name, first,
                                deliveries[name.toUtf8()]);
         } catch (const UsmiraError &) {
             continue;

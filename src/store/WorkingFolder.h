@@ -14,7 +14,7 @@ QString findBundledDocuments(const QString &programFolder);
 // Makes the folder again when it has gone. Whether it can be written shows when it is.
 void makeWorkingFolder(const QString &workingFolder);
 
-// Creates the folder when it is not there, with copies of the bundled documents. Later only those
-// are renewed that the author has left as they were; one that he has removed does not come back.
-// Failures are ignored: the program starts without.
+// Creates the folder when it is not there, and copies the bundled documents that it does not have.
+// Later only those are renewed that the author has left as they were; one that he has removed does
+// not come back. Failures are ignored: the program starts without.
 void prepareWorkingFolder(const QString &workingFolder, const QString &bundledDocuments);

@@ -4,26 +4,23 @@
 #include <QWidget>
 #include <algorithm>
 
-namespace
-{
-void placeAside(QWidget &tool)
-{
-    const QRect room = tool.screen()->availableGeometry();
-    const QPoint wished =
-        tool.parentWidget()->frameGeometry().bottomRight() - tool.rect().bottomRight();
-    tool.move(
-        std::clamp(wished.x(), room.left(), std::max(room.left(), room.right() - tool.width())),
-        std::clamp(wished.y(), room.top(), std::max(room.top(), room.bottom() - tool.height())));
-}
-} // namespace
-
 void showAside(QWidget &tool)
 {
     if (!tool.isVisible())
-        placeAside(tool);
+        moveWithinScreen(tool, tool.parentWidget()->frameGeometry().bottomRight() -
+                                   tool.rect().bottomRight());
     tool.show();
     tool.raise();
     tool.activateWindow();
+}
+
+void moveWithinScreen(QWidget &window, const QPoint &topLeft)
+{
+    const QRect room = window.screen()->availableGeometry();
+    const int right = std::max(room.left(), room.right() - window.width());
+    const int bottom = std::max(room.top(), room.bottom() - window.height());
+    window.move(std::clamp(topLeft.x(), room.left(), right),
+                std::clamp(topLeft.y(), room.top(), bottom));
 }
 
 void keepClear(QWidget &tool, const QRect &place)

@@ -1,5 +1,6 @@
 #pragma once
 
+class QPoint;
 class QRect;
 class QWidget;
 
@@ -8,6 +9,9 @@ class QWidget;
 // Shows the tool window and brings it to the front. It comes to the lower right of the main window,
 // where it covers least of the text, unless it is open already; never beyond the screen.
 void showAside(QWidget &tool);
+
+// Moves the window's upper left corner there, or as near as the whole of it stays on the screen.
+void moveWithinScreen(QWidget &window, const QPoint &topLeft);
 
 // A tool window that covers this place of the screen, where something was found, makes room for it.
 void keepClear(QWidget &tool, const QRect &place);

@@ -71,7 +71,7 @@ private Q_SLOTS:
         const TestAdventure adventure;
         const QString bundled = adventure.path("documents/");
         const QString folder = adventure.path("new/");
-        QDir().mkpath(bundled);
+        QVERIFY(QDir().mkpath(bundled) && QDir().mkpath(folder)); // made by hand, on a stick
         const QStringList names{"Welcome.rtf", "English Help.rtf", "Copyright.rtf"};
         const auto deliver = [&](const QByteArray &bytes) {
             for (const QString &name : names)

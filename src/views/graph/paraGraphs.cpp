@@ -10,6 +10,7 @@
 #include "views/graph/GraphNodes.h"
 #include "views/graph/TreeLayout.h"
 #include "views/graph/TypedNumber.h"
+#include "widgets/ToolWindow.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -119,7 +120,7 @@ void paraGraphs::showCurrent()
     }
     const QWidget *asker = QApplication::activeWindow();
     if (!isVisible() && asker != nullptr)
-        move(asker->geometry().center() - rect().center());
+        moveWithinScreen(*this, asker->geometry().center() - rect().center());
     show();
     raise();
     activateWindow();
