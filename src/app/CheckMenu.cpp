@@ -80,14 +80,22 @@ void CheckMenu::addToStatusBar(QStatusBar &bar, QAction &check)
     button->setToolTip(tr("Ouvrir le Contrôle du Livre"));
     bar.insertPermanentWidget(1, button); // behind what it says of the paragraph
     QObject::connect(button, &QPushButton::clicked, &check, &QAction::trigger);
-    const auto refresh = [this, button] { showCounts(*button); };
+    const auto refresh = [this, &bar, button] { showCounts(bar, *button); };
     QObject::connect(&m_check, &LiveCheck::changed, button, refresh);
+    QObject::connect(&bar, &QStatusBar::messageChanged, button, refresh);
     refresh();
 }
 
-void CheckMenu::showCounts(QPushButton &button) const
+// It makes room for a message that does not fit beside it, until that has gone.
+void CheckMenu::showCounts(QStatusBar &bar, QPushButton &button) const
 {
-    button.setVisible(m_check.isChecked());
+    constexpr int margins = 12;
+    const QString message = bar.currentMessage();
+    const bool fits =
+        !button.isHidden() &&
+        margins + bar.fontMetrics().horizontalAdvance(message) <= button.geometry().left();
+    bar.setToolTip(message);
+    button.setVisible(m_check.isChecked() && (message.isEmpty() || fits));
     button.setText(tr("Contrôle : %1").arg(findingCounts(m_check.book().findings)));
 }
 

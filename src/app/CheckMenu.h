@@ -37,7 +37,7 @@ public:
 
 private:
     void addToStatusBar(QStatusBar &bar, QAction &check);
-    void showCounts(QPushButton &button) const;
+    void showCounts(QStatusBar &bar, QPushButton &button) const;
     void shareKeys(const Items &items, bool listIsOpen) const;
     bookCheck &list(const Items &items);
     void connectList(const Items &items);

@@ -154,8 +154,9 @@ void announceDone(const Variables &variables, WorkReport &report, int newId, con
                         : QCoreApplication::translate(
                               "CommandHistory", "Cette commande ne pourra pas être annulée."));
     }
+    const bool sentence = words.isEmpty() || words.endsWith(u'.');
     if (!told.isEmpty())
-        report.announce(told.join(u' '));
+        report.announce(told.join(sentence ? QStringLiteral(" ") : QStringLiteral(" — ")));
 }
 
 CommandHistory keptHistory(const QString &workingFolder, const QList<int> &done,

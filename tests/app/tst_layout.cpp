@@ -10,6 +10,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSet>
+#include <QStatusBar>
 
 namespace
 {
@@ -98,6 +99,11 @@ private Q_SLOTS:
         }
         fixture.window->resize(100, 100);
         QTRY_COMPARE(fixture.window->size(), QSize(576, 444));
+        auto &bar = fixture.control<QStatusBar>("statusBar");
+        for (const auto &[words, fits] : {std::pair(1, true), {40, false}, {0, true}}) {
+            bar.showMessage(QString("long ").repeated(words));
+            QCOMPARE(fixture.control<QWidget>("btnCheck").isVisible(), fits);
+        }
     }
 
     void longTextWrapsWithinThePage()
