@@ -9,7 +9,11 @@ wine_folder() {
     WINE=$(command -v wine64 || ls /usr/lib/wine/wine64) || fail "wine64 is missing"
     local compiler
     compiler=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")
-    [ -d "$WINEPREFIX/drive_c/windows" ] || { say "Preparing Wine"; "$WINE" wineboot -i; }
+    if [ ! -d "$WINEPREFIX/drive_c/windows" ]; then
+        say "Preparing Wine"
+        mkdir -p "$WINEPREFIX"
+        "$WINE" wineboot -i
+    fi
     export WINEPATH
     WINEPATH="$(for_wine "$QT_FOLDER/windows/bin");$(for_wine "$compiler");$(
         for_wine /usr/x86_64-w64-mingw32/lib)"
