@@ -27,11 +27,16 @@ _usmira_outil_command() {
     before=${typed%"$last"}
     mapfile -t COMPREPLY < <(
         compgen -W "$(_usmira_outil_keywords "$program" "${typed%% *}")" -- "$last")
-    COMPREPLY=("${COMPREPLY[@]/#/$before}")
+    # One by one: a substitution over the whole array would take an & in what is typed for what it
+    # has matched.
+    local i
+    for i in "${!COMPREPLY[@]}"; do
+        COMPREPLY[i]=$before${COMPREPLY[i]}
+    done
 }
 
 _usmira_outil() {
-    local program=$1 word=$2
+    local program=${1/#'~/'/$HOME/} word=$2
     case $3 in
     -e)
         _usmira_outil_command "$program" "$word"
