@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>ATTENTION : %1 paragraphes du fichier à importer ont les mêmes numéros que ceux du fichier actuel. Voulez-vous REMPLACER les paragraphes de l&apos;aventure actuelle par ceux de l&apos;aventure importée ?</source>
-        <translation>WARNING: %1 paragraphs of the file to import have the same numbers as paragraphs of the current file. Do you want to REPLACE the paragraphs of the current adventure with those of the imported one?</translation>
+        <translation>WARNING: Paragraphs of the file to import whose numbers are those of paragraphs of the current file: %1. Do you want to REPLACE the paragraphs of the current adventure with those of the imported one?</translation>
     </message>
     <message>
         <source>Attention !</source>
@@ -1104,11 +1104,11 @@
     </message>
     <message>
         <source>Ctrl+Alt+Y rétablit la commande.</source>
-        <translation>Ctrl+Alt+Y redoes the command.</translation>
+        <translation>Ctrl+Alt+Y redoes it.</translation>
     </message>
     <message>
         <source>Ctrl+Alt+Z annule la commande.</source>
-        <translation>Ctrl+Alt+Z undoes the command.</translation>
+        <translation>Ctrl+Alt+Z undoes it.</translation>
     </message>
     <message>
         <source>Cette commande ne peut plus être annulée.</source>
@@ -4149,7 +4149,7 @@ Create it?</translation>
     </message>
     <message>
         <source>&amp;Rouvrir la dernière au démarrage</source>
-        <translation>&amp;Reopen the last one at start-up</translation>
+        <translation>&amp;Reopen the last adventure at start-up</translation>
     </message>
     <message>
         <source>L&apos;aventure ouverte en dernier</source>
