@@ -1831,6 +1831,10 @@ A workshop for writing gamebooks.</translation>
         <source>Aucun Problème !</source>
         <translation>No Problem!</translation>
     </message>
+    <message>
+        <source>Niouf</source>
+        <translation>Nope</translation>
+    </message>
 </context>
 <context>
     <name>ReadingLines</name>

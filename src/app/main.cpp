@@ -10,10 +10,31 @@
 #include "store/WorkingFiles.h"
 #include "store/WorkingFolder.h"
 
+#include <QByteArray>
 #include <QIcon>
+#include <cstdio>
+#include <cstdlib>
+
+namespace
+{
+// What every program is asked by scripts, also where there is no screen. Nothing for any other
+// word.
+QByteArray answerTo(const QByteArray &argument)
+{
+    if (argument == "--version")
+        return "usmira " USMIRA_VERSION "\n";
+    if (argument == "--help" || argument == "--aide")
+        return "usmira [AVENTURE.usm]\n";
+    return {};
+}
+} // namespace
 
 int main(int argc, char *argv[])
 {
+    if (const QByteArray answer = answerTo(argc == 2 ? argv[1] : ""); !answer.isEmpty()) {
+        std::fputs(answer.constData(), stdout);
+        return EXIT_SUCCESS;
+    }
     EndSignals::holdBack();
     letTooLongWritesFail();
     Application application(argc, argv);

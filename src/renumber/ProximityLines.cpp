@@ -96,7 +96,8 @@ std::optional<ProximityLines> ProximityScan(const Variables &variables, double p
     if (proximity == 0) {
         prompts.message(QCoreApplication::translate(
                             "ProximityLines", "Proximity Scan avec 0 ou moins ne fait aucun sens."),
-                        QStringLiteral("Niouf"), Prompts::Buttons::Ok);
+                        QCoreApplication::translate("ProximityLines", "Niouf"),
+                        Prompts::Buttons::Ok);
         return std::nullopt;
     }
     Scan scan(proximity);

@@ -17,6 +17,7 @@ void showAside(QWidget &tool)
 void moveWithinScreen(QWidget &window, const QPoint &topLeft)
 {
     const QRect room = window.screen()->availableGeometry();
+    window.resize(window.size().boundedTo(room.size()));
     const int right = std::max(room.left(), room.right() - window.width());
     const int bottom = std::max(room.top(), room.bottom() - window.height());
     window.move(std::clamp(topLeft.x(), room.left(), right),

@@ -10,7 +10,8 @@ class QWidget;
 // where it covers least of the text, unless it is open already; never beyond the screen.
 void showAside(QWidget &tool);
 
-// Moves the window's upper left corner there, or as near as the whole of it stays on the screen.
+// Moves the window's upper left corner there, or as near as the whole of it stays on the screen; a
+// window that is larger than that becomes smaller.
 void moveWithinScreen(QWidget &window, const QPoint &topLeft);
 
 // A tool window that covers this place of the screen, where something was found, makes room for it.

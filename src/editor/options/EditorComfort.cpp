@@ -71,7 +71,8 @@ EditorComfort readComfort(const QString &path)
     EditorComfort comfort;
     try {
         const QString text = QString::fromUtf8(readWholeFile(path, LargestFile));
-        const QStringList lines = text.split(QStringLiteral("\r\n"));
+        QStringList lines = text.split(u'\n');
+        lines.replaceInStrings(QStringLiteral("\r"), QString());
         for (const QString &one : lines)
             readValue(one.section(u'=', 0, 0), one.section(u'=', 1), comfort);
     } catch (const UsmiraError &) {
