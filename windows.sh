@@ -4,12 +4,15 @@
 cd "$(dirname "$0")"
 . scripts/setup.sh
 set -E # a step that fails within a function says so too
+. scripts/windows/sources.sh
 . scripts/windows/qt.sh
+. scripts/windows/libraries.sh
 . scripts/windows/wine.sh
 . scripts/windows/pack.sh
 
-install_missing "${QT_PACKAGES[@]}" "${WINE_PACKAGES[@]}" "${PACK_PACKAGES[@]}" ccache
+install_missing "${QT_PACKAGES[@]}" "${LIBRARY_PACKAGES[@]}" "${WINE_PACKAGES[@]}" "${PACK_PACKAGES[@]}" ccache
 qt_for_windows
+libraries_for_windows
 wine_folder
 grep -qsF "$QT_FOLDER/" build/windows/CMakeCache.txt || rm -rf build/windows/CMake*
 if [ ! -f build/windows/CMakeCache.txt ]; then

@@ -1,5 +1,5 @@
 # Sourced by windows.sh: builds Qt for Windows from Debian's own sources, once, in the user's cache
-# folder. Expects scripts/setup.sh.
+# folder. Expects scripts/setup.sh and sources.sh.
 
 QT_PACKAGES=(dpkg-dev g++-mingw-w64-x86-64-posix cmake ninja-build perl qt6-base-dev
     qt6-base-dev-tools qt6-l10n-tools)
@@ -18,26 +18,6 @@ QT_OPTIONS=(-DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=ON -DQT_BUILD_EXAMPLE
 
 # A library of Qt and the tools that its build runs must be of one version.
 qt_version() { dpkg-query -W -f '${source:Version}' "$1"; }
-
-# qt_sources FOLDER: fetches them, if they are not there. apt is given a configuration of its own; that of
-# the machine stays as it is.
-qt_sources() {
-    local apt=$1/apt version
-    [ ! -d "$1/qt6-base" ] || return 0
-    mkdir -p "$apt/lists/partial" "$apt/parts"
-    apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT) #$(ORIGIN)' \
-        'Created-By: Packages' | sed -n 's/ #Debian$//p' >"$apt/sources.list"
-    [ -s "$apt/sources.list" ] || fail "apt knows no archive of Debian to take Qt's sources from"
-    local own=(-o "Dir::Etc::sourcelist=$apt/sources.list" -o "Dir::Etc::sourceparts=$apt/parts"
-        -o "Dir::State::lists=$apt/lists" -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache=)
-    apt-get "${own[@]}" update -q
-    version=$(qt_version qt6-base-dev)
-    (cd "$1" && apt-get "${own[@]}" source -q --download-only "qt6-base=$version") ||
-        fail "Debian's archive does not give out the sources of qt6-base $version"
-    rm -rf "$1/qt6-base.part"
-    dpkg-source --no-check -x "$1/qt6-base_${version#*:}.dsc" "$1/qt6-base.part" >/dev/null
-    mv "$1/qt6-base.part" "$1/qt6-base"
-}
 
 # Of ninja's lines one for each twentieth of the way.
 every_twentieth() {
@@ -85,7 +65,7 @@ qt_for_windows() {
     say "Building Qt for Windows in $QT_FOLDER: once, about 35 minutes on two cores. When it is
    interrupted, the next run goes on where it stopped."
     say "Fetching Debian's sources of Qt"
-    qt_sources "$QT_FOLDER"
+    debian_sources "$QT_FOLDER" qt6-base "$(qt_version qt6-base-dev)"
     qt_build "$QT_FOLDER"
     touch "$QT_FOLDER/windows/complete"
     rm -rf "$QT_FOLDER/build" "$QT_FOLDER"/*.tar.xz "$QT_FOLDER/apt"

@@ -21,12 +21,17 @@ wine_folder() {
 
 for_wine() { printf 'Z:%s' "${1//\//\\}"; }
 
+# What Qt asks the environment for does not get through to Wine, unless its registry says it.
+wine_setting() {
+    "$WINE" reg add 'HKCU\Environment' /v "$1" /d "$2" /f >/dev/null
+}
+
 # Without a screen, with the fonts that the tests have elsewhere too.
 wine_tests() {
-    export QT_QPA_FONTDIR
     mkdir -p build/windows/fonts
     cp /usr/share/fonts/truetype/{liberation,dejavu}/*.ttf build/windows/fonts/
-    QT_QPA_FONTDIR=$(for_wine "$PWD/build/windows/fonts")
+    wine_setting QT_QPA_FONTDIR "$(for_wine "$PWD/build/windows/fonts")"
+    wine_setting QT_QPA_PLATFORM offscreen
     ctest --test-dir build/windows --no-tests=error -j "$(nproc)" || {
         find build/windows/tests -name '*.report' -exec grep -ahE -A2 '^(FAIL|QFATAL)' {} +
         fail "these tests do not pass under Wine"

@@ -119,6 +119,7 @@ void prepareWorkingFolder(const QString &workingFolder, const QString &bundledDo
 
 void makeWorkingFolder(const QString &workingFolder)
 {
-    prepareWorkingFolder(workingFolder,
-                         findBundledDocuments(QCoreApplication::applicationDirPath()));
+    if (!QFileInfo::exists(workingFolder))
+        prepareWorkingFolder(workingFolder,
+                             findBundledDocuments(QCoreApplication::applicationDirPath()));
 }
