@@ -45,13 +45,15 @@ ship_licences() {
     cp /usr/share/doc/breeze-icon-theme/copyright "$1/Breeze.txt"
     cp /usr/share/doc/gcc-mingw-w64-base/copyright "$1/GCC.txt"
     cp /usr/share/doc/mingw-w64-x86-64-dev/copyright "$1/MinGW.txt"
+    cp "$2"/windows/licences/*.txt "$1/"
+    cp /usr/share/doc/hyphen-fr/copyright "$1/hyphen-fr.txt"
     cp /usr/share/common-licenses/{LGPL-2.1,LGPL-3,GPL-2,GPL-3} "$1/"
 }
 
 # ship_libraries FOLDER QT
 ship_libraries() {
     local file
-    for file in Core Gui Widgets; do
+    for file in Core Gui PrintSupport Widgets; do
         cp "$2/windows/bin/Qt6$file.dll" "$1/"
     done
     for file in libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll; do
@@ -80,6 +82,8 @@ ship() {
     x86_64-w64-mingw32-strip "$1"/*.exe
     ship_libraries "$1" "$2"
     ship_icons "$1/icons"
+    mkdir -p "$1/hyphen"
+    cp -L /usr/share/hyphen/hyph_fr.dic "$1/hyphen/"
     ship_licences "$1/licences" "$2"
     cp resources/documents/* "$1/documents/"
     cp -r resources/samples "$1/documents/"

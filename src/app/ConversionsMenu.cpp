@@ -1,13 +1,10 @@
 #include "app/ConversionsMenu.h"
 
-#include "convert/epub/ZipArchive.h"
 #include "convert/epub/epubDlog.h"
 #include "convert/html/manyHTML.h"
 #include "convert/html/onebigHTML.h"
 #include "convert/page/pageDlog.h"
-#ifndef Q_OS_WIN
 #include "convert/pdf/bookPdfDlog.h"
-#endif
 #include "convert/rtf/convertRTF.h"
 #include "editor/CommandRunner.h"
 #include "editor/EditorView.h"
@@ -28,14 +25,9 @@ void ConversionsMenu::connectItems(const Items &items, const RtfBox &box, Comman
     runner.add(items.loadOne, Kind::Editing, [this, &box] { menuConvLoad1_Click(box); });
     runner.add(items.oneHtml, Kind::Saved, [this] { publish<onebigHTML>(); });
     runner.add(items.manyHtml, Kind::Saved, [this] { publish<manyHTML>(m_lastFolder); });
-#ifdef Q_OS_WIN
-    items.pdf.setVisible(false);
-#else
     runner.add(items.pdf, Kind::Saved, [this] { publish<bookPdfDlog>(); });
-#endif
     runner.add(items.epub, Kind::Saved, [this] { publish<epubDlog>(); });
     runner.add(items.page, Kind::Saved, [this] { publish<pageDlog>(); });
-    items.epub.setVisible(ZipArchive::isAvailable());
 }
 
 template <typename Dialog, typename... State> void ConversionsMenu::publish(State &...state)

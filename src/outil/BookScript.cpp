@@ -1,10 +1,7 @@
 #include "convert/epub/EpubCommand.h"
-#include "convert/epub/ZipArchive.h"
 #include "convert/page/PageCommand.h"
-#ifndef Q_OS_WIN
 #include "convert/pdf/PageWords.h"
 #include "convert/pdf/PdfCommand.h"
-#endif
 #include "outil/CommandEntry.h"
 #include "outil/Commands.h"
 #include "outil/Script.h"
@@ -57,7 +54,6 @@ QByteArray epub(CommandServices &script, const QStringList &arguments)
     return {};
 }
 
-#ifndef Q_OS_WIN
 // Title and author count for this file alone, the other words are those of a page setup.
 PdfChoice pdfChoiceOf(const CommandServices &script, const QStringList &words)
 {
@@ -90,7 +86,6 @@ QByteArray pdf(CommandServices &script, const QStringList &arguments)
         script.prompts.notice(*remark, Commands::tr("Livre"));
     return {};
 }
-#endif
 QByteArray lecture(CommandServices &script, const QStringList &arguments)
 {
     const QString word = arguments.value(3);
@@ -103,18 +98,12 @@ QByteArray lecture(CommandServices &script, const QStringList &arguments)
 
 std::vector<CommandEntry> bookEntries()
 {
-    std::vector<CommandEntry> entries{
+    return {
         {"lecture", "BAS HAUT FICHIER.html [fiche]",
-         QT_TRANSLATE_NOOP("Commands", "publie une page HTML pour lire le livre"), true, &lecture}};
-    if (ZipArchive::isAvailable())
-        entries.push_back({"epub", "BAS HAUT FICHIER [titre=TITRE] [auteur=AUTEUR] [date=DATE]",
-                           QT_TRANSLATE_NOOP("Commands", "publie un livre numérique (EPUB)"), true,
-                           &epub});
-#ifndef Q_OS_WIN
-    entries.push_back(
+         QT_TRANSLATE_NOOP("Commands", "publie une page HTML pour lire le livre"), true, &lecture},
+        {"epub", "BAS HAUT FICHIER [titre=TITRE] [auteur=AUTEUR] [date=DATE]",
+         QT_TRANSLATE_NOOP("Commands", "publie un livre numérique (EPUB)"), true, &epub},
         {"pdf", "BAS HAUT FICHIER [papier=A5] [police=NOM] [taille=POINTS] [NOM=VALEUR...]",
-         QT_TRANSLATE_NOOP("Commands", "met un livre en pages, prêt à imprimer (PDF)"), true,
-         &pdf});
-#endif
-    return entries;
+         QT_TRANSLATE_NOOP("Commands", "met un livre en pages, prêt à imprimer (PDF)"), true, &pdf},
+    };
 }

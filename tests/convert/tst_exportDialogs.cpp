@@ -74,9 +74,7 @@ private Q_SLOTS:
             {"menuConv1toHTML", "onebigHTML", "Cancel"},
             {"menuConvNtoHTML", "manyHTML", "Cancel"},
             {"menuConvRTF", "convertRTF", "CancelButton"},
-#ifndef Q_OS_WIN
             {"menuConvPdf", "bookPdfDlog", "CancelButton"},
-#endif
             {"menuConvEpub", "epubDlog", "CancelButton"},
             {"menuConvPage", "pageDlog", "CancelButton"}};
         for (const auto &[item, name, cancel] : cases) {
@@ -299,7 +297,6 @@ private Q_SLOTS:
         QCOMPARE(scene.status(), "3 paragraphes écrits : " + scene.path("a.html"));
     }
 
-#ifndef Q_OS_WIN
     // With the setup that the next book begins with.
     void aPrintedBookIsWrittenAsItWasShown()
     {
@@ -339,7 +336,6 @@ private Q_SLOTS:
             click(dialog, "CancelButton");
         });
     }
-#endif
 
     void eachBoxHasItsFile_data()
     {

@@ -465,13 +465,11 @@ uniformiser - 1639
         row("word of a compilation",
             {QStringLiteral("ouvrir @"), QStringLiteral("compiler-rtf 1 9 @.e lien")}, 2,
             QStringLiteral("liens attendu : lien"));
-#ifndef Q_OS_WIN
         row("words of pages", {QStringLiteral("ouvrir @"), QStringLiteral("pdf 1 9 @.p encre=1")},
             2, QStringLiteral("mise en pages inconnue : encre=1"));
         row("pages without room",
             {QStringLiteral("ouvrir @"), QStringLiteral("pdf 1 9 @.p interieur=120")}, 1,
             QStringLiteral("Zut : Les marges intérieure et extérieure ne laissent pas 25 mm"));
-#endif
         row("word of a page", {QStringLiteral("ouvrir @"), QStringLiteral("lecture 1 9 @.e de")}, 2,
             QStringLiteral("fiche attendu : de"));
         row("nothing in the range", {QStringLiteral("ouvrir @"), QStringLiteral("lecture 5 9 @.e")},

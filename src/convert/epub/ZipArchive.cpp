@@ -43,11 +43,6 @@ ZipArchive::ZipArchive() : m_library(std::make_unique<Library>())
 
 ZipArchive::~ZipArchive() = default;
 
-bool ZipArchive::isAvailable()
-{
-    return true;
-}
-
 void ZipArchive::add(const QString &name, const QByteArray &bytes, Packing packing)
 {
     zip_t *archive = m_library->archive;

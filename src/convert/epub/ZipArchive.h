@@ -16,9 +16,6 @@ public:
     ZipArchive(const ZipArchive &) = delete;
     ZipArchive &operator=(const ZipArchive &) = delete;
 
-    // Whether this program was built with a library for it. Without one the archive throws.
-    static bool isAvailable();
-
     // Files come in the order in which they are added. The name is ASCII, each once.
     void add(const QString &name, const QByteArray &bytes, Packing packing = Packing::Deflated);
 

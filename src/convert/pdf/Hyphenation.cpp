@@ -1,9 +1,11 @@
 #include "convert/pdf/Hyphenation.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QStringEncoder>
+#include <cstdio>
 #include <cstdlib>
 #include <hyphen.h>
 
@@ -11,7 +13,11 @@ struct Hyphenation::Patterns {
     HyphenDict *dictionary = nullptr;
     QStringEncoder encoder;
     QHash<QString, QList<qsizetype>> known; // words of a book come again and again
-    ~Patterns() { hnj_hyphen_free(dictionary); }
+    ~Patterns()
+    {
+        if (dictionary != nullptr)
+            hnj_hyphen_free(dictionary);
+    }
 
     QList<qsizetype> placesIn(const QString &word);
 };
@@ -37,6 +43,16 @@ QString patternFile(const QString &language, const QStringList &folders)
                 return QDir(folder).filePath(found.first());
         }
     return {};
+}
+
+// The library would take the name of a file in the code page of the system.
+std::FILE *openForReading(const QString &path)
+{
+#ifdef Q_OS_WIN
+    return ::_wfopen(path.toStdWString().c_str(), L"rb");
+#else
+    return std::fopen(QFile::encodeName(path).constData(), "rb");
+#endif
 }
 
 // What the library says of a word: a mark for each letter, and where the parts are written
@@ -88,7 +104,8 @@ QList<qsizetype> Hyphenation::Patterns::placesIn(const QString &word)
 
 QStringList Hyphenation::systemFolders()
 {
-    return {QStringLiteral("/usr/share/hyphen"), QStringLiteral("/usr/local/share/hyphen")};
+    return {QStringLiteral("/usr/share/hyphen"), QStringLiteral("/usr/local/share/hyphen"),
+            QCoreApplication::applicationDirPath() + QStringLiteral("/hyphen")};
 }
 
 Hyphenation::Hyphenation(const QString &language, const QStringList &folders)
@@ -97,7 +114,11 @@ Hyphenation::Hyphenation(const QString &language, const QStringList &folders)
     if (file.isEmpty())
         return;
     auto patterns = std::make_unique<Patterns>();
-    patterns->dictionary = hnj_hyphen_load(QFile::encodeName(file).constData());
+    std::FILE *opened = openForReading(file);
+    if (opened == nullptr)
+        return;
+    patterns->dictionary = hnj_hyphen_load_file(opened);
+    std::fclose(opened);
     if (patterns->dictionary == nullptr)
         return;
     patterns->encoder = QStringEncoder(patterns->dictionary->cset);

@@ -16,6 +16,7 @@ public:
     Hyphenation(const Hyphenation &) = delete;
     Hyphenation &operator=(const Hyphenation &) = delete;
 
+    // Those of the system, and one that the program may carry with it.
     static QStringList systemFolders();
 
     // False: the system has no patterns, and no word is parted.
