@@ -4,7 +4,6 @@
 #include "Figures.h"
 #include "PeakMemory.h"
 #include "convert/epub/EpubCommand.h"
-#include "convert/epub/ZipArchive.h"
 #include "convert/page/PageCommand.h"
 #include "convert/rtf/CompileCommand.h"
 
@@ -69,8 +68,6 @@ void printBookFigures(const QString &path, const QString &folder)
     editor.commands.OpenAdventure(path);
     const ExportCommand command(editor.variables, editor.prompts, editor.view);
     printPage(command, folder);
-    if (!ZipArchive::isAvailable())
-        return;
     printEpub(command, folder);
     printPandocEpub(command, folder);
 }

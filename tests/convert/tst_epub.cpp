@@ -1,7 +1,6 @@
 #include "convert/book/BookHtml.h"
 #include "convert/book/XmlText.h"
 #include "convert/epub/EpubBook.h"
-#include "convert/epub/ZipArchive.h"
 #include "support/TestTable.h"
 
 #include <QObject>

@@ -1,5 +1,4 @@
 #include "app/WindowFixture.h"
-#include "convert/epub/ZipArchive.h"
 #include "richtext/HiddenBox.h"
 #include "support/TestTable.h"
 
@@ -144,15 +143,16 @@ private Q_SLOTS:
     void pagesGoIntoTheFolderThatIsTyped()
     {
         Scene scene;
-        const QString folder = scene.path("pages/neuves");
+        const QString folder = QDir::toNativeSeparators(scene.path("pages/neuves"));
+        const QString parent = QDir::toNativeSeparators(scene.path(""));
         const QString offer = "Ce dossier n'existe pas :\n" + folder + "\nLe créer?";
         using Answer = Prompts::Answer;
         scene.in("menuConvNtoHTML", [&](const QDialog &dialog) {
             auto &folderBox = child<QLineEdit>(dialog, "folderBox");
             QCOMPARE(child<QLineEdit>(dialog, "txtPrefix").text(), "LL-");
-            scene.prompts.expectFileDialog("Choisissez un Dossier", {}, scene.path(""));
+            scene.prompts.expectFileDialog("Choisissez un Dossier", {}, parent);
             click(dialog, "btnBrowse");
-            QCOMPARE(folderBox.text(), scene.path(""));
+            QCOMPARE(folderBox.text(), parent);
             const int beeps = scene.prompts.beeps();
             typeOver(folderBox, " ");
             click(dialog, "HTML");
@@ -255,8 +255,6 @@ private Q_SLOTS:
 
     void anEpubIsWritten()
     {
-        if (!ZipArchive::isAvailable())
-            QSKIP("built without a library for ZIP archives");
         Scene scene;
         scene.in("menuConvEpub", [&](QDialog &dialog) {
             const auto &book = child<QLabel>(dialog, "lblBook");

@@ -184,6 +184,9 @@ private Q_SLOTS:
     }
     void ownFilesAreRefused()
     {
+#ifdef Q_OS_WIN
+        QSKIP("Windows lets administrators alone make links");
+#endif
         namespace fs = std::filesystem;
         QFETCH(QString, name);
         QFETCH(bool, refused);
