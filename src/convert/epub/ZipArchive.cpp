@@ -3,6 +3,9 @@
 #include "platform/Errors.h"
 
 #include <QList>
+#ifdef Q_OS_WIN
+#define ZIP_STATIC // it is part of the program there
+#endif
 #include <zip.h>
 
 struct ZipArchive::Library {
