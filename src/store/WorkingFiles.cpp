@@ -34,7 +34,7 @@ QStringList withNumbers(QStringList paths)
 } // namespace
 
 WorkingFiles::WorkingFiles(const QString &folder, const QString &filePrefix)
-    : m_folder(folder), m_filePrefix(filePrefix)
+    : m_folder(QDir::fromNativeSeparators(folder)), m_filePrefix(filePrefix)
 {
 }
 

@@ -31,7 +31,8 @@ struct Variables;
 class WorkingFiles
 {
 public:
-    // folder ends with a separator.
+    // folder ends with a separator. All names have the separators of Qt, so that the same file has
+    // the same name, whether it was made up or found.
     explicit WorkingFiles(const QString &folder, const QString &filePrefix = {});
     // Those of the open adventure.
     explicit WorkingFiles(const Variables &variables);

@@ -135,7 +135,8 @@ QByteArray lengthInBlock(qsizetype n)
 TestAdventure::TestAdventure()
 {
     QVERIFY(m_folder.isValid());
-    variables.WorkingFolder = m_folder.filePath(QStringLiteral("Dossier Usmira")) + u'/';
+    variables.WorkingFolder = // as the program has it
+        QDir::toNativeSeparators(m_folder.filePath(QStringLiteral("Dossier Usmira")) + u'/');
     QVERIFY(QDir().mkpath(variables.WorkingFolder));
 }
 
