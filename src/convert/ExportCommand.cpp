@@ -3,6 +3,8 @@
 #include "platform/Failures.h"
 #include "store/ExportTarget.h"
 #include "store/LongWork.h"
+
+#include <QDir>
 #include "store/Variables.h"
 
 #include <algorithm>
@@ -60,6 +62,7 @@ void ExportCommand::tellNothingWritten(const FileError &error) const
 
 void ExportCommand::announce(int written, const QString &place, const QString &remark) const
 {
-    const QString told = tr("%n paragraphe(s) écrit(s) : %1", nullptr, written).arg(place);
+    const QString told = tr("%n paragraphe(s) écrit(s) : %1", nullptr, written)
+                             .arg(QDir::toNativeSeparators(place));
     m_report.announce(remark.isEmpty() ? told : told + QStringLiteral(" · ") + remark);
 }

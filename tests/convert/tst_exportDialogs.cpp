@@ -27,6 +27,7 @@ struct Scene : WindowFixture {
         return inDialog([&] { trigger(item); }, work);
     }
     QString path(const char *name) const { return adventure.path(name); }
+    QString shown(const char *name) const { return QDir::toNativeSeparators(path(name)); }
     QString status() const { return control<QStatusBar>("statusBar").currentMessage(); }
 };
 
@@ -137,7 +138,7 @@ private Q_SLOTS:
                  "but\r\n\xE9\r\n<A NAME=\"P0003\"></A>3:<P ALIGN=\"Left\">Trois.\r\n<BR>\r\n"
                  "<A NAME=\"P0005\"></A>5:<P ALIGN=\"Left\">Cinq au "
                  "<A HREF=\"#P0003\">3</A>\r\n<BR>\r\nfin\r\n");
-        QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.path("a.htm"));
+        QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.shown("a.htm"));
     }
 
     void pagesGoIntoTheFolderThatIsTyped()
@@ -250,7 +251,7 @@ private Q_SLOTS:
         QCOMPARE(document.selFontName(), "Courier New");
         QCOMPARE(document.selFontSize(), 20.0);
         QVERIFY(document.selBold() == true && document.selItalic() == true);
-        QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.path("a.rtf"));
+        QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.shown("a.rtf"));
     }
 
     void anEpubIsWritten()
@@ -279,7 +280,7 @@ private Q_SLOTS:
             QVERIFY(!dialog.isVisible());
         });
         QVERIFY(scene.adventure.content("a.epub").contains("p0012.xhtml"));
-        QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.path("a.epub"));
+        QCOMPARE(scene.status(), "2 paragraphes écrits : " + scene.shown("a.epub"));
     }
 
     void aPageForReadingIsWritten()
@@ -292,7 +293,7 @@ private Q_SLOTS:
             QVERIFY(!dialog.isVisible());
         });
         QVERIFY(scene.adventure.content("a.html").contains("id=\"die\""));
-        QCOMPARE(scene.status(), "3 paragraphes écrits : " + scene.path("a.html"));
+        QCOMPARE(scene.status(), "3 paragraphes écrits : " + scene.shown("a.html"));
     }
 
     // With the setup that the next book begins with.
@@ -326,7 +327,7 @@ private Q_SLOTS:
             QVERIFY(!dialog.isVisible());
         });
         QVERIFY(scene.adventure.content("a.pdf").startsWith("%PDF"));
-        QVERIFY(scene.status().startsWith("3 paragraphes écrits : " + scene.path("a.pdf")));
+        QVERIFY(scene.status().startsWith("3 paragraphes écrits : " + scene.shown("a.pdf")));
         scene.in("menuConvPdf", [&](QDialog &dialog) {
             QCOMPARE(child<QLineEdit>(dialog, "txtWidth").text(), "140");
             QVERIFY(child<QCheckBox>(dialog, "chkPageEach").isChecked());

@@ -529,6 +529,7 @@ enregistrer
         v.CurrentParagraph = 7;
         v.ParagraphDirty = true;
         keepBox(v, box);
+        v.AdventureFile.reset(); // the system closes the files of a program that is killed
         const Outcome outcome = run(killed, {QStringLiteral("--recuperer"), QStringLiteral("-e"),
                                              QStringLiteral("effacer 1"), QStringLiteral("-e"),
                                              QStringLiteral("texte-brut 7"), QStringLiteral("-e"),

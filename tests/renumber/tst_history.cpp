@@ -357,7 +357,7 @@ private Q_SLOTS:
             scene.v.CurrentParagraph = static_cast<qint16>(after.current);
             QCOMPARE(difference(scene.book(), after), QString());
             QVERIFY(scene.v.extras == extras);
-            QVERIFY(scene.prompts.said.isEmpty());
+            QCOMPARE(scene.prompts.said, QStringList());
         }
         scene.script.adventure.Save();
         scene.script.adventure.OpenAdventure(scene.path);

@@ -2,6 +2,7 @@
 
 #include "platform/Translations.h"
 #include "richtext/HiddenBox.h"
+#include "store/WorkingFiles.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -165,5 +166,8 @@ QStringList TestAdventure::workingFiles() const
     for (const QString &name : inside)
         names.append(session + u'/' + name);
     names.removeOne(QStringLiteral("Copies"));
+    names.removeOne(QStringLiteral("Usmira Documents.xyz"));
+    names.removeIf(
+        [](const QString &name) { return WorkingFiles::documentNames().contains(name); });
     return names;
 }

@@ -69,7 +69,7 @@ public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
     QByteArray content(const QString &name) const;
     // Names of what lies in the working folder, sorted, and last of what lies in "Session"; the
-    // dated copies are left out.
+    // dated copies and the bundled documents are left out.
     QStringList workingFiles() const;
 
     Variables variables;
