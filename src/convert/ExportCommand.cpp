@@ -4,8 +4,8 @@
 #include "store/ExportTarget.h"
 #include "store/LongWork.h"
 
-#include <QDir>
 #include "store/Variables.h"
+#include <QDir>
 
 #include <algorithm>
 
@@ -62,7 +62,7 @@ void ExportCommand::tellNothingWritten(const FileError &error) const
 
 void ExportCommand::announce(int written, const QString &place, const QString &remark) const
 {
-    const QString told = tr("%n paragraphe(s) écrit(s) : %1", nullptr, written)
-                             .arg(QDir::toNativeSeparators(place));
+    const QString told =
+        tr("%n paragraphe(s) écrit(s) : %1", nullptr, written).arg(QDir::toNativeSeparators(place));
     m_report.announce(remark.isEmpty() ? told : told + QStringLiteral(" · ") + remark);
 }
