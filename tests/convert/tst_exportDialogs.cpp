@@ -151,7 +151,7 @@ private Q_SLOTS:
         scene.in("menuConvNtoHTML", [&](const QDialog &dialog) {
             auto &folderBox = child<QLineEdit>(dialog, "folderBox");
             QCOMPARE(child<QLineEdit>(dialog, "txtPrefix").text(), "LL-");
-            scene.prompts.expectFileDialog("Choisissez un Dossier", {}, parent);
+            scene.prompts.expectFileDialog("Choisissez un Dossier", {}, scene.path(""));
             click(dialog, "btnBrowse");
             QCOMPARE(folderBox.text(), parent);
             const int beeps = scene.prompts.beeps();

@@ -357,7 +357,7 @@ private Q_SLOTS:
             scene.v.CurrentParagraph = static_cast<qint16>(after.current);
             QCOMPARE(difference(scene.book(), after), QString());
             QVERIFY(scene.v.extras == extras);
-            QCOMPARE(scene.prompts.said, QStringList());
+            QCOMPARE(scene.prompts.said.join('|'), "");
         }
         scene.script.adventure.Save();
         scene.script.adventure.OpenAdventure(scene.path);
