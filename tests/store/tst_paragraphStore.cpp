@@ -103,7 +103,7 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(place));
         s.type(20, "la place est libre");
         QVERIFY(s.workingFiles().contains("a-0020.rtf") &&
-                s.workingFiles().contains("Aide Française.rtf"));
+                !s.content("Dossier Usmira/Aide Française.rtf").isEmpty());
     }
 
     void textsComeFromTheFileThatWasOpened()
