@@ -98,8 +98,8 @@ private Q_SLOTS:
     void captionsAreWholeOnASmallScreen()
     {
         const Scene scene;
-        for (const char *item : {"menuConv1toHTML", "menuConvNtoHTML", "menuConvRTF",
-                                 "menuConvPdf", "menuConvEpub", "menuConvPage"}) {
+        for (const char *item : {"menuConv1toHTML", "menuConvNtoHTML", "menuConvRTF", "menuConvPdf",
+                                 "menuConvEpub", "menuConvPage"}) {
             if (!scene.control<QAction>(item).isVisible())
                 continue;
             scene.in(item, [&](QDialog &dialog) {

@@ -87,7 +87,8 @@ double saveGraph(const Variables &variables, const GraphDrawing &drawing, const 
                  const QString &title)
 {
     refuseOwnFiles(variables, path);
-    const GraphPng saved = isImageName(path) ? graphPng(drawing) : GraphPng{graphSvg(drawing, title), 1};
+    const GraphPng saved =
+        isImageName(path) ? graphPng(drawing) : GraphPng{graphSvg(drawing, title), 1};
     writeWholeFile(path, saved.bytes, Durability::Full, Links::Follow);
     return saved.scale;
 }
