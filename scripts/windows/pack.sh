@@ -9,7 +9,8 @@ icons_used() {
 }
 
 # ship_icons FOLDER: of Debian's theme what is used, light and dark, as pictures, since Qt's base
-# reads no SVG; also twice as large for screens with small dots.
+# reads no SVG; also twice as large for screens with small dots. The larger ones of the theme are
+# other drawings.
 ship_icons() {
     local theme name file scale side
     for theme in breeze breeze-dark; do
@@ -21,8 +22,7 @@ ship_icons() {
                     ship_icon "/usr/share/icons/$theme/$file" "$scale" \
                         "$1/$theme/$(dirname "$file")$([ $scale = 1 ] || echo @2x)/$name.png"
                 done
-            done < <(cd "/usr/share/icons/$theme" && find . -name "$name.svg" \
-                \( -path '*/16/*' -o -path '*/22/*' -o -path '*/32/*' \))
+            done < <(drawings_of "/usr/share/icons/$theme" "$name")
         done
     done
     for side in 16 24 32 48 64 128 256; do
@@ -30,6 +30,18 @@ ship_icons() {
         cp "build/windows/usmira-$side.png" "$1/hicolor/$side/usmira.png"
     done
     cp resources/windows/hicolor.theme "$1/hicolor/index.theme"
+}
+
+# drawings_of THEME NAME: in the two sizes of menus and buttons. One that is borrowed from another
+# name, which may look quite otherwise, counts only where the theme has none of this name.
+drawings_of() {
+    local sizes=(-name "$2.svg" \( -path '*/16/*' -o -path '*/22/*' \)) own
+    own=$(cd "$1" && find . "${sizes[@]}" -type f)
+    if [ -n "$own" ]; then
+        printf '%s\n' "$own"
+    else
+        (cd "$1" && find . "${sizes[@]}")
+    fi
 }
 
 # ship_icon SVG SCALE PNG
