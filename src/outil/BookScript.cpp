@@ -35,7 +35,8 @@ EpubChoice choiceOf(const CommandServices &script, const QStringList &words)
 {
     EpubChoice choice{bookFacts(script.variables)};
     for (const QString &word : words) {
-        if (const auto title = valueOf(word, QStringLiteral("titre")); title && !title->isEmpty())
+        if (const auto title = valueOf(word, QStringLiteral("titre"));
+            title && !title->trimmed().isEmpty())
             choice.facts.title = *title;
         else if (const auto author = valueOf(word, QStringLiteral("auteur")))
             choice.facts.author = *author;
@@ -60,7 +61,8 @@ PdfChoice pdfChoiceOf(const CommandServices &script, const QStringList &words)
     PdfChoice choice{bookFacts(script.variables), defaultPageSetup(script.variables)};
     QStringList pageWords;
     for (const QString &word : words) {
-        if (const auto title = valueOf(word, QStringLiteral("titre")); title && !title->isEmpty())
+        if (const auto title = valueOf(word, QStringLiteral("titre"));
+            title && !title->trimmed().isEmpty())
             choice.facts.title = *title;
         else if (const auto author = valueOf(word, QStringLiteral("auteur")))
             choice.facts.author = *author;

@@ -183,7 +183,7 @@ bool isLanguageCode(const QString &code)
 BookFacts bookFacts(const Variables &variables)
 {
     BookFacts facts = variables.extras.book;
-    if (facts.title.isEmpty())
+    if (facts.title.trimmed().isEmpty())
         facts.title = proposedName(variables);
     if (!isLanguageCode(facts.language))
         facts.language = BookFacts().language;
