@@ -30,6 +30,13 @@ QDateTime dateOf(const QString &value)
     return date.startOfDay(Qt::UTC);
 }
 
+QByteArray tell(CommandServices &script, const std::optional<QString> &remark)
+{
+    if (remark && !remark->isEmpty())
+        script.prompts.notice(*remark, Commands::tr("Livre"));
+    return {};
+}
+
 // What is said of the book counts for this file alone.
 EpubChoice choiceOf(const CommandServices &script, const QStringList &words)
 {
@@ -51,8 +58,8 @@ EpubChoice choiceOf(const CommandServices &script, const QStringList &words)
 
 QByteArray epub(CommandServices &script, const QStringList &arguments)
 {
-    exportToEpub(script.exports, exportRequest(arguments), choiceOf(script, arguments.mid(3)));
-    return {};
+    return tell(script, exportToEpub(script.exports, exportRequest(arguments),
+                                     choiceOf(script, arguments.mid(3))));
 }
 
 // Title and author count for this file alone, the other words are those of a page setup.
@@ -83,18 +90,15 @@ QByteArray pdf(CommandServices &script, const QStringList &arguments)
         script.prompts.message(fault, Commands::tr("Zut"), Prompts::Buttons::Ok);
         return {};
     }
-    const auto remark = exportToPdf(script.exports, exportRequest(arguments), choice);
-    if (remark && !remark->isEmpty())
-        script.prompts.notice(*remark, Commands::tr("Livre"));
-    return {};
+    return tell(script, exportToPdf(script.exports, exportRequest(arguments), choice));
 }
+
 QByteArray lecture(CommandServices &script, const QStringList &arguments)
 {
     const QString word = arguments.value(3);
     if (!word.isEmpty() && word != QStringLiteral("fiche"))
         throw UsageError(Commands::tr("fiche attendu : %1").arg(word));
-    exportToPage(script.exports, exportRequest(arguments), !word.isEmpty());
-    return {};
+    return tell(script, exportToPage(script.exports, exportRequest(arguments), !word.isEmpty()));
 }
 } // namespace
 

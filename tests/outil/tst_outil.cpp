@@ -383,6 +383,18 @@ uniformiser - 1639
                               "\\par \r\n\\par \r\n\\par }"));
     }
 
+    void booksTellOfReferencesToEmptyParagraphs()
+    {
+        TestAdventure adventure;
+        const QByteArray path =
+            adventure.file("a.usm", AdventureBuilder({"1: Va au 5"}).bytes()).toUtf8();
+        for (const QByteArray kind : {"pdf", "epub", "lecture"}) {
+            const QByteArray script = "ouvrir '" + path + "'\n" + kind + " 1 9 '" + path + ".x'";
+            const QString errors = run(adventure, {}, script).errors;
+            QVERIFY2(errors.contains("paragraphe vide") && errors.contains('5'), kind);
+        }
+    }
+
     void aBookOfADateIsAlwaysTheSame()
     {
         TestAdventure adventure;

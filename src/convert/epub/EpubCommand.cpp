@@ -17,8 +17,8 @@ QDateTime modifiedAt(const Variables &variables)
 }
 } // namespace
 
-bool exportToEpub(const ExportCommand &command, const ExportRequest &request,
-                  const EpubChoice &choice)
+std::optional<QString> exportToEpub(const ExportCommand &command, const ExportRequest &request,
+                                    const EpubChoice &choice)
 {
     const Variables &variables = command.variables();
     Book book;
@@ -29,9 +29,10 @@ bool exportToEpub(const ExportCommand &command, const ExportRequest &request,
         writeExport(variables, request.place, epubOf(book, choice.facts, choice.files, modified));
         return static_cast<int>(book.paragraphs.size());
     };
-    return command.mayReplace(request.place) && command.hasParagraphs(request) &&
-           command.run(request, {QCoreApplication::translate("EpubCommand", "Livre numérique..."),
-                                 write,
-                                 {},
-                                 [&] { return emptyTargetsSentence(book); }});
+    const auto remark = [&] { return emptyTargetsSentence(book); };
+    const ExportCommand::Kind kind{
+        QCoreApplication::translate("EpubCommand", "Livre numérique..."), write, {}, remark};
+    const bool written = command.mayReplace(request.place) && command.hasParagraphs(request) &&
+                         command.run(request, kind);
+    return written ? std::optional(remark()) : std::nullopt;
 }

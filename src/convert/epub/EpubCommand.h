@@ -4,6 +4,7 @@
 #include "convert/epub/EpubPages.h"
 
 #include <QDateTime>
+#include <optional>
 
 // What the author chooses of an EPUB.
 struct EpubChoice {
@@ -12,6 +13,7 @@ struct EpubChoice {
     QDateTime modified = {}; // invalid: when the adventure was saved, or now where it is not
 };
 
-// Writes the book as an EPUB as a command.
-bool exportToEpub(const ExportCommand &command, const ExportRequest &request,
-                  const EpubChoice &choice);
+// Writes the book as an EPUB as a command. Gives what is to be said of it, often nothing; no value
+// where no file was written.
+std::optional<QString> exportToEpub(const ExportCommand &command, const ExportRequest &request,
+                                    const EpubChoice &choice);

@@ -4,7 +4,8 @@
 #include "store/ExportTarget.h"
 #include "store/Variables.h"
 
-bool exportToPage(const ExportCommand &command, const ExportRequest &request, bool sheet)
+std::optional<QString> exportToPage(const ExportCommand &command, const ExportRequest &request,
+                                    bool sheet)
 {
     const Variables &variables = command.variables();
     Book book;
@@ -14,9 +15,10 @@ bool exportToPage(const ExportCommand &command, const ExportRequest &request, bo
                     pageOf(book, bookFacts(variables), {readingStarts(variables), sheet}));
         return static_cast<int>(book.paragraphs.size());
     };
-    return command.mayReplace(request.place) && command.hasParagraphs(request) &&
-           command.run(request, {QCoreApplication::translate("PageCommand", "Page de lecture..."),
-                                 write,
-                                 {},
-                                 [&] { return emptyTargetsSentence(book); }});
+    const auto remark = [&] { return emptyTargetsSentence(book); };
+    const ExportCommand::Kind kind{
+        QCoreApplication::translate("PageCommand", "Page de lecture..."), write, {}, remark};
+    const bool written = command.mayReplace(request.place) && command.hasParagraphs(request) &&
+                         command.run(request, kind);
+    return written ? std::optional(remark()) : std::nullopt;
 }
