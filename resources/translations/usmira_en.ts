@@ -1377,6 +1377,13 @@ A workshop for writing gamebooks.</translation>
     </message>
 </context>
 <context>
+    <name>MissingCharacters</name>
+    <message>
+        <source>Aucune police n&apos;a ces caractères, qui manqueront : %1.</source>
+        <translation>No font has these characters, which will be missing: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Navigation</name>
     <message>
         <source>Paragraphe libre : %1</source>

@@ -1,4 +1,5 @@
 #include "convert/book/Book.h"
+#include "convert/pdf/MissingCharacters.h"
 #include "convert/pdf/PageWords.h"
 #include "convert/pdf/PdfCommand.h"
 #include "convert/pdf/PdfFile.h"
@@ -249,6 +250,15 @@ private Q_SLOTS:
         QVERIFY(scene.view.told.contains("dictionnaire de césures manque (zz)"));
         QVERIFY(scene.print("police=Liberation Serif;cesures=non", 2, 2));
         QVERIFY(!scene.view.told.contains("manque"));
+    }
+
+    void charactersThatNoFontHasAreTold()
+    {
+        Book book;
+        book.paragraphs.append(
+            bookParagraph(1, "{\\rtf1 \\'e9t\\'e9\\u173 ? \\u9731 ? \\u20013 ?}", " au "));
+        const QString told = missingCharactersSentence(book, QFont("Liberation Serif"));
+        QVERIFY2(told.endsWith(QString(" : ") + QChar(20013) + '.'), qPrintable(told));
     }
 
     void nothingIsLeftOfWhatStops()

@@ -1,6 +1,9 @@
 #include "convert/pdf/BookTypesetter.h"
 
+#include "convert/pdf/MissingCharacters.h"
+
 #include <QCoreApplication>
+#include <QStringList>
 
 namespace
 {
@@ -75,14 +78,13 @@ BookPages BookTypesetter::pages()
 
 QString BookTypesetter::remarks() const
 {
-    QString remarks = m_fonts.missingSentence();
-    if (m_setup.hyphenated && !m_hyphenation.isThere()) {
-        if (!remarks.isEmpty())
-            remarks += u' ';
-        remarks += QCoreApplication::translate(
-                       "BookTypesetter",
-                       "Les mots ne sont pas coupés : le dictionnaire de césures manque (%1).")
-                       .arg(m_facts.language);
-    }
-    return remarks;
+    QStringList remarks{missingCharactersSentence(m_book, m_fonts.text()),
+                        m_fonts.missingSentence()};
+    if (m_setup.hyphenated && !m_hyphenation.isThere())
+        remarks.append(QCoreApplication::translate("BookTypesetter",
+                                                   "Les mots ne sont pas coupés : le dictionnaire "
+                                                   "de césures manque (%1).")
+                           .arg(m_facts.language));
+    remarks.removeAll(QString());
+    return remarks.join(u' ');
 }
