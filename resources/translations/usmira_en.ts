@@ -1705,7 +1705,7 @@ A workshop for writing gamebooks.</translation>
     </message>
     <message>
         <source>Numéros de la page</source>
-        <translation>Numbers on the page</translation>
+        <translation>Its numbers</translation>
     </message>
     <message>
         <source>Titre du livre</source>

@@ -23,6 +23,22 @@ QTextOption options(const ParagraphState &format, bool justified)
     option.setTabs(tabs);
     return option;
 }
+
+bool hasBlank(QStringView text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+}
+
+// A justified line that is one word would be spread letter by letter: it is as wide as the word.
+void keepWordTogether(QTextLine &line, const QString &text, double width)
+{
+    const int length = line.textLength();
+    if (hasBlank(QStringView(text).mid(line.textStart(), length).trimmed()))
+        return;
+    line.setLineWidth(line.naturalTextWidth() + 1);
+    if (line.textLength() != length)
+        line.setLineWidth(width);
+}
 } // namespace
 
 SetBlock::SetBlock(const BookBlock &block, const BlockText &text, const PageSetup &setup,
@@ -51,6 +67,8 @@ void SetBlock::setLines(const ParagraphState &format, double width)
             break;
         const double x = (isFirst ? first : left) + bullet;
         line.setLineWidth(width - x - right);
+        if (m_layout->textOption().alignment() == Qt::AlignJustify)
+            keepWordTogether(line, m_layout->text(), width - x - right);
         line.setPosition({x, 0});
     }
     m_layout->endLayout();
