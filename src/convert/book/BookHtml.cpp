@@ -8,6 +8,10 @@
 
 namespace
 {
+// A telephone is narrower than the page for which indents and sizes were made.
+constexpr double MostIndent = 8; // times the size of most of the text
+constexpr double MostTimes = 5;
+
 // Half of its size is about as wide as a letter is in the usual fonts.
 double estimatedTwips(const BookRun &run)
 {
@@ -115,10 +119,10 @@ QString BookHtml::item(const BookBlock &block)
 {
     QStringList style;
     const ParagraphState &format = block.format;
-    if (const int indent = std::max(format.left + format.first, 0); indent > 0)
+    if (const double indent = inScreen(format.left + format.first); indent > 0)
         style.append(QStringLiteral("margin-left:") + em(indent));
     if (format.right > 0)
-        style.append(QStringLiteral("margin-right:") + em(format.right));
+        style.append(QStringLiteral("margin-right:") + em(inScreen(format.right)));
     return QStringLiteral("<li%1%2>%3</li>\n")
         .arg(classesOf(block), styleOf(style), content(block));
 }
@@ -127,13 +131,13 @@ QString BookHtml::line(const BookBlock &block)
 {
     QStringList style;
     const ParagraphState &format = block.format;
-    const int left = std::max(format.left, 0);
+    const double left = inScreen(format.left);
     if (left > 0)
         style.append(QStringLiteral("margin-left:") + em(left));
-    if (const int first = std::max(format.first, -left); first != 0)
+    if (const double first = inScreen(format.left + format.first) - left; first != 0)
         style.append(QStringLiteral("text-indent:") + em(first));
     if (format.right > 0)
-        style.append(QStringLiteral("margin-right:") + em(format.right));
+        style.append(QStringLiteral("margin-right:") + em(inScreen(format.right)));
     return QStringLiteral("<p%1%2>%3</p>\n").arg(classesOf(block), styleOf(style), content(block));
 }
 
@@ -188,9 +192,16 @@ QString BookHtml::attributes(const CharState &chars)
         html = QStringLiteral(" class=\"k%1\"").arg(colourName(*chars.colour));
     }
     if (chars.halfPoints != m_halfPoints)
-        html += styleOf({QStringLiteral("font-size:%1em")
-                             .arg(number(static_cast<double>(chars.halfPoints) / m_halfPoints))});
+        html +=
+            styleOf({QStringLiteral("font-size:%1em")
+                         .arg(number(std::min(static_cast<double>(chars.halfPoints) / m_halfPoints,
+                                              MostTimes)))});
     return html;
+}
+
+double BookHtml::inScreen(int twips) const
+{
+    return std::clamp<double>(twips, 0, MostIndent * m_halfPoints * 10);
 }
 
 QString BookHtml::em(double twips) const

@@ -39,6 +39,7 @@ private:
     QString cells(const BookBlock &block);
     QString run(const BookRun &run);
     QString attributes(const CharState &chars);
+    double inScreen(int twips) const; // of an indent as much as a small screen has room for
     QString em(double twips) const;
 
     int m_halfPoints;
