@@ -259,6 +259,10 @@
         <source>%1, par %2</source>
         <translation>%1, by %2</translation>
     </message>
+    <message>
+        <source>Sans titre</source>
+        <translation>Untitled</translation>
+    </message>
 </context>
 <context>
     <name>BookFonts</name>

@@ -37,17 +37,26 @@ QByteArray tell(CommandServices &script, const std::optional<QString> &remark)
     return {};
 }
 
-// What is said of the book counts for this file alone.
+// Takes a word that says something of the book, for this file alone; false for any other. A title
+// of blanks leaves the book's own.
+bool takeFact(BookFacts &facts, const QString &word)
+{
+    if (const auto title = valueOf(word, QStringLiteral("titre")))
+        facts.title = title->trimmed().isEmpty() ? facts.title : *title;
+    else if (const auto author = valueOf(word, QStringLiteral("auteur")))
+        facts.author = *author;
+    else
+        return false;
+    return true;
+}
+
 EpubChoice choiceOf(const CommandServices &script, const QStringList &words)
 {
     EpubChoice choice{bookFacts(script.variables)};
     for (const QString &word : words) {
-        if (const auto title = valueOf(word, QStringLiteral("titre"));
-            title && !title->trimmed().isEmpty())
-            choice.facts.title = *title;
-        else if (const auto author = valueOf(word, QStringLiteral("auteur")))
-            choice.facts.author = *author;
-        else if (const auto date = valueOf(word, QStringLiteral("date")))
+        if (takeFact(choice.facts, word))
+            continue;
+        if (const auto date = valueOf(word, QStringLiteral("date")))
             choice.modified = dateOf(*date);
         else
             throw UsageError(
@@ -62,18 +71,13 @@ QByteArray epub(CommandServices &script, const QStringList &arguments)
                                      choiceOf(script, arguments.mid(3))));
 }
 
-// Title and author count for this file alone, the other words are those of a page setup.
+// The other words are those of a page setup.
 PdfChoice pdfChoiceOf(const CommandServices &script, const QStringList &words)
 {
     PdfChoice choice{bookFacts(script.variables), defaultPageSetup(script.variables)};
     QStringList pageWords;
     for (const QString &word : words) {
-        if (const auto title = valueOf(word, QStringLiteral("titre"));
-            title && !title->trimmed().isEmpty())
-            choice.facts.title = *title;
-        else if (const auto author = valueOf(word, QStringLiteral("auteur")))
-            choice.facts.author = *author;
-        else
+        if (!takeFact(choice.facts, word))
             pageWords.append(word);
     }
     const QString wrong = setPageWords(choice.setup, pageWords);

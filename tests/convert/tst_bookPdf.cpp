@@ -254,10 +254,9 @@ private Q_SLOTS:
 
     void charactersThatNoFontHasAreTold()
     {
-        Book book;
-        book.paragraphs.append(
-            bookParagraph(1, "{\\rtf1 \\'e9t\\'e9\\u173 ? \\u9731 ? \\u20013 ?}", " au "));
-        const QString told = missingCharactersSentence(book, QFont("Liberation Serif"));
+        MissingCharacters missing(QFont("Liberation Serif"));
+        missing.add(bookParagraph(1, "{\\rtf1 \\'e9t\\'e9\\u173 ? \\u9731 ? \\u20013 ?}", " au "));
+        const QString told = missing.sentence();
         QVERIFY2(told.endsWith(QString(" : ") + QChar(20013) + '.'), qPrintable(told));
     }
 

@@ -466,8 +466,8 @@ uniformiser - 1639
             QStringLiteral("Erreur pendant l'écriture du fichier."));
         row("a file that cannot be opened, said nowhere",
             {QStringLiteral("ouvrir @"), QStringLiteral("html 1 9 /nowhere/a.htm")}, 1, QString());
-        row("word of a book", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e titre=")},
-            2, QStringLiteral("titre=..., auteur=... ou date=... attendu : titre="));
+        row("word of a book", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e titel=")},
+            2, QStringLiteral("titre=..., auteur=... ou date=... attendu : titel="));
         row("date", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e date=hier")}, 2,
             QStringLiteral("date=AAAA-MM-JJ attendu : hier"));
         row("word of a compilation",

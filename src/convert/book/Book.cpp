@@ -139,6 +139,13 @@ int usualHalfPoints(Book &book)
     const auto most = std::max_element(lengths.begin(), lengths.end());
     return most == lengths.end() ? CharState::DefaultHalfPoints : most.key();
 }
+
+// Nothing that a title page could show.
+bool isBlank(const QString &title)
+{
+    return std::none_of(title.begin(), title.end(),
+                        [](QChar c) { return c.isPrint() && !c.isSpace(); });
+}
 } // namespace
 
 BookParagraph bookParagraph(int number, QByteArrayView rtf, const QString &phrase)
@@ -183,8 +190,10 @@ bool isLanguageCode(const QString &code)
 BookFacts bookFacts(const Variables &variables)
 {
     BookFacts facts = variables.extras.book;
-    if (facts.title.trimmed().isEmpty())
-        facts.title = proposedName(variables);
+    for (const QString &title :
+         {proposedName(variables), QCoreApplication::translate("Book", "Sans titre")})
+        if (isBlank(facts.title))
+            facts.title = title;
     if (!isLanguageCode(facts.language))
         facts.language = BookFacts().language;
     return facts;

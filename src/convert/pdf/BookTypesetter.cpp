@@ -1,7 +1,5 @@
 #include "convert/pdf/BookTypesetter.h"
 
-#include "convert/pdf/MissingCharacters.h"
-
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -30,7 +28,7 @@ BookParagraph textParagraph(BookPages::Kind kind, const QString &text, const Cha
 
 BookTypesetter::BookTypesetter(const Book &book, const BookFacts &facts, const PageSetup &setup)
     : m_book(book), m_facts(facts), m_setup(setup), m_hyphenation(facts.language),
-      m_fonts(book, m_setup)
+      m_fonts(book, m_setup), m_missing(m_fonts.text())
 {
     m_paragraphs.reserve(static_cast<std::size_t>(book.paragraphs.size()));
 }
@@ -44,7 +42,9 @@ bool BookTypesetter::step()
 {
     if (m_next == m_book.paragraphs.size())
         return false;
-    m_paragraphs.emplace_back(m_book.paragraphs.at(m_next++), m_setup, m_fonts, hyphenation(),
+    const BookParagraph &paragraph = m_book.paragraphs.at(m_next++);
+    m_missing.add(paragraph);
+    m_paragraphs.emplace_back(paragraph, m_setup, m_fonts, hyphenation(),
                               BookPages::textWidth(m_setup));
     return m_next < m_book.paragraphs.size();
 }
@@ -62,8 +62,10 @@ void BookTypesetter::addText(BookPages::Kind kind, const QString &text)
     if (text.trimmed().isEmpty())
         return;
     BookPages::Section section{kind, {}};
-    section.paragraphs.emplace_back(textParagraph(kind, text, m_fonts.usual()), m_setup, m_fonts,
-                                    hyphenation(), BookPages::textWidth(m_setup));
+    const BookParagraph paragraph = textParagraph(kind, text, m_fonts.usual());
+    m_missing.add(paragraph);
+    section.paragraphs.emplace_back(paragraph, m_setup, m_fonts, hyphenation(),
+                                    BookPages::textWidth(m_setup));
     m_sections.push_back(std::move(section));
 }
 
@@ -78,8 +80,7 @@ BookPages BookTypesetter::pages()
 
 QString BookTypesetter::remarks() const
 {
-    QStringList remarks{missingCharactersSentence(m_book, m_fonts.text()),
-                        m_fonts.missingSentence()};
+    QStringList remarks{m_missing.sentence(), m_fonts.missingSentence()};
     if (m_setup.hyphenated && !m_hyphenation.isThere())
         remarks.append(QCoreApplication::translate("BookTypesetter",
                                                    "Les mots ne sont pas coupés : le dictionnaire "

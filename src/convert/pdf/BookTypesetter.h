@@ -2,6 +2,7 @@
 
 #include "convert/pdf/BookPages.h"
 #include "convert/pdf/Hyphenation.h"
+#include "convert/pdf/MissingCharacters.h"
 #include "platform/Progress.h"
 
 // Makes pages of a book, a paragraph at a time, so that whoever waits can do something else
@@ -38,6 +39,7 @@ private:
     PageSetup m_setup;
     Hyphenation m_hyphenation;
     BookFonts m_fonts;
+    MissingCharacters m_missing;
     std::vector<BookPages::Section> m_sections;
     std::vector<SetParagraph> m_paragraphs;
     int m_next = 0;

@@ -5,8 +5,6 @@
 #include <QCoreApplication>
 #include <QGlyphRun>
 #include <QList>
-#include <QSet>
-#include <QStringList>
 #include <QTextLayout>
 #include <algorithm>
 
@@ -17,6 +15,8 @@ constexpr qsizetype MostNamed = 20;
 // Those that leave no trace on paper are not missed.
 bool isSeen(char32_t c)
 {
+    if (c <= 0x7e) // as nearly all are
+        return false;
     switch (QChar::category(c)) {
     case QChar::Other_Control:
     case QChar::Other_Format:
@@ -26,22 +26,8 @@ bool isSeen(char32_t c)
     case QChar::Mark_NonSpacing: // drawn with the letter in front, or a variation of it
         return false;
     default:
-        return c > 0x7e;
+        return true;
     }
-}
-
-QList<char32_t> seenCharacters(const Book &book)
-{
-    QSet<char32_t> seen;
-    for (const BookParagraph &paragraph : book.paragraphs)
-        for (const BookBlock &block : paragraph.blocks)
-            for (const BookRun &run : block.runs)
-                for (const uint c : run.text.toUcs4())
-                    if (isSeen(c))
-                        seen.insert(c);
-    QList<char32_t> characters(seen.cbegin(), seen.cend());
-    std::sort(characters.begin(), characters.end());
-    return characters;
 }
 
 // A font draws its glyph 0 for what it does not have.
@@ -57,17 +43,25 @@ bool canBeDrawn(const QString &character, const QFont &font)
 }
 } // namespace
 
-QString missingCharactersSentence(const Book &book, const QFont &font)
+void MissingCharacters::add(const BookParagraph &paragraph)
 {
-    QStringList missing;
-    const QList<char32_t> characters = seenCharacters(book);
-    for (const char32_t c : characters)
-        if (const QString text = QString::fromUcs4(&c, 1); !canBeDrawn(text, font))
-            missing.append(text);
-    if (missing.isEmpty())
+    for (const BookBlock &block : paragraph.blocks)
+        for (const BookRun &run : block.runs)
+            for (const char32_t c : run.text.toUcs4()) {
+                if (!isSeen(c) || m_known.contains(c))
+                    continue;
+                m_known.insert(c);
+                if (const QString text = QString::fromUcs4(&c, 1); !canBeDrawn(text, m_font))
+                    m_missing.append(text);
+            }
+}
+
+QString MissingCharacters::sentence() const
+{
+    if (m_missing.isEmpty())
         return {};
-    QString named = missing.mid(0, MostNamed).join(u' ');
-    if (missing.size() > MostNamed)
+    QString named = m_missing.mid(0, MostNamed).join(u' ');
+    if (m_missing.size() > MostNamed)
         named += QStringLiteral(" …");
     return QCoreApplication::translate("MissingCharacters",
                                        "Aucune police n'a ces caractères, qui manqueront : %1.")

@@ -1,10 +1,27 @@
 #pragma once
 
 #include <QFont>
+#include <QSet>
 #include <QString>
+#include <QStringList>
+#include <utility>
 
-struct Book;
+struct BookParagraph;
 
-// "Aucune police n'a ces caractères, qui manqueront : 中 文."; empty when all of the book's text
-// can be drawn, in this font or in those that the system takes in its place.
-QString missingCharactersSentence(const Book &book, const QFont &font);
+// The characters of a book that cannot be drawn, neither in its font nor in those that the system
+// takes in its place. Each character is tried once, when it first comes.
+class MissingCharacters
+{
+public:
+    explicit MissingCharacters(QFont font) : m_font(std::move(font)) {}
+
+    void add(const BookParagraph &paragraph);
+
+    // "Aucune police n'a ces caractères, qui manqueront : 中 文."; empty when there are none.
+    QString sentence() const;
+
+private:
+    QFont m_font;
+    QSet<char32_t> m_known;
+    QStringList m_missing;
+};
