@@ -3073,6 +3073,14 @@ A workshop for writing gamebooks.</translation>
         <source>Zut</source>
         <translation>Oops</translation>
     </message>
+    <message>
+        <source>Garder ce que vous avez changé ?</source>
+        <translation>Keep what you have changed?</translation>
+    </message>
+    <message>
+        <source>Songez-y</source>
+        <translation>Think About It</translation>
+    </message>
 </context>
 <context>
     <name>bookPdfDlog</name>

@@ -60,6 +60,8 @@ private Q_SLOTS:
             scene.prompts.expectFileDialog("Choisir une Image", scene.adventure.file("a.png", png));
             ::click(dialog, "btnChoose");
         };
+        scene.prompts.expect("Garder ce que vous avez changé ?", "Songez-y",
+                             Prompts::Buttons::YesNoCancel, Prompts::Answer::No);
         scene.inFacts("CancelButton", fill);
         QCOMPARE(scene.facts(), BookFacts());
         scene.inFacts("OKButton", fill);

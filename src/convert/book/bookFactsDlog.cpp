@@ -71,6 +71,21 @@ void bookFactsDlog::Form_Load()
     m_ui->txtBefore->setPlainText(facts.before);
     m_ui->txtAfter->setPlainText(facts.after);
     m_ui->picCover->setCover(facts.cover);
+    m_loaded = this->facts();
+}
+
+// What was typed may be a page of text.
+void bookFactsDlog::reject()
+{
+    using Answer = Prompts::Answer;
+    const Answer kept = facts() == m_loaded
+                            ? Answer::No
+                            : m_prompts.message(tr("Garder ce que vous avez changé ?"),
+                                                tr("Songez-y"), Prompts::Buttons::YesNoCancel);
+    if (kept == Answer::Yes)
+        m_ui->OKButton->click();
+    else if (kept == Answer::No)
+        QDialog::reject();
 }
 
 void bookFactsDlog::OKButton_Click()
@@ -95,4 +110,16 @@ BookFacts bookFactsDlog::facts() const
             languageOf(*m_ui->comboLanguage), textOf(*m_ui->txtDedication),
             textOf(*m_ui->txtBefore),         textOf(*m_ui->txtAfter),
             m_ui->picCover->cover()};
+}
+
+void connectBookLine(QLabel &line, const QPushButton &button, Variables &variables,
+                     Prompts &prompts)
+{
+    const auto show = [&line, &variables] { line.setText(bookLine(bookFacts(variables))); };
+    connectGuarded(&button, &QPushButton::clicked, &line, prompts,
+                   [&line, &variables, &prompts, show] {
+                       bookFactsDlog(variables, prompts, line.window()).exec();
+                       show();
+                   });
+    show();
 }

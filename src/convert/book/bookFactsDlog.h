@@ -6,6 +6,8 @@
 #include <memory>
 
 class Prompts;
+class QLabel;
+class QPushButton;
 struct Variables;
 
 namespace Ui
@@ -28,6 +30,7 @@ protected:
 
 private:
     void Form_Load();
+    void reject() override;
     void OKButton_Click();
 
     BookFacts facts() const;
@@ -35,4 +38,10 @@ private:
     Variables &m_variables;
     Prompts &m_prompts;
     std::unique_ptr<Ui::bookFactsDlog> m_ui;
+    BookFacts m_loaded; // as the boxes showed it at first
 };
+
+// For dialogs that make a book of some kind: the button opens the dialog above, and the line beside
+// it says title and author, now and after that.
+void connectBookLine(QLabel &line, const QPushButton &button, Variables &variables,
+                     Prompts &prompts);

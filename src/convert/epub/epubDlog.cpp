@@ -15,8 +15,7 @@ epubDlog::epubDlog(Variables &variables, Prompts &prompts, WorkReport &report, Q
 {
     m_ui->setupUi(this);
     connectForm(*m_ui->CancelButton, *m_ui->txtLow);
-    connectGuarded(m_ui->btnBook, &QPushButton::clicked, this, prompts,
-                   [this] { btnBook_Click(); });
+    connectBookLine(*m_ui->lblBook, *m_ui->btnBook, variables, prompts);
     connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
                    [this] { OKButton_Click(); });
     Form_Load();
@@ -27,7 +26,6 @@ epubDlog::~epubDlog() = default;
 void epubDlog::Form_Load()
 {
     fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
-    showTitle();
 }
 
 void epubDlog::OKButton_Click()
@@ -45,15 +43,4 @@ void epubDlog::OKButton_Click()
     if (exportToEpub({m_variables, m_prompts, work}, {low, high, path},
                      {bookFacts(m_variables), files}))
         accept();
-}
-
-void epubDlog::btnBook_Click()
-{
-    bookFactsDlog(m_variables, m_prompts, this).exec();
-    showTitle();
-}
-
-void epubDlog::showTitle()
-{
-    m_ui->lblBook->setText(bookLine(bookFacts(m_variables)));
 }

@@ -16,8 +16,7 @@ pageDlog::pageDlog(Variables &variables, Prompts &prompts, WorkReport &report, Q
 {
     m_ui->setupUi(this);
     connectForm(*m_ui->CancelButton, *m_ui->txtLow);
-    connectGuarded(m_ui->btnBook, &QPushButton::clicked, this, prompts,
-                   [this] { btnBook_Click(); });
+    connectBookLine(*m_ui->lblBook, *m_ui->btnBook, variables, prompts);
     connectGuarded(m_ui->OKButton, &QPushButton::clicked, this, prompts,
                    [this] { OKButton_Click(); });
     Form_Load();
@@ -28,7 +27,6 @@ pageDlog::~pageDlog() = default;
 void pageDlog::Form_Load()
 {
     fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
-    showTitle();
 }
 
 void pageDlog::OKButton_Click()
@@ -44,15 +42,4 @@ void pageDlog::OKButton_Click()
     if (exportToPage({m_variables, m_prompts, work}, {low, high, path},
                      m_ui->chkSheet->isChecked()))
         accept();
-}
-
-void pageDlog::btnBook_Click()
-{
-    bookFactsDlog(m_variables, m_prompts, this).exec();
-    showTitle();
-}
-
-void pageDlog::showTitle()
-{
-    m_ui->lblBook->setText(bookLine(bookFacts(m_variables)));
 }

@@ -24,8 +24,6 @@ public:
 private:
     void Form_Load();
     void OKButton_Click();
-    void btnBook_Click();
-    void showTitle();
 
     Variables &m_variables;
     Prompts &m_prompts;
