@@ -4,7 +4,6 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
-#include <utility>
 
 struct BookParagraph;
 
@@ -13,7 +12,7 @@ struct BookParagraph;
 class MissingCharacters
 {
 public:
-    explicit MissingCharacters(QFont font) : m_font(std::move(font)) {}
+    explicit MissingCharacters(const QFont &font) : m_font(font) {}
 
     void add(const BookParagraph &paragraph);
 
