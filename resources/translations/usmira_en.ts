@@ -270,6 +270,10 @@
         <source>La police « %1 » manque : « %2 » la remplace.</source>
         <translation>The font “%1” is missing: “%2” stands for it.</translation>
     </message>
+    <message>
+        <source>Des lettres plus grandes que la page ont été réduites.</source>
+        <translation>Letters larger than the page have been made smaller.</translation>
+    </message>
 </context>
 <context>
     <name>BookLayout</name>
@@ -427,6 +431,10 @@
     <message>
         <source>Cette image est trop grande : une couverture a 8 Mo et %1 points de côté au plus.</source>
         <translation>This picture is too large: a cover has 8 MB and %1 pixels to a side at most.</translation>
+    </message>
+    <message>
+        <source>Cette image est abîmée ou incomplète.</source>
+        <translation>This picture is damaged or incomplete.</translation>
     </message>
 </context>
 <context>
@@ -662,6 +670,10 @@
     <message>
         <source>Une action a échoué.</source>
         <translation>An action has failed.</translation>
+    </message>
+    <message>
+        <source>Le nom du fichier est vide.</source>
+        <translation>The name of the file is empty.</translation>
     </message>
 </context>
 <context>
@@ -1612,13 +1624,17 @@ A workshop for writing gamebooks.</translation>
         <source>Les numéros de page demandent une marge de pied de %1 mm au moins.</source>
         <translation>The page numbers ask for a bottom margin of at least %1 mm.</translation>
     </message>
+    <message>
+        <source>Choisissez une police.</source>
+        <translation>Choose a font.</translation>
+    </message>
+    <message>
+        <source>Les marges et l&apos;interligne ne laissent pas la hauteur d&apos;un numéro et de deux lignes.</source>
+        <translation>Margins and leading do not leave the height of a number and two lines.</translation>
+    </message>
 </context>
 <context>
     <name>PageSetupPanel</name>
-    <message>
-        <source>Page</source>
-        <translation>Page</translation>
-    </message>
     <message>
         <source>Papier</source>
         <translation>Paper</translation>
@@ -1648,62 +1664,6 @@ A workshop for writing gamebooks.</translation>
         <translation>Margins in millimetres:</translation>
     </message>
     <message>
-        <source>Intérieure</source>
-        <translation>Inside</translation>
-    </message>
-    <message>
-        <source>Extérieure</source>
-        <translation>Outside</translation>
-    </message>
-    <message>
-        <source>Tête</source>
-        <translation>Top</translation>
-    </message>
-    <message>
-        <source>Pied</source>
-        <translation>Bottom</translation>
-    </message>
-    <message>
-        <source>Recto verso</source>
-        <translation>Two sides</translation>
-    </message>
-    <message>
-        <source>Une page par paragraphe</source>
-        <translation>A page for each paragraph</translation>
-    </message>
-    <message>
-        <source>Texte</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Police</source>
-        <translation>Font</translation>
-    </message>
-    <message>
-        <source>Taille</source>
-        <translation>Size</translation>
-    </message>
-    <message>
-        <source>Interligne</source>
-        <translation>Leading</translation>
-    </message>
-    <message>
-        <source>Justifié</source>
-        <translation>Justified</translation>
-    </message>
-    <message>
-        <source>Mots coupés en fin de ligne</source>
-        <translation>Words parted at line ends</translation>
-    </message>
-    <message>
-        <source>Tout en noir</source>
-        <translation>All in black</translation>
-    </message>
-    <message>
-        <source>Titre courant</source>
-        <translation>Running head</translation>
-    </message>
-    <message>
         <source>Aucun</source>
         <translation>None</translation>
     </message>
@@ -1716,40 +1676,12 @@ A workshop for writing gamebooks.</translation>
         <translation>Title of the book</translation>
     </message>
     <message>
-        <source>Numéros de page</source>
-        <translation>Page numbers</translation>
-    </message>
-    <message>
-        <source>Numéros</source>
-        <translation>Numbers</translation>
-    </message>
-    <message>
         <source>Police des numéros</source>
         <translation>Font of the numbers</translation>
     </message>
     <message>
         <source>Police du texte</source>
         <translation>Font of the text</translation>
-    </message>
-    <message>
-        <source>Gras</source>
-        <translation>Bold</translation>
-    </message>
-    <message>
-        <source>Italiques</source>
-        <translation>Italic</translation>
-    </message>
-    <message>
-        <source>Soulignés</source>
-        <translation>Underlined</translation>
-    </message>
-    <message>
-        <source>Centrés</source>
-        <translation>Centred</translation>
-    </message>
-    <message>
-        <source>Renvois</source>
-        <translation>References</translation>
     </message>
     <message>
         <source>Tels quels</source>
@@ -1762,6 +1694,98 @@ A workshop for writing gamebooks.</translation>
     <message>
         <source>Avec une flèche</source>
         <translation>With an arrow</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge</source>
+        <translation>Pa&amp;ge</translation>
+    </message>
+    <message>
+        <source>&amp;Papier</source>
+        <translation>Pape&amp;r</translation>
+    </message>
+    <message>
+        <source>Inté&amp;rieure</source>
+        <translation>&amp;Inside</translation>
+    </message>
+    <message>
+        <source>&amp;Extérieure</source>
+        <translation>&amp;Outside</translation>
+    </message>
+    <message>
+        <source>&amp;Tête</source>
+        <translation>&amp;Top</translation>
+    </message>
+    <message>
+        <source>Pie&amp;d</source>
+        <translation>Botto&amp;m</translation>
+    </message>
+    <message>
+        <source>Re&amp;cto verso</source>
+        <translation>T&amp;wo sides</translation>
+    </message>
+    <message>
+        <source>&amp;Une page par paragraphe</source>
+        <translation>A page for &amp;each paragraph</translation>
+    </message>
+    <message>
+        <source>Te&amp;xte</source>
+        <translation>Te&amp;xt</translation>
+    </message>
+    <message>
+        <source>&amp;Police</source>
+        <translation>&amp;Font</translation>
+    </message>
+    <message>
+        <source>&amp;Taille</source>
+        <translation>&amp;Size</translation>
+    </message>
+    <message>
+        <source>Inte&amp;rligne</source>
+        <translation>&amp;Leading</translation>
+    </message>
+    <message>
+        <source>&amp;Justifié</source>
+        <translation>&amp;Justified</translation>
+    </message>
+    <message>
+        <source>&amp;Mots coupés en fin de ligne</source>
+        <translation>&amp;Words parted at line ends</translation>
+    </message>
+    <message>
+        <source>T&amp;out en noir</source>
+        <translation>&amp;All in black</translation>
+    </message>
+    <message>
+        <source>Titre &amp;courant</source>
+        <translation>Running &amp;head</translation>
+    </message>
+    <message>
+        <source>Numéros &amp;de page</source>
+        <translation>Page n&amp;umbers</translation>
+    </message>
+    <message>
+        <source>&amp;Numéros</source>
+        <translation>&amp;Numbers</translation>
+    </message>
+    <message>
+        <source>G&amp;ras</source>
+        <translation>Bo&amp;ld</translation>
+    </message>
+    <message>
+        <source>It&amp;aliques</source>
+        <translation>&amp;Italic</translation>
+    </message>
+    <message>
+        <source>&amp;Soulignés</source>
+        <translation>&amp;Underlined</translation>
+    </message>
+    <message>
+        <source>&amp;Centrés</source>
+        <translation>&amp;Centred</translation>
+    </message>
+    <message>
+        <source>R&amp;envois</source>
+        <translation>R&amp;eferences</translation>
     </message>
 </context>
 <context>
@@ -3232,8 +3256,8 @@ A workshop for writing gamebooks.</translation>
         <translation>Every reference leads to its paragraph, in a word processor that follows links</translation>
     </message>
     <message>
-        <source>Liens</source>
-        <translation>Links</translation>
+        <source>&amp;Liens</source>
+        <translation>&amp;Links</translation>
     </message>
 </context>
 <context>

@@ -30,13 +30,6 @@ QDateTime dateOf(const QString &value)
     return date.startOfDay(Qt::UTC);
 }
 
-QByteArray tell(CommandServices &script, const std::optional<QString> &remark)
-{
-    if (remark && !remark->isEmpty())
-        script.prompts.notice(*remark, Commands::tr("Livre"));
-    return {};
-}
-
 // Takes a word that says something of the book, for this file alone; false for any other. A title
 // of blanks leaves the book's own.
 bool takeFact(BookFacts &facts, const QString &word)
@@ -67,8 +60,8 @@ EpubChoice choiceOf(const CommandServices &script, const QStringList &words)
 
 QByteArray epub(CommandServices &script, const QStringList &arguments)
 {
-    return tell(script, exportToEpub(script.exports, exportRequest(arguments),
-                                     choiceOf(script, arguments.mid(3))));
+    return script.told(
+        exportToEpub(script.exports, exportRequest(arguments), choiceOf(script, arguments.mid(3))));
 }
 
 // The other words are those of a page setup.
@@ -94,7 +87,7 @@ QByteArray pdf(CommandServices &script, const QStringList &arguments)
         script.prompts.message(fault, Commands::tr("Zut"), Prompts::Buttons::Ok);
         return {};
     }
-    return tell(script, exportToPdf(script.exports, exportRequest(arguments), choice));
+    return script.told(exportToPdf(script.exports, exportRequest(arguments), choice));
 }
 
 QByteArray lecture(CommandServices &script, const QStringList &arguments)
@@ -102,7 +95,7 @@ QByteArray lecture(CommandServices &script, const QStringList &arguments)
     const QString word = arguments.value(3);
     if (!word.isEmpty() && word != QStringLiteral("fiche"))
         throw UsageError(Commands::tr("fiche attendu : %1").arg(word));
-    return tell(script, exportToPage(script.exports, exportRequest(arguments), !word.isEmpty()));
+    return script.told(exportToPage(script.exports, exportRequest(arguments), !word.isEmpty()));
 }
 } // namespace
 

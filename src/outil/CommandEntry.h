@@ -11,6 +11,7 @@
 
 #include <QByteArray>
 #include <QStringList>
+#include <optional>
 #include <vector>
 
 // What the commands of a script work with: the open adventure, and the classes that the windows
@@ -21,6 +22,9 @@ struct CommandServices {
     // The paragraph that has the current number now comes onto the screen that nobody sees, when
     // something was done. Gives no output.
     QByteArray shownAgain(bool done);
+
+    // Tells what the author is to know of a book that was written. Gives no output.
+    QByteArray told(const std::optional<QString> &remark);
 
     Variables &variables;
     Prompts &prompts;

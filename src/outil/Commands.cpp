@@ -50,6 +50,13 @@ QByteArray CommandServices::shownAgain(bool done)
     return {};
 }
 
+QByteArray CommandServices::told(const std::optional<QString> &remark)
+{
+    if (remark && !remark->isEmpty())
+        prompts.notice(*remark, Commands::tr("Livre"));
+    return {};
+}
+
 int paragraphNumber(const QString &word)
 {
     bool ok = false;

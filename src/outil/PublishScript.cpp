@@ -45,9 +45,9 @@ QByteArray compilerRtf(CommandServices &script, const QStringList &arguments)
     const QString word = arguments.value(3);
     if (!word.isEmpty() && word != QStringLiteral("liens"))
         throw UsageError(Commands::tr("liens attendu : %1").arg(word));
-    compileToRtf(script.exports, exportRequest(arguments), defaultNumberStyle(script.variables),
-                 word.isEmpty() ? RtfLinks::Without : RtfLinks::With);
-    return {};
+    return script.told(compileToRtf(script.exports, exportRequest(arguments),
+                                    defaultNumberStyle(script.variables),
+                                    word.isEmpty() ? RtfLinks::Without : RtfLinks::With));
 }
 } // namespace
 

@@ -59,6 +59,8 @@ QString fileAndReason(const UsmiraError &error)
     const auto *file = dynamic_cast<const FileError *>(&error);
     if (file == nullptr)
         return {};
+    if (file->path().isEmpty())
+        return QCoreApplication::translate("Failures", "Le nom du fichier est vide.");
     const QString path = QDir::toNativeSeparators(file->path());
     const QString reason = reasonOf(*file);
     return reason.isEmpty() ? path

@@ -24,6 +24,8 @@ fs::path systemPath(const QString &path)
 // one link.
 QString finalPath(const QString &path)
 {
+    if (path.isEmpty())
+        fail(path, std::make_error_code(std::errc::invalid_argument));
     constexpr int MostLinks = 40; // as many as the system follows
     std::error_code why;
     fs::path place = systemPath(path);

@@ -53,6 +53,8 @@ QString finalFolder(const QString &path)
 
 QString finalPath(const QString &path)
 {
+    if (path.isEmpty())
+        fail(path, std::make_error_code(std::errc::invalid_argument));
     constexpr int MostLinks = 40;
     QString place = QFileInfo(path).absoluteFilePath();
     for (int links = 0; links < MostLinks; ++links) {

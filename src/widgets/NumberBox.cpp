@@ -1,11 +1,13 @@
 #include "widgets/NumberBox.h"
 
+#include "platform/Ascii.h"
 #include "platform/Prompts.h"
 
 #include <QFocusEvent>
 #include <QRegularExpressionValidator>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <algorithm>
 
 NumberBox::NumberBox(QWidget *parent) : QLineEdit(parent)
 {
@@ -17,6 +19,17 @@ void NumberBox::setFiltering(bool on)
     delete validator();
     static const QRegularExpression number(QStringLiteral("[0-9.]*"));
     setValidator(on ? new QRegularExpressionValidator(number, this) : nullptr);
+}
+
+void NumberBox::keepNumber()
+{
+    const auto keep = [this] {
+        const bool isNumber = std::any_of(text().cbegin(), text().cend(), isAsciiDigit);
+        m_kept = isNumber ? text() : m_kept;
+        setText(m_kept);
+    };
+    connect(this, &QLineEdit::editingFinished, this, keep);
+    keep();
 }
 
 void NumberBox::connectBeeps(QWidget &window, Prompts &prompts)

@@ -16,6 +16,10 @@ public:
     // Off: any text is taken, as while there is nothing whose number could be meant.
     void setFiltering(bool on);
 
+    // From now on, a box that is left without a number gets the last one back. For boxes whose
+    // number stands there from the beginning and where nothing is no number.
+    void keepNumber();
+
     // Every number box of a window beeps through prompts.
     static void connectBeeps(QWidget &window, Prompts &prompts);
 
@@ -27,5 +31,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    QString m_kept;
     bool m_selectOnRelease = false;
 };

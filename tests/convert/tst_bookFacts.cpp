@@ -100,6 +100,7 @@ private Q_SLOTS:
     void whatIsNoCoverLeavesTheOldOne_data()
     {
         const QString none = "Ce fichier n'est pas une image PNG ou JPEG.";
+        const QString cut = "Cette image est abîmée ou incomplète.";
         const QString large = "Cette image est trop grande : une couverture a 8 Mo et 5000 points "
                               "de côté au plus.";
         addTable<QByteArray, QString>(
@@ -107,7 +108,9 @@ private Q_SLOTS:
             {{"text", "bonjour", none},
              {"nothing", "", none},
              {"other kind", picture({3, 3}, "bmp"), none},
-             {"half a picture", picture({300, 300}, "png").left(200), none},
+             {"half a picture", picture({300, 300}, "png").left(200), cut},
+             {"half a photograph", picture({300, 300}, "jpeg").chopped(400), cut},
+             {"a photograph without its end", picture({300, 300}, "jpeg").chopped(2), cut},
              {"too wide", picture({5001, 1}, "png"), large},
              {"too long", picture({3, 3}, "png") + QByteArray(LargestCover, 'x'), large}});
     }

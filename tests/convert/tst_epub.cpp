@@ -128,7 +128,7 @@ private Q_SLOTS:
         QFETCH(const int, pages);
         const Book book = meanBook();
         const BookFacts facts = meanFacts();
-        const EpubPages epub(book, facts, files);
+        const EpubPages epub(book, facts, files, [](int, int) {});
         QCOMPARE(epub.pages().size(), pages);
         Anchors all = anchorsOf("nav.xhtml", epub.navigation());
         // Contents (dedication, before, three hundreds, after), numbers, cover and start.
@@ -145,12 +145,27 @@ private Q_SLOTS:
                                                                    : "p0101.xhtml#p200"));
     }
 
+    void packingCanBeStopped()
+    {
+        const Book book = meanBook();
+        for (const int stopAt : {1, 30, 60, 99}) {
+            const auto progress = [&](int done, int total) {
+                if (done * 100 >= total * stopAt)
+                    throw std::domain_error("stopped");
+            };
+            QVERIFY_THROWS_EXCEPTION(
+                std::domain_error, epubOf(book, meanFacts(), EpubPages::Files::Each, {}, progress));
+        }
+    }
+
     void aFileOfTheBookIsAlwaysTheSame()
     {
         const QDateTime modified(QDate(2026, 11, 22), QTime(1, 2, 3), Qt::UTC);
         const Book book = meanBook();
         BookFacts facts = meanFacts();
-        const auto make = [&] { return epubOf(book, facts, EpubPages::Files::Hundreds, modified); };
+        const auto make = [&] {
+            return epubOf(book, facts, EpubPages::Files::Hundreds, modified, [](int, int) {});
+        };
         const QByteArray bytes = make();
         QCOMPARE(bytes.mid(30, 28), "mimetypeapplication/epub+zip");
         QVERIFY(bytes.contains(facts.cover) && bytes.contains("OEBPS/cover.png"));

@@ -276,7 +276,8 @@ private Q_SLOTS:
             child<QAbstractButton>(dialog, "optEach").click();
             scene.prompts.expectFileDialog("Enregistrer Livre Numérique", scene.path("a.epub"),
                                            "Le Loup");
-            click(dialog, "OKButton");
+            fill(dialog, {{"txtHigh", ""}}); // left empty, it is what it was
+            QTest::keyClick(&child<QLineEdit>(dialog, "txtHigh"), Qt::Key_Return);
             QVERIFY(!dialog.isVisible());
         });
         QVERIFY(scene.adventure.content("a.epub").contains("p0012.xhtml"));
@@ -319,7 +320,9 @@ private Q_SLOTS:
             QCOMPARE(child<QLabel>(dialog, "lblFault").text(), fault);
             scene.prompts.expect(fault, "Zut");
             click(dialog, "OKButton");
-            fill(dialog, {{"txtWidth", "140"}});
+            fill(dialog, {{"txtWidth", "140"}, {"txtInside", ""}});
+            QVERIFY(child<QLabel>(dialog, "lblFault").text().contains("de 0 à 500 mm"));
+            fill(dialog, {{"txtInside", "18"}});
             QCOMPARE(paper.currentText(), "14 x 21 cm");
             scene.prompts.expectFileDialog("Enregistrer Livre Imprimable", scene.path("a.pdf"),
                                            "Le Loup");

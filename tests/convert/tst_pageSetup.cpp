@@ -1,6 +1,7 @@
 #include "convert/pdf/BlockText.h"
 #include "convert/pdf/Hyphenation.h"
 #include "convert/pdf/PageWords.h"
+#include "convert/pdf/SetBlock.h"
 #include "support/TestTable.h"
 
 #include <QTemporaryDir>
@@ -59,6 +60,9 @@ private Q_SLOTS:
              {"endless paper", "papier=infx200", "50 à 500 mm"},
              {"tiny type", "taille=1", "4 à 72 points"},
              {"huge numbers", "numero-taille=400", "4 à 72 points"},
+             {"no font", "police= ", "police"},
+             {"high lines", "tete=90;pied=90;taille=30", "deux lignes"},
+             {"a high number", "tete=90;pied=90;numero-taille=72", "deux lignes"},
              {"lines in each other", "interligne=5", "interligne"},
              {"no room for the head", "tete=5", "titre courant"},
              {"none needed", "tete=5;titre-courant=rien", ""},
@@ -69,6 +73,7 @@ private Q_SLOTS:
         QFETCH(QString, words);
         QFETCH(QString, said);
         PageSetup setup;
+        setup.font = "DejaVu Sans";
         QCOMPARE(setPageWords(setup, words.split(';', Qt::SkipEmptyParts)), QString());
         const QString fault = pageSetupFault(setup);
         QVERIFY2(said.isEmpty() ? fault.isEmpty() : fault.contains(said), qPrintable(fault));
@@ -105,8 +110,7 @@ private Q_SLOTS:
         QFETCH(QString, laidOut);
         const QTemporaryDir folder;
         writePatterns(folder);
-        Book book;
-        book.paragraphs = {bookParagraph(1, "{\\rtf1 " + text + "}", " tabulaire ")};
+        const Book book = bookOf(text);
         PageSetup setup;
         setup.references = form;
         BookFonts fonts(book, setup);
@@ -116,7 +120,52 @@ private Q_SLOTS:
         QCOMPARE(shown.replace(QChar::SoftHyphen, u'-').replace(QChar::Nbsp, u'_'), laidOut);
     }
 
+    void threeLinesInARowEndInAHyphen()
+    {
+        const QTemporaryDir folder;
+        writePatterns(folder);
+        const Book book = bookOf(QByteArray("tabulaire ").repeated(200));
+        PageSetup setup;
+        const Hyphenation patterns("xx", {folder.path()});
+        QSet<int> runs;
+        for (double width = 600; width < 3000; width += 50) {
+            BookFonts fonts(book, setup);
+            const BookBlock &block = book.paragraphs.first().blocks.first();
+            const SetBlock lines(block, blockText(block, setup, fonts, &patterns), setup, fonts,
+                                 width);
+            int run = 0;
+            for (int i = 0; i < lines.lineCount(); ++i) {
+                runs.insert(run);
+                run = lines.endsInHyphen(i) ? run + 1 : 0;
+            }
+        }
+        QCOMPARE(runs, (QSet<int>{0, 1, 2, 3}));
+    }
+
+    void lettersAreNoLargerThanThePage()
+    {
+        const Book book = bookOf("Un \\fs3276 A");
+        PageSetup setup;
+        BookFonts fonts(book, setup);
+        const auto pixels = [&](int halfPoints) {
+            CharState chars = fonts.usual();
+            chars.halfPoints = halfPoints;
+            return QFontMetricsF(fonts.format(chars).font()).horizontalAdvance(u'M');
+        };
+        constexpr double Twips = 1440 / 25.4; // to the millimetre
+        QVERIFY(pixels(60) > pixels(24) * 2.4 && fonts.remarks().isEmpty());
+        QVERIFY(pixels(3276) > pixels(60) && pixels(3276) < setup.textWidth() * Twips);
+        QVERIFY(fonts.leading(3276) < setup.textHeight() * Twips);
+        QVERIFY(fonts.remarks().contains("plus grandes que la page"));
+    }
+
 private:
+    static Book bookOf(const QByteArray &text)
+    {
+        Book book;
+        book.paragraphs = {bookParagraph(1, "{\\rtf1 " + text + "}", " tabulaire ")};
+        return book;
+    }
     static void writePatterns(const QTemporaryDir &folder)
     {
         QFile file(folder.filePath("hyph_xx_YY.dic"));

@@ -46,7 +46,8 @@ struct Scene {
 
     bool compile(double first, double second, const NumberStyle &style, const QString &name)
     {
-        return compileToRtf({v, prompts, view}, {first, second, adventure.path(name)}, style);
+        return compileToRtf({v, prompts, view}, {first, second, adventure.path(name)}, style)
+            .has_value();
     }
 
     QByteArray document() const { return adventure.content("livre.rtf"); }

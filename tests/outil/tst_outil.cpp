@@ -388,8 +388,9 @@ uniformiser - 1639
         TestAdventure adventure;
         const QByteArray path =
             adventure.file("a.usm", AdventureBuilder({"1: Va au 5"}).bytes()).toUtf8();
-        for (const QByteArray kind : {"pdf", "epub", "lecture"}) {
-            const QByteArray script = "ouvrir '" + path + "'\n" + kind + " 1 9 '" + path + ".x'";
+        for (const QByteArray kind : {"pdf", "epub", "lecture", "compiler-rtf"}) {
+            const QByteArray script = "ouvrir '" + path + "'\n" + kind + " 1 9 '" + path + ".x'" +
+                                      (kind == "compiler-rtf" ? " liens" : "");
             const QString errors = run(adventure, {}, script).errors;
             QVERIFY2(errors.contains("paragraphe vide") && errors.contains('5'), kind);
         }
@@ -466,6 +467,8 @@ uniformiser - 1639
             QStringLiteral("Erreur pendant l'écriture du fichier."));
         row("a file that cannot be opened, said nowhere",
             {QStringLiteral("ouvrir @"), QStringLiteral("html 1 9 /nowhere/a.htm")}, 1, QString());
+        row("no file", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 ''")}, 1,
+            QStringLiteral("Le nom du fichier est vide."));
         row("word of a book", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e titel=")},
             2, QStringLiteral("titre=..., auteur=... ou date=... attendu : titel="));
         row("date", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e date=hier")}, 2,

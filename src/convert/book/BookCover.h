@@ -23,5 +23,6 @@ CoverKind coverKind(QByteArrayView bytes);
 QImage coverImage(const QByteArray &bytes, QSize room = {});
 
 // The bytes of a file that can be a cover. Throws FileError (Read) when it cannot be read,
-// LimitError when it has too many bytes or pixels, FormatError when it is no whole PNG or JPEG.
+// LimitError when it has too many bytes or pixels, FormatError when it is no PNG or JPEG, and with
+// a position behind the beginning when it is one that is cut or damaged.
 QByteArray readCover(const QString &path);

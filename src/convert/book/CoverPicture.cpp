@@ -57,8 +57,9 @@ void CoverPicture::choose(Prompts &prompts)
     };
     try {
         setCover(readCover(path));
-    } catch (const FormatError &) {
-        refuse(tr("Ce fichier n'est pas une image PNG ou JPEG."));
+    } catch (const FormatError &error) {
+        refuse(error.position() == 0 ? tr("Ce fichier n'est pas une image PNG ou JPEG.")
+                                     : tr("Cette image est abîmée ou incomplète."));
     } catch (const LimitError &) {
         refuse(tr("Cette image est trop grande : une couverture a 8 Mo et %1 points de côté au "
                   "plus.")

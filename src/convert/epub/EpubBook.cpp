@@ -1,13 +1,21 @@
 #include "convert/epub/EpubBook.h"
 
+#include "convert/book/WorkPart.h"
 #include "convert/epub/EpubPackage.h"
 #include "convert/epub/ZipArchive.h"
 
+namespace
+{
+// In hundredths, by how long the parts take.
+constexpr int Written = 40;
+constexpr int Packed = 100;
+} // namespace
+
 QByteArray epubOf(const Book &book, const BookFacts &facts, EpubPages::Files files,
-                  const QDateTime &modified)
+                  const QDateTime &modified, const Progress &progress)
 {
     using Packing = ZipArchive::Packing;
-    const EpubPages pages(book, facts, files);
+    const EpubPages pages(book, facts, files, workPart(progress, 0, Written));
     const QString folder = QStringLiteral("OEBPS/");
     const QString package = folder + QStringLiteral("package.opf");
     ZipArchive archive;
@@ -20,5 +28,5 @@ QByteArray epubOf(const Book &book, const BookFacts &facts, EpubPages::Files fil
         archive.add(folder + pages.coverName(), facts.cover, Packing::Stored);
     for (const EpubPage &page : pages.pages())
         archive.add(folder + page.name, page.bytes);
-    return archive.finish();
+    return archive.finish(workPart(progress, Written, Packed));
 }

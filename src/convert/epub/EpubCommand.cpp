@@ -1,5 +1,6 @@
 #include "convert/epub/EpubCommand.h"
 
+#include "convert/book/WorkPart.h"
 #include "convert/epub/EpubBook.h"
 #include "store/AdventureChanges.h"
 #include "store/ExportTarget.h"
@@ -8,6 +9,10 @@
 
 namespace
 {
+// In hundredths, by how long the parts take.
+constexpr int Read = 40;
+constexpr int Packed = 100;
+
 // When the book last changed.
 QDateTime modifiedAt(const Variables &variables)
 {
@@ -23,10 +28,12 @@ std::optional<QString> exportToEpub(const ExportCommand &command, const ExportRe
     const Variables &variables = command.variables();
     Book book;
     const auto write = [&](const ExportRange &range, const Progress &progress) {
-        book = readBook(variables, range, progress);
+        book = readBook(variables, range, workPart(progress, 0, Read));
         const QDateTime modified =
             choice.modified.isValid() ? choice.modified : modifiedAt(variables);
-        writeExport(variables, request.place, epubOf(book, choice.facts, choice.files, modified));
+        writeExport(
+            variables, request.place,
+            epubOf(book, choice.facts, choice.files, modified, workPart(progress, Read, Packed)));
         return static_cast<int>(book.paragraphs.size());
     };
     const auto remark = [&] { return emptyTargetsSentence(book); };

@@ -27,7 +27,8 @@ QString list(const QString &attributes, const QString &title, const QString &lin
 }
 } // namespace
 
-EpubPages::EpubPages(const Book &book, const BookFacts &facts, Files files)
+EpubPages::EpubPages(const Book &book, const BookFacts &facts, Files files,
+                     const Progress &progress)
     : m_book(book), m_facts(facts), m_files(files), m_words(BookWords::of(facts.language)),
       m_html(book.halfPoints, [this](int number) { return address(number); })
 {
@@ -37,7 +38,7 @@ EpubPages::EpubPages(const Book &book, const BookFacts &facts, Files files)
                facts.dedication);
     appendText(QStringLiteral("before.xhtml"), m_words.before, QStringLiteral("preface"),
                facts.before);
-    appendParagraphs();
+    appendParagraphs(progress);
     appendText(QStringLiteral("after.xhtml"), m_words.after, QStringLiteral("afterword"),
                facts.after);
 }
@@ -95,7 +96,7 @@ void EpubPages::appendText(const QString &name, const QString &title, const QStr
                QStringLiteral("<section class=\"%1\">\n%2</section>\n").arg(type, plainHtml(text)));
 }
 
-void EpubPages::appendParagraphs()
+void EpubPages::appendParagraphs(const Progress &progress)
 {
     const QList<BookParagraph> &paragraphs = m_book.paragraphs;
     for (qsizetype i = 0; i < paragraphs.size();) {
@@ -106,6 +107,7 @@ void EpubPages::appendParagraphs()
         for (; i < paragraphs.size() && fileOf(paragraphs.at(i).number) == name; ++i) {
             last = paragraphs.at(i).number;
             body += section(paragraphs.at(i));
+            progress(static_cast<int>(i), static_cast<int>(paragraphs.size()));
         }
         const QString numbers = QString::number(first);
         appendPage(EpubPage::Kind::Paragraphs, name,

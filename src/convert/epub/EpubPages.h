@@ -23,8 +23,8 @@ class EpubPages
 public:
     enum class Files { Hundreds, Each };
 
-    // Book and facts must outlive it.
-    EpubPages(const Book &book, const BookFacts &facts, Files files);
+    // Book and facts must outlive it. What progress throws ends the work.
+    EpubPages(const Book &book, const BookFacts &facts, Files files, const Progress &progress);
     EpubPages(const EpubPages &) = delete;
     EpubPages &operator=(const EpubPages &) = delete;
 
@@ -45,7 +45,7 @@ private:
     void appendTitle();
     void appendText(const QString &name, const QString &title, const QString &type,
                     const QString &text);
-    void appendParagraphs();
+    void appendParagraphs(const Progress &progress);
     QByteArray page(const QString &title, const QString &bodyAttributes, const QString &body) const;
     QString section(const BookParagraph &paragraph);
     QString contents() const;

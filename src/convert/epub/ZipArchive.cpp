@@ -3,6 +3,7 @@
 #include "platform/Errors.h"
 
 #include <QList>
+#include <exception>
 #ifdef Q_OS_WIN
 #define ZIP_STATIC // it is part of the program there
 #endif
@@ -26,6 +27,29 @@ namespace
 {
 // The first day that the format knows. A date of its own would make other bytes of the same book.
 constexpr zip_uint16_t NoDate = (1 << 5) + 1;
+
+// Packing that may be stopped. No exception goes through the library, which is asked instead
+// whether it is to end.
+struct Packed {
+    const Progress &progress;
+    std::exception_ptr stopped;
+
+    static void tell(zip_t * /*archive*/, double share, void *self)
+    {
+        constexpr int All = 1000;
+        auto *packed = static_cast<Packed *>(self);
+        try {
+            if (!packed->stopped)
+                packed->progress(static_cast<int>(share * All), All);
+        } catch (...) {
+            packed->stopped = std::current_exception();
+        }
+    }
+    static int isStopped(zip_t * /*archive*/, void *self)
+    {
+        return static_cast<Packed *>(self)->stopped ? 1 : 0;
+    }
+};
 
 [[noreturn]] void fail(const char *what)
 {
@@ -65,11 +89,20 @@ void ZipArchive::add(const QString &name, const QByteArray &bytes, Packing packi
         fail(zip_strerror(archive));
 }
 
-QByteArray ZipArchive::finish()
+QByteArray ZipArchive::finish(const Progress &progress)
 {
-    if (zip_close(m_library->archive) < 0)
-        fail(zip_strerror(m_library->archive));
-    m_library->archive = nullptr;
+    constexpr double EachHundredth = 0.01;
+    zip_t *archive = m_library->archive;
+    Packed packed{progress, {}};
+    zip_register_progress_callback_with_state(archive, EachHundredth, &Packed::tell, nullptr,
+                                              &packed);
+    zip_register_cancel_callback_with_state(archive, &Packed::isStopped, nullptr, &packed);
+    if (zip_close(archive) == 0)
+        m_library->archive = nullptr;
+    if (packed.stopped)
+        std::rethrow_exception(packed.stopped);
+    if (m_library->archive != nullptr)
+        fail(zip_strerror(archive));
     zip_stat_t size;
     zip_source_t *target = m_library->target;
     if (zip_source_stat(target, &size) < 0 || zip_source_open(target) < 0)

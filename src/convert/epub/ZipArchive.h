@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Progress.h"
+
 #include <QByteArray>
 #include <QString>
 #include <memory>
@@ -19,8 +21,8 @@ public:
     // Files come in the order in which they are added. The name is ASCII, each once.
     void add(const QString &name, const QByteArray &bytes, Packing packing = Packing::Deflated);
 
-    // The whole archive; nothing is added any more.
-    QByteArray finish();
+    // The whole archive; nothing is added any more. What progress throws ends the work.
+    QByteArray finish(const Progress &progress);
 
 private:
     struct Library;

@@ -26,6 +26,8 @@ epubDlog::~epubDlog() = default;
 void epubDlog::Form_Load()
 {
     fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
+    m_ui->txtLow->keepNumber();
+    m_ui->txtHigh->keepNumber();
 }
 
 void epubDlog::OKButton_Click()

@@ -27,6 +27,8 @@ pageDlog::~pageDlog() = default;
 void pageDlog::Form_Load()
 {
     fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
+    m_ui->txtLow->keepNumber();
+    m_ui->txtHigh->keepNumber();
 }
 
 void pageDlog::OKButton_Click()

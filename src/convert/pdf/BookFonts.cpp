@@ -1,6 +1,7 @@
 #include "convert/pdf/BookFonts.h"
 
 #include "convert/book/Book.h"
+#include "platform/Twips.h"
 
 #include <QCoreApplication>
 #include <QFontDatabase>
@@ -8,11 +9,13 @@
 #include <QMap>
 #include <QStringList>
 #include <algorithm>
+#include <cmath>
 
 namespace
 {
 constexpr double TwipsPerPoint = 20;
 constexpr double MarginShare = 0.85; // of the size of the text
+constexpr double MostOfWidth = 0.5;  // that a letter takes: indents may leave no more
 
 QFont fontInTwips(const QString &family, double points)
 {
@@ -37,6 +40,16 @@ QString usualFamily(const Book &book)
     return most == lengths.end() ? QString() : most.key();
 }
 
+// Letters that a page has room for, below a number and beside indents.
+int mostHalfPoints(const PageSetup &setup, int usualHalfPoints)
+{
+    constexpr double MillimetresPerPoint = 25.4 / 72;
+    const double lines = std::floor(setup.textHeight() / MillimetresPerPoint / setup.leading);
+    const double high = lines - numberLines(setup); // in lines of text
+    const double wide = setup.textWidth() / MillimetresPerPoint * MostOfWidth / setup.points;
+    return static_cast<int>(std::max(1.0, std::min(high, wide)) * usualHalfPoints);
+}
+
 QString keyOf(const CharState &chars)
 {
     return QStringLiteral("%1/%2/%3/%4")
@@ -49,6 +62,7 @@ QString keyOf(const CharState &chars)
 
 BookFonts::BookFonts(const Book &book, const PageSetup &setup)
     : m_setup(setup), m_usualFamily(usualFamily(book)), m_usualHalfPoints(book.halfPoints),
+      m_mostHalfPoints(mostHalfPoints(setup, book.halfPoints)),
       m_leading(setup.leading * TwipsPerPoint)
 {
     const QFontMetricsF metrics(fontOf(setup.font, setup.points));
@@ -71,8 +85,9 @@ const QTextCharFormat &BookFonts::format(const CharState &chars)
     if (known != m_formats.cend())
         return *known;
     const bool usual = chars.family.isEmpty() || chars.family == m_usualFamily;
+    m_hasShrunk = m_hasShrunk || chars.halfPoints > m_mostHalfPoints;
     QFont font = fontOf(usual ? m_setup.font : chars.family,
-                        m_setup.points * chars.halfPoints / m_usualHalfPoints);
+                        m_setup.points * fitting(chars.halfPoints) / m_usualHalfPoints);
     font.setBold(chars.bold);
     font.setItalic(chars.italic);
     QTextCharFormat format;
@@ -84,9 +99,14 @@ const QTextCharFormat &BookFonts::format(const CharState &chars)
     return *m_formats.insert(key, format);
 }
 
+int BookFonts::fitting(int halfPoints) const
+{
+    return std::min(halfPoints, m_mostHalfPoints);
+}
+
 double BookFonts::leading(int halfPoints) const
 {
-    return m_leading * halfPoints / m_usualHalfPoints;
+    return m_leading * fitting(halfPoints) / m_usualHalfPoints;
 }
 
 double BookFonts::baseline(double height) const
@@ -106,6 +126,10 @@ QFont BookFonts::number()
     font.setBold(style.bold);
     font.setItalic(style.italic);
     font.setUnderline(style.underline);
+    const double room = m_setup.textWidth() / 10 * Twips::PerCentimetre;
+    const double widest = QFontMetricsF(font).horizontalAdvance(QStringLiteral("2000"));
+    if (widest > room)
+        font.setPixelSize(std::max(1, static_cast<int>(font.pixelSize() * room / widest)));
     return font;
 }
 
@@ -121,7 +145,7 @@ QFont BookFonts::fontOf(const QString &family, double points)
     return fontInTwips(family, points);
 }
 
-QString BookFonts::missingSentence() const
+QString BookFonts::remarks() const
 {
     QStringList asked(m_asked.cbegin(), m_asked.cend());
     asked.sort();
@@ -132,5 +156,8 @@ QString BookFonts::missingSentence() const
                 QCoreApplication::translate("BookFonts",
                                             "La police « %1 » manque : « %2 » la remplace.")
                     .arg(family, QFontInfo(fontInTwips(family, m_setup.points)).family()));
+    if (m_hasShrunk)
+        sentences.append(QCoreApplication::translate(
+            "BookFonts", "Des lettres plus grandes que la page ont été réduites."));
     return sentences.join(u' ');
 }

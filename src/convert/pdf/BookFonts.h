@@ -18,7 +18,7 @@ public:
     BookFonts(const Book &book, const PageSetup &setup);
 
     // How characters look: in the book's font and size where they are in those that most of the
-    // text has, else as they differ from them.
+    // text has, else as they differ from them; no larger than there is room for on a page.
     const QTextCharFormat &format(const CharState &chars);
 
     // The look of most of the text.
@@ -35,15 +35,19 @@ public:
     QFont number();
     QFont margin() const; // what stands in the margins
 
-    // "« Garamond » manque : « DejaVu Serif » la remplace."; empty when all fonts are there.
-    QString missingSentence() const;
+    // "La police « Garamond » manque : « DejaVu Serif » la remplace.", or that letters had no room;
+    // empty when all is as it was asked for.
+    QString remarks() const;
 
 private:
+    int fitting(int halfPoints) const;
     QFont fontOf(const QString &family, double points);
 
     const PageSetup &m_setup;
     QString m_usualFamily; // in the texts
     int m_usualHalfPoints;
+    int m_mostHalfPoints; // letters are no larger, whatever they are in the texts
+    bool m_hasShrunk = false;
     double m_leading;
     double m_ascentShare; // of the height of a line of text
     QSet<QString> m_asked;

@@ -25,7 +25,7 @@ double twips(double millimetres)
 
 double textHeight(const PageSetup &setup)
 {
-    return twips(setup.paper.height() - setup.top - setup.foot);
+    return twips(setup.textHeight());
 }
 } // namespace
 
@@ -41,7 +41,7 @@ BookPages::BookPages(const BookFonts &fonts, const PageSetup &setup, const QStri
 
 double BookPages::textWidth(const PageSetup &setup)
 {
-    return twips(setup.paper.width() - setup.inside - setup.outside);
+    return twips(setup.textWidth());
 }
 
 QSizeF BookPages::paper() const

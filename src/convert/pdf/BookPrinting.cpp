@@ -1,9 +1,9 @@
 #include "convert/pdf/BookPrinting.h"
 
 #include "convert/book/Book.h"
+#include "convert/book/WorkPart.h"
 #include "convert/pdf/BookTypesetter.h"
 #include "convert/pdf/PdfDrawing.h"
-#include "convert/pdf/WorkPart.h"
 #include "platform/Errors.h"
 
 #include <QPrintDialog>

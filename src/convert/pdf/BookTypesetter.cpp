@@ -80,7 +80,7 @@ BookPages BookTypesetter::pages()
 
 QString BookTypesetter::remarks() const
 {
-    QStringList remarks{m_missing.sentence(), m_fonts.missingSentence()};
+    QStringList remarks{m_missing.sentence(), m_fonts.remarks()};
     if (m_setup.hyphenated && !m_hyphenation.isThere())
         remarks.append(QCoreApplication::translate("BookTypesetter",
                                                    "Les mots ne sont pas coupés : le dictionnaire "

@@ -15,6 +15,8 @@ constexpr double MostPaper = 500;
 constexpr double LeastText = 25; // of paper, in both directions
 constexpr double LeastPoints = 4;
 constexpr double MostPoints = 72;
+constexpr double FreeBelowNumber = 0.35; // of a line
+constexpr double LinesBelowNumber = 2;
 constexpr double Inch = 25.4;
 constexpr double MillimetresPerPoint = Inch / 72;
 
@@ -48,11 +50,11 @@ public:
         for (const double margin : {setup.inside, setup.outside, setup.top, setup.foot})
             if (!isWithin(margin, 0, MostPaper))
                 return tr("Les marges doivent avoir de 0 à %1 mm.").arg(shown(MostPaper));
-        if (setup.paper.width() - setup.inside - setup.outside < LeastText)
+        if (setup.textWidth() < LeastText)
             return tr("Les marges intérieure et extérieure ne laissent pas %1 mm au texte sur un "
                       "papier large de %2 mm.")
                 .arg(shown(LeastText), shown(setup.paper.width()));
-        if (setup.paper.height() - setup.top - setup.foot < LeastText)
+        if (setup.textHeight() < LeastText)
             return tr("Les marges de tête et de pied ne laissent pas %1 mm au texte sur un papier "
                       "haut de %2 mm.")
                 .arg(shown(LeastText), shown(setup.paper.height()));
@@ -61,6 +63,8 @@ public:
 
     static QString type(const PageSetup &setup)
     {
+        if (setup.font.trimmed().isEmpty())
+            return tr("Choisissez une police.");
         if (!isWithin(setup.points, LeastPoints, MostPoints) ||
             !isWithin(setup.number.points, LeastPoints, MostPoints))
             return tr("Les caractères doivent avoir de %1 à %2 points.")
@@ -69,6 +73,16 @@ public:
             return tr("L'interligne doit avoir de %1 à %2 points pour des caractères de %3 points.")
                 .arg(shown(0.8 * setup.points), shown(3 * setup.points), shown(setup.points));
         return {};
+    }
+
+    // Else a number would stand alone.
+    static QString lines(const PageSetup &setup)
+    {
+        const double lines = std::floor(setup.textHeight() / MillimetresPerPoint / setup.leading);
+        if (lines >= std::ceil(numberLines(setup) + LinesBelowNumber))
+            return {};
+        return tr("Les marges et l'interligne ne laissent pas la hauteur d'un numéro et de deux "
+                  "lignes.");
     }
 
     // What stands in the margins is two lines away from the text, and not at the very edge.
@@ -85,6 +99,11 @@ public:
     }
 };
 } // namespace
+
+double numberLines(const PageSetup &setup)
+{
+    return std::max(1.0, setup.number.points / setup.points) + FreeBelowNumber;
+}
 
 const std::array<Paper, 4> &knownPapers()
 {
@@ -104,8 +123,8 @@ PageSetup defaultPageSetup(const Variables &variables)
 
 QString pageSetupFault(const PageSetup &setup)
 {
-    for (const auto &faultOf :
-         {&SetupFault::paper, &SetupFault::margin, &SetupFault::type, &SetupFault::inTheMargins})
+    for (const auto &faultOf : {&SetupFault::paper, &SetupFault::margin, &SetupFault::type,
+                                &SetupFault::lines, &SetupFault::inTheMargins})
         if (const QString fault = faultOf(setup); !fault.isEmpty())
             return fault;
     return {};

@@ -34,8 +34,15 @@ struct PageSetup {
     bool pageNumbers = true;
     Flow flow = Flow::OneAfterAnother;
 
+    // What the margins leave to the text.
+    double textWidth() const { return paper.width() - inside - outside; }
+    double textHeight() const { return paper.height() - top - foot; }
+
     bool operator==(const PageSetup &) const = default;
 };
+
+// The height that a number takes above its text, in lines of the text.
+double numberLines(const PageSetup &setup);
 
 // The papers that have names, "A5".
 struct Paper {

@@ -4,6 +4,8 @@
 #include "ui_PageSetupPanel.h"
 
 #include <QFontDatabase>
+#include <QRegularExpression>
+#include <limits>
 
 namespace
 {
@@ -12,9 +14,12 @@ void showMeasure(QLineEdit &box, double value)
     box.setText(QString::number(value, 'g', 5));
 }
 
+// An emptied box is no measure of 0.
 double measureIn(const QLineEdit &box)
 {
-    return lenientMeasure(box.text());
+    return box.text().contains(QRegularExpression(QStringLiteral("[0-9]")))
+               ? lenientMeasure(box.text())
+               : std::numeric_limits<double>::quiet_NaN();
 }
 
 void showFont(QComboBox &box, const QString &family)

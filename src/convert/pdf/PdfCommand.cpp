@@ -1,10 +1,10 @@
 #include "convert/pdf/PdfCommand.h"
 
 #include "convert/book/Book.h"
+#include "convert/book/WorkPart.h"
 #include "convert/pdf/BookTypesetter.h"
 #include "convert/pdf/PdfDrawing.h"
 #include "convert/pdf/PdfLinks.h"
-#include "convert/pdf/WorkPart.h"
 #include "platform/Errors.h"
 #include "store/ExportTarget.h"
 

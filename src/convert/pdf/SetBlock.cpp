@@ -10,6 +10,7 @@ namespace
 // Indents were made for the width of the editor; on a narrow page they leave so much to the text.
 constexpr double MostIndent = 0.5;
 constexpr double MostRightIndent = 0.25;
+constexpr int MostParted = 3; // lines one below the other that end in a hyphen
 
 QTextOption options(const ParagraphState &format, bool justified)
 {
@@ -27,6 +28,24 @@ QTextOption options(const ParagraphState &format, bool justified)
 bool hasBlank(QStringView text)
 {
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+}
+
+bool isParted(const QTextLine &line, const QString &text)
+{
+    const int end = line.textStart() + line.textLength();
+    return end > line.textStart() && text.at(end - 1) == QChar::SoftHyphen;
+}
+
+// Ends the line before the word that is parted at its end. A word that is all of it stays parted.
+void endBeforeWord(QTextLine &line, const QString &text, double width)
+{
+    int columns = line.textLength() - 1;
+    while (columns > 0 && isParted(line, text)) {
+        line.setNumColumns(columns, width);
+        columns = std::min(columns, line.textLength()) - 1;
+    }
+    if (isParted(line, text) || line.textLength() == 0)
+        line.setLineWidth(width);
 }
 
 // A justified line that is one word would be spread letter by letter: it is as wide as the word.
@@ -61,17 +80,26 @@ void SetBlock::setLines(const ParagraphState &format, double width)
     if (format.bullet)
         m_bulletX = first;
     m_layout->beginLayout();
+    int parted = 0; // lines above that end in a hyphen
     for (bool isFirst = true;; isFirst = false) {
         QTextLine line = m_layout->createLine();
         if (!line.isValid())
             break;
         const double x = (isFirst ? first : left) + bullet;
         line.setLineWidth(width - x - right);
+        if (parted == MostParted && isParted(line, m_layout->text()))
+            endBeforeWord(line, m_layout->text(), width - x - right);
+        parted = isParted(line, m_layout->text()) ? parted + 1 : 0;
         if (m_layout->textOption().alignment() == Qt::AlignJustify)
             keepWordTogether(line, m_layout->text(), width - x - right);
         line.setPosition({x, 0});
     }
     m_layout->endLayout();
+}
+
+bool SetBlock::endsInHyphen(int line) const
+{
+    return isParted(m_layout->lineAt(line), m_layout->text());
 }
 
 void SetBlock::measure(const BookBlock &block, const QList<BlockText::Size> &sizes,

@@ -3,11 +3,6 @@
 #include <QPainter>
 #include <algorithm>
 
-namespace
-{
-constexpr double FreeBelowNumber = 0.35; // of a line
-}
-
 SetParagraph::SetParagraph(const BookParagraph &paragraph, const PageSetup &setup, BookFonts &fonts,
                            const Hyphenation *hyphenation, double width)
     : m_number(paragraph.number), m_style(setup.number), m_width(width)
@@ -16,7 +11,7 @@ SetParagraph::SetParagraph(const BookParagraph &paragraph, const PageSetup &setu
         m_numberFont = fonts.number();
         m_numberHeight = fonts.leading() * std::max(1.0, setup.number.points / setup.points);
         m_numberBaseline = fonts.baseline(m_numberHeight);
-        m_heading = m_numberHeight + fonts.leading() * FreeBelowNumber;
+        m_heading = fonts.leading() * numberLines(setup);
     }
     m_blocks.reserve(static_cast<std::size_t>(paragraph.blocks.size())); // m_lines point there
     for (const BookBlock &block : paragraph.blocks) {

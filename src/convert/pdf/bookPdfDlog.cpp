@@ -33,6 +33,8 @@ bookPdfDlog::~bookPdfDlog() = default;
 void bookPdfDlog::Form_Load()
 {
     fillRange(*m_ui->txtLow, *m_ui->txtHigh, m_variables.LowestWritten, m_variables.HighestWritten);
+    m_ui->txtLow->keepNumber();
+    m_ui->txtHigh->keepNumber();
     m_ui->panel->setSetup(readPageSetup(m_variables));
 }
 

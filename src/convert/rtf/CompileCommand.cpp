@@ -10,8 +10,8 @@ QString translated(const char *text)
 }
 } // namespace
 
-bool compileToRtf(const ExportCommand &command, const ExportRequest &request,
-                  const NumberStyle &style, RtfLinks links)
+std::optional<QString> compileToRtf(const ExportCommand &command, const ExportRequest &request,
+                                    const NumberStyle &style, RtfLinks links)
 {
     const Variables &variables = command.variables();
     const auto write = [&](const ExportRange &range, const Progress &progress) {
@@ -22,11 +22,11 @@ bool compileToRtf(const ExportCommand &command, const ExportRequest &request,
                                              variables, exportRange(request.first, request.second)))
                                        : QString();
     };
-    return command.mayReplace(request.place) &&
-           command.run(request, {translated(QT_TRANSLATE_NOOP(
-                                     "CompileCommand", "Conversion en Cours Veuillez Attendre")),
-                                 write,
-                                 translated(QT_TRANSLATE_NOOP(
-                                     "CompileCommand", "Erreur d'enregistrement du fichier")),
-                                 remark});
+    const ExportCommand::Kind kind{
+        translated(QT_TRANSLATE_NOOP("CompileCommand", "Conversion en Cours Veuillez Attendre")),
+        write,
+        translated(QT_TRANSLATE_NOOP("CompileCommand", "Erreur d'enregistrement du fichier")),
+        remark};
+    const bool written = command.mayReplace(request.place) && command.run(request, kind);
+    return written ? std::optional(remark()) : std::nullopt;
 }

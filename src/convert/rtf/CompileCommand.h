@@ -3,6 +3,9 @@
 #include "convert/ExportCommand.h"
 #include "convert/rtf/RtfCompilation.h"
 
-// Compiles paragraphs into an RTF document as a command.
-bool compileToRtf(const ExportCommand &command, const ExportRequest &request,
-                  const NumberStyle &style, RtfLinks links = RtfLinks::Without);
+#include <optional>
+
+// Compiles paragraphs into an RTF document as a command. Gives what the author is to know of the
+// document, mostly nothing; no value: it was not written, and the author has been told.
+std::optional<QString> compileToRtf(const ExportCommand &command, const ExportRequest &request,
+                                    const NumberStyle &style, RtfLinks links = RtfLinks::Without);

@@ -74,7 +74,7 @@ void convertRTF::OKButton_Click()
     m_ui->waitLabel->show();
     repaint();
     WorkInDialog work(m_report, *m_ui->barWork);
-    const bool done =
+    const auto done =
         compileToRtf({m_variables, m_prompts, work}, {low, high, path}, chosenStyle(),
                      m_ui->chkLinks->isChecked() ? RtfLinks::With : RtfLinks::Without);
     m_ui->waitLabel->hide();
