@@ -51,7 +51,8 @@ English.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "breeze-icon-theme, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-    "desktop-file-utils, fonts-dejavu-core, fonts-liberation, hicolor-icon-theme, hyphen-fr")
+    "desktop-file-utils, fonts-dejavu-core, fonts-liberation, hicolor-icon-theme, hunspell-fr-comprehensive,\
+ hyphen-fr, mythes-fr")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS
     "bash-completion, hyphen-en-us, qt6-gtk-platformtheme, qt6-wayland")
 include(CPack)

@@ -162,6 +162,8 @@ QList<QByteArray> extrasSeeds()
     extras.starts = {1, 2000};
     extras.accepted = {{QStringLiteral("fin"), 12, QByteArray(32, 's')}};
     extras.reading = {{1, 12}, {{1, 12}}, {{QStringLiteral("là"), {1, 12}}, {{}, {}}}};
+    extras.words = {QStringLiteral("Elric"), QStringLiteral("Val-d'Or")};
+    extras.ignored = {{12, QStringLiteral("qué")}};
     extras.unknown = {{"ZZZZ", "z"}, {"AAAA", {}}};
     return {bytesOf(extras).sliced(ExtrasHead)};
 }

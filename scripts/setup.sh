@@ -12,8 +12,8 @@ trap 'fail "stopped at line $LINENO: $BASH_COMMAND"' ERR
 
 # What the build and the program need on Debian 12.
 PACKAGES=(cmake ninja-build g++ ccache qt6-base-dev qt6-svg-dev qt6-l10n-tools libqt6svg6
-    libzip-dev libqpdf-dev libhyphen-dev hyphen-fr qt6-translations-l10n breeze-icon-theme
-    fonts-liberation fonts-dejavu-core)
+    libzip-dev libqpdf-dev libhyphen-dev hyphen-fr libhunspell-dev hunspell-fr-comprehensive
+    mythes-fr qt6-translations-l10n breeze-icon-theme fonts-liberation fonts-dejavu-core)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then

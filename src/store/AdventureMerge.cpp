@@ -15,6 +15,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 
 namespace
 {
@@ -126,13 +127,22 @@ void takeAll(Incoming &incoming, const QList<int> &numbers, const Progress &prog
     }
 }
 
+template <typename List> void takeMissing(List &list, const List &taken)
+{
+    for (const auto &one : taken)
+        if (!list.contains(one))
+            list.append(one);
+}
+
 // What has been accepted there about the paragraphs that come need not be accepted once more.
 void takeAccepted(Variables &variables, const AdventureExtras &taken)
 {
     AdventureExtras extras = variables.extras;
-    for (const AcceptedFinding &finding : taken.accepted)
-        if (!extras.accepted.contains(finding))
-            extras.accepted.append(finding);
+    takeMissing(extras.accepted, taken.accepted);
+    takeMissing(extras.ignored, taken.ignored);
+    extras.words += taken.words;
+    std::sort(extras.words.begin(), extras.words.end());
+    extras.words.removeDuplicates();
     if (extras != variables.extras)
         changeExtras(variables, extras);
 }

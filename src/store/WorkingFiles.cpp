@@ -78,6 +78,11 @@ QString WorkingFiles::pageSetup() const
     return m_folder + QStringLiteral("Usmira Mise en Pages.xyz");
 }
 
+QString WorkingFiles::ownWords() const
+{
+    return m_folder + QStringLiteral("Usmira Mots.xyz");
+}
+
 QString WorkingFiles::deliveries() const
 {
     return m_folder + QStringLiteral("Usmira Documents.xyz");

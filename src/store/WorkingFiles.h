@@ -15,6 +15,7 @@ struct Variables;
 //   Usmira Fenêtre.xyz                 there while the window is to come back maximised
 //   Usmira Confort.xyz                 how the editor looks and starts
 //   Usmira Mise en Pages.xyz           how the pages of a printed book look
+//   Usmira Mots.xyz                    words that the author's spelling takes as right
 //   Usmira Documents.xyz               which documents were delivered, by their checksums
 //   Copyright.rtf and the like         documents, which the author may replace
 //   Session/Journal.xyz                a change of many paragraphs that counts
@@ -46,6 +47,7 @@ public:
     QString maximized() const;
     QString comfort() const;
     QString pageSetup() const;
+    QString ownWords() const;
     QString deliveries() const;
 
     enum class Document {

@@ -34,7 +34,8 @@ QByteArray records(const QByteArray &one, const QByteArray &other)
            record("READ", one) + record("TAKN", one + other) +
            record("BKMK", u32(3) + "\xEF\xBB\xBF" + u32(2) + one + other + u32(0) + u32(0)) +
            record("BOOK", u32(4) + "Loup" + u32(0) + u32(2) + "fr" + u32(0) + u32(0) + u32(0)) +
-           record("COVR", "\x89PNG") + record("ZZZZ", "kept \1") + record("AAAA", "") +
+           record("COVR", "\x89PNG") + record("WORD", u32(5) + "Elric" + u32(0)) +
+           record("IGNW", other + u32(4) + "qué") + record("ZZZZ", "kept \1") + record("AAAA", "") +
            record("ZZZZ", "twice");
 }
 const QByteArray Full = records(Two, Last);
@@ -54,6 +55,8 @@ private Q_SLOTS:
         QCOMPARE(extras->accepted, (QList<AcceptedFinding>{{"piège", 2000, Sum, 2}}));
         QCOMPARE(extras->reading.bookmarks.first().way, (QList<int>{2, 2000}));
         QCOMPARE(extras->book.title + extras->book.language, "Loupfr");
+        QCOMPARE(extras->words, (QStringList{"Elric", ""}));
+        QCOMPARE(extras->ignored, (QList<IgnoredWord>{{2000, "qué"}}));
         QCOMPARE(bytesOf(*extras), whole);
         QCOMPARE(bytesOf({}), QByteArray());
     }
@@ -73,6 +76,8 @@ private Q_SLOTS:
              {"half a choice", extrasBlock(record("TAKN", Two))},
              {"way of 4 GiB", extrasBlock(record("BKMK", u32(0) + u32(-1) + Two))},
              {"title of 4 GiB", extrasBlock(record("BOOK", u32(-1)))},
+             {"half a word", extrasBlock(record("WORD", u32(2) + "x"))},
+             {"half an ignored word", extrasBlock(record("IGNW", Two + u32(1)))},
              {"name of 4 GiB", extrasBlock(record("BKMK", u32(-1)))},
              {"record of 4 GiB", extrasBlock("ZZZZ" + u32(-1))},
              {"half a tag", extrasBlock("ZZZ")},
@@ -112,6 +117,7 @@ private Q_SLOTS:
         const AdventureExtras part = extrasOf({2}, *before);
         QCOMPARE(part.starts, QList<int>{2});
         QVERIFY(part.accepted.isEmpty() && part.reading == ReadingMarks());
+        QVERIFY(part.ignored.isEmpty() && part.words == before->words);
         QCOMPARE(part.unknown.size(), 3);
     }
 

@@ -10,6 +10,7 @@ namespace
 {
 constexpr qint64 LargestFile = 128 * 1024;
 constexpr int LongestPath = 4096;
+constexpr int LongestName = 64; // of a dictionary
 
 const QStringList &colourNames()
 {
@@ -33,6 +34,21 @@ void readNumber(const QString &text, int lowest, int highest, int &value)
         value = number;
 }
 
+bool readFlag(const QString &name, const QString &value, EditorComfort &comfort)
+{
+    const std::initializer_list<std::pair<QStringView, bool *>> flags{
+        {u"renvois", &comfort.underlines},
+        {u"orthographe", &comfort.spelling},
+        {u"capitales", &comfort.skipsCapitals},
+        {u"chiffres", &comfort.skipsDigits}};
+    for (const auto &[known, flag] : flags)
+        if (name == known) {
+            *flag = value != QStringLiteral("0");
+            return true;
+        }
+    return false;
+}
+
 bool isPath(const QString &text)
 {
     return text.size() <= LongestPath && QDir::isAbsolutePath(text) &&
@@ -42,6 +58,8 @@ bool isPath(const QString &text)
 void readValue(const QString &name, const QString &value, EditorComfort &comfort)
 {
     using Comfort = EditorComfort;
+    if (readFlag(name, value, comfort))
+        return;
     if (name == QStringLiteral("zoom"))
         readNumber(value, Comfort::LeastZoom, Comfort::MostZoom, comfort.zoom);
     else if (name == QStringLiteral("page"))
@@ -50,8 +68,9 @@ void readValue(const QString &name, const QString &value, EditorComfort &comfort
         comfort.colours = static_cast<Comfort::Colours>(colourNames().indexOf(value));
     else if (name == QStringLiteral("rouvrir"))
         comfort.reopenLast = value == QStringLiteral("1");
-    else if (name == QStringLiteral("renvois"))
-        comfort.underlines = value != QStringLiteral("0");
+    else if (name == QStringLiteral("dictionnaire") && !value.isEmpty() &&
+             value.size() <= LongestName)
+        comfort.dictionary = value;
     else if (name == QStringLiteral("langue") && languageNames().contains(value))
         comfort.language = static_cast<Comfort::Language>(languageNames().indexOf(value));
     else if (name == QStringLiteral("aventure") && isPath(value) &&
@@ -85,12 +104,17 @@ void writeComfort(const QString &path, const EditorComfort &comfort)
 {
     const auto colours = static_cast<qsizetype>(comfort.colours);
     const auto language = static_cast<qsizetype>(comfort.language);
-    QString text = line(QStringLiteral("zoom"), QString::number(comfort.zoom)) +
-                   line(QStringLiteral("page"), QString::number(comfort.pageWidth)) +
-                   line(QStringLiteral("couleurs"), colourNames().at(colours)) +
-                   line(QStringLiteral("rouvrir"), QString::number(comfort.reopenLast ? 1 : 0)) +
-                   line(QStringLiteral("renvois"), QString::number(comfort.underlines ? 1 : 0)) +
-                   line(QStringLiteral("langue"), languageNames().at(language));
+    QString text =
+        line(QStringLiteral("zoom"), QString::number(comfort.zoom)) +
+        line(QStringLiteral("page"), QString::number(comfort.pageWidth)) +
+        line(QStringLiteral("couleurs"), colourNames().at(colours)) +
+        line(QStringLiteral("rouvrir"), QString::number(comfort.reopenLast ? 1 : 0)) +
+        line(QStringLiteral("renvois"), QString::number(comfort.underlines ? 1 : 0)) +
+        line(QStringLiteral("orthographe"), QString::number(comfort.spelling ? 1 : 0)) +
+        line(QStringLiteral("dictionnaire"), comfort.dictionary) +
+        line(QStringLiteral("capitales"), QString::number(comfort.skipsCapitals ? 1 : 0)) +
+        line(QStringLiteral("chiffres"), QString::number(comfort.skipsDigits ? 1 : 0)) +
+        line(QStringLiteral("langue"), languageNames().at(language));
     for (const QString &adventure : comfort.adventures)
         text += line(QStringLiteral("aventure"), adventure);
     writeWholeFile(path, text.toUtf8(), Durability::Data, Links::Replace);

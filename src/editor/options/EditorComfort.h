@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 #include <QStringList>
 
 // How an author likes the editor to look and to start. Nothing of it is part of a text.
@@ -11,6 +12,10 @@
 //   couleurs=bureau           or claires, or sombres
 //   rouvrir=1                 or 0
 //   renvois=1                 or 0: whether references are underlined
+//   orthographe=1             or 0: whether doubtful words are underlined
+//   dictionnaire=fr           by which spelling goes, as its files are called
+//   capitales=1               or 0: whether spelling passes over words of capitals
+//   chiffres=1                or 0: whether it passes over words with digits
 //   langue=fr                 or en, or bureau
 //   aventure=/home/...        of each adventure opened last, the latest first
 struct EditorComfort {
@@ -28,6 +33,10 @@ struct EditorComfort {
     Colours colours = Colours::Desktop;
     bool reopenLast = false;
     bool underlines = true;
+    bool spelling = true;
+    QString dictionary = QStringLiteral("fr");
+    bool skipsCapitals = true;
+    bool skipsDigits = true;
     Language language = Language::French;
     QStringList adventures;
 

@@ -30,6 +30,8 @@ AdventureExtras renumbered(AdventureExtras extras, const NumberMap &numbers)
         finding.number = numbers.at(finding.number);
         finding.target = numbers.at(finding.target);
     }
+    for (IgnoredWord &ignored : extras.ignored)
+        ignored.number = numbers.at(ignored.number);
     renumber(extras.reading.read, numbers);
     for (ReadingMarks::Choice &choice : extras.reading.taken)
         choice = {numbers.at(choice.from), numbers.at(choice.to)};
@@ -43,6 +45,8 @@ AdventureExtras extrasOf(const QList<int> &numbers, AdventureExtras extras)
     extras.starts.removeIf([&](int n) { return !numbers.contains(n); });
     extras.accepted.removeIf(
         [&](const AcceptedFinding &finding) { return !numbers.contains(finding.number); });
+    extras.ignored.removeIf(
+        [&](const IgnoredWord &ignored) { return !numbers.contains(ignored.number); });
     extras.reading = {};
     return extras;
 }

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 struct Variables;
 
@@ -51,6 +52,13 @@ struct BookFacts {
     bool operator==(const BookFacts &) const = default;
 };
 
+// A word that is right where it stands, in this paragraph alone.
+struct IgnoredWord {
+    int number = 0;
+    QString word;
+    bool operator==(const IgnoredWord &) const = default;
+};
+
 // What another version of the program has put there: nobody here understands it, and nobody loses
 // it.
 struct UnknownRecord {
@@ -64,6 +72,8 @@ struct AdventureExtras {
     QList<AcceptedFinding> accepted;
     ReadingMarks reading;
     BookFacts book;
+    QStringList words; // names and places that spelling takes as right, sorted, each once
+    QList<IgnoredWord> ignored;
     QList<UnknownRecord> unknown; // in the order of the file
     bool operator==(const AdventureExtras &) const = default;
 };
@@ -76,7 +86,7 @@ QList<int> readingStarts(const Variables &variables);
 // that the inverse map brings all of them back.
 AdventureExtras renumbered(AdventureExtras extras, const NumberMap &numbers);
 
-// What goes along when these paragraphs become an adventure of their own: starts and accepted
-// findings of theirs, and what is unknown, which may speak of the whole book. Readings are of
-// another book.
+// What goes along when these paragraphs become an adventure of their own: starts, accepted findings
+// and ignored words of theirs, all words of the adventure, and what is unknown, which may speak of
+// the whole book. Readings are of another book.
 AdventureExtras extrasOf(const QList<int> &numbers, AdventureExtras extras);

@@ -18,6 +18,8 @@ constexpr QByteArrayView Taken("TAKN");
 constexpr QByteArrayView Bookmarks("BKMK");
 constexpr QByteArrayView Facts("BOOK");
 constexpr QByteArrayView Cover("COVR");
+constexpr QByteArrayView Words("WORD");
+constexpr QByteArrayView Ignored("IGNW");
 constexpr quint16 Version = 1;
 constexpr qsizetype LengthOfSum = 32;
 constexpr qsizetype LengthOfTag = 4;
@@ -142,6 +144,22 @@ QByteArray factsBytes(BookFacts facts)
            textBytes(facts.dedication) + textBytes(facts.before) + textBytes(facts.after);
 }
 
+QByteArray wordBytes(const QStringList &words)
+{
+    QByteArray bytes;
+    for (const QString &word : words)
+        bytes += textBytes(word);
+    return bytes;
+}
+
+QByteArray ignoredBytes(const QList<IgnoredWord> &ignored)
+{
+    QByteArray bytes;
+    for (const IgnoredWord &one : ignored)
+        bytes += numberBytes(one.number) + textBytes(one.word);
+    return bytes;
+}
+
 QByteArray recordBytes(const AdventureExtras &extras)
 {
     QByteArray bytes = record(Starts, numbersBytes(extras.starts)) +
@@ -149,7 +167,9 @@ QByteArray recordBytes(const AdventureExtras &extras)
                        record(Read, numbersBytes(extras.reading.read)) +
                        record(Taken, takenBytes(extras.reading.taken)) +
                        record(Bookmarks, bookmarkBytes(extras.reading.bookmarks)) +
-                       record(Facts, factsBytes(extras.book)) + record(Cover, extras.book.cover);
+                       record(Facts, factsBytes(extras.book)) + record(Cover, extras.book.cover) +
+                       record(Words, wordBytes(extras.words)) +
+                       record(Ignored, ignoredBytes(extras.ignored));
     for (const UnknownRecord &unknown : extras.unknown)
         bytes += unknown.tag + lengthBytes(unknown.bytes.size()) + unknown.bytes;
     return bytes;
@@ -191,6 +211,24 @@ QList<ReadingMarks::Bookmark> readBookmarks(RecordReader &record)
     return bookmarks;
 }
 
+QStringList readWords(RecordReader &record)
+{
+    QStringList words;
+    while (!record.atEnd())
+        words.append(record.takeText());
+    return words;
+}
+
+QList<IgnoredWord> readIgnored(RecordReader &record)
+{
+    QList<IgnoredWord> ignored;
+    while (!record.atEnd()) {
+        const int number = record.takeNumber();
+        ignored.append({number, record.takeText()});
+    }
+    return ignored;
+}
+
 void readFacts(RecordReader &record, BookFacts &facts)
 {
     for (QString *text : {&facts.title, &facts.author, &facts.language, &facts.dedication,
@@ -215,6 +253,10 @@ void readRecord(QByteArrayView tag, QByteArrayView bytes, AdventureExtras &extra
         readFacts(record, extras.book);
     else if (tag == Cover)
         extras.book.cover = bytes.toByteArray();
+    else if (tag == Words)
+        extras.words = readWords(record);
+    else if (tag == Ignored)
+        extras.ignored = readIgnored(record);
     else
         extras.unknown.append({tag.toByteArray(), bytes.toByteArray()});
 }

@@ -20,6 +20,8 @@
 //   "BKMK" once a bookmark: text of the name, u32 count, numbers of the way
 //   "BOOK" texts: title, author, language, dedication, before, after
 //   "COVR" a picture file
+//   "WORD" texts of the words that spelling takes as right
+//   "IGNW" once a word that is right in one paragraph: number, text
 //
 // Records of other tags are kept as they are. What a tag means never changes: another layout gets
 // another tag. Of two records of a known tag the last counts.

@@ -1,0 +1,163 @@
+#include "language/spelling/SpellingWords.h"
+
+#include <algorithm>
+
+namespace
+{
+constexpr qsizetype FarFromChange = 256; // characters in which a blank is looked for
+
+bool isApostrophe(QChar c)
+{
+    return c == u'\'' || c == u'\u2019' || c == u'\u02BC';
+}
+
+bool isHyphen(QChar c)
+{
+    return c == u'-' || c == u'\u2010' || c == u'\u2011';
+}
+
+// Soft hyphens, and what joins or parts letters without being seen.
+bool isUnseen(QChar c)
+{
+    return c == u'\u00AD' || (c >= u'\u200B' && c <= u'\u200D') || c == u'\u2060';
+}
+
+bool isOfWord(QChar c)
+{
+    return (c.isLetterOrNumber() && c != u'\u02BC') || c.isMark();
+}
+
+bool isBlank(QChar c)
+{
+    return c.isSpace() || c == u'\u202F';
+}
+
+bool joins(QChar c)
+{
+    return isApostrophe(c) || isHyphen(c);
+}
+
+qsizetype endOfWord(QStringView text, qsizetype at)
+{
+    qsizetype end = at;
+    while (at < text.size()) {
+        const QChar c = text.at(at);
+        if (isOfWord(c))
+            end = ++at;
+        else if (isUnseen(c))
+            ++at;
+        else if (joins(c) && end == at && at + 1 < text.size() && isOfWord(text.at(at + 1)))
+            ++at;
+        else
+            break;
+    }
+    return end;
+}
+
+bool isAddress(QStringView run)
+{
+    const qsizetype at = run.indexOf(u'@');
+    return run.contains(QLatin1String("://")) || run.startsWith(QLatin1String("www.")) ||
+           (at > 0 && at + 1 < run.size() && run.at(at - 1).isLetterOrNumber() &&
+            run.at(at + 1).isLetterOrNumber());
+}
+
+// The length of the code that begins at a '<', or 0: "5 < 6" is none.
+qsizetype codeLength(QStringView text, qsizetype at)
+{
+    if (at + 1 >= text.size())
+        return 0;
+    const QChar next = text.at(at + 1);
+    if (!next.isLetter() && next != u'/' && next != u'!' && next != u'?')
+        return 0;
+    for (qsizetype end = at + 1; end < text.size(); ++end) {
+        const QChar c = text.at(end);
+        if (c == u'>')
+            return end + 1 - at;
+        if (c == u'<' || c == u'\n' || c == u'\r' || c == QChar::ParagraphSeparator)
+            break;
+    }
+    return 0;
+}
+
+// The words between two blanks or pieces of code.
+void addWords(QStringView text, qsizetype begin, qsizetype end, QList<SpellingWord> &words)
+{
+    if (isAddress(text.mid(begin, end - begin)))
+        return;
+    const QStringView run = text.first(end);
+    for (qsizetype at = begin; at < end;) {
+        if (!isOfWord(run.at(at)) || run.at(at).isMark()) {
+            ++at;
+            continue;
+        }
+        const qsizetype last = endOfWord(run, at);
+        const QStringView word = run.mid(at, last - at);
+        if (std::any_of(word.begin(), word.end(), [](QChar c) { return c.isLetter(); }))
+            words.append({at, word.size(), spellingForm(word)});
+        at = last;
+    }
+}
+
+// What is no part of a word, for texts in which there are no blanks.
+bool parts(QChar c)
+{
+    return c == u',' || c == u';' || c == u'!' || c == u'(' || c == u')' || c == u'\u2026';
+}
+
+bool endsRange(QChar c, qsizetype distance)
+{
+    return isBlank(c) || (distance > FarFromChange && parts(c));
+}
+} // namespace
+
+QString spellingForm(QStringView word)
+{
+    QString form;
+    form.reserve(word.size());
+    bool composed = true;
+    for (const QChar c : word) {
+        if (isUnseen(c))
+            continue;
+        composed = composed && !c.isMark();
+        form += isApostrophe(c) ? QChar(u'\'') : isHyphen(c) ? QChar(u'-') : c;
+    }
+    return composed ? form : form.normalized(QString::NormalizationForm_C);
+}
+
+WordsAndCode spellingWords(QStringView text)
+{
+    WordsAndCode found;
+    qsizetype begin = 0;
+    qsizetype at = 0;
+    const auto endRun = [&] {
+        if (at > begin)
+            addWords(text, begin, at, found.words);
+    };
+    while (at < text.size()) {
+        const QChar c = text.at(at);
+        const qsizetype code = c == u'<' ? codeLength(text, at) : 0;
+        if (code == 0 && !isBlank(c)) {
+            ++at;
+            continue;
+        }
+        endRun();
+        if (code > 0)
+            found.code.append({at, code});
+        at += std::max<qsizetype>(code, 1);
+        begin = at;
+    }
+    endRun();
+    return found;
+}
+
+TextRange wordsAround(QStringView text, TextRange changed)
+{
+    qsizetype begin = std::clamp<qsizetype>(changed.begin, 0, text.size());
+    qsizetype end = std::clamp<qsizetype>(changed.end, begin, text.size());
+    while (begin > 0 && !endsRange(text.at(begin - 1), changed.begin - begin))
+        --begin;
+    while (end < text.size() && !endsRange(text.at(end), end - changed.end))
+        ++end;
+    return {begin, end};
+}
