@@ -66,6 +66,7 @@ std::vector<CommandEntry> historyEntries();
 std::vector<CommandEntry> textEntries();
 std::vector<CommandEntry> checkEntries();
 std::vector<CommandEntry> statisticsEntries();
+std::vector<CommandEntry> typographyEntries();
 std::vector<CommandEntry> viewsEntries();
 std::vector<CommandEntry> publishEntries();
 std::vector<CommandEntry> bookEntries();
