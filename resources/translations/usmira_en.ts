@@ -2758,6 +2758,134 @@ A workshop for writing gamebooks.</translation>
     </message>
 </context>
 <context>
+    <name>Typography</name>
+    <message>
+        <source>Espaces insécables</source>
+        <translation>No-break spaces</translation>
+    </message>
+    <message>
+        <source>L&apos;espace devant ; : ! ? et » et derrière « ne se coupe pas en fin de ligne</source>
+        <translation>No line ends at the space before ; : ! ? and » and behind «</translation>
+    </message>
+    <message>
+        <source>Espaces qui manquent</source>
+        <translation>Missing spaces</translation>
+    </message>
+    <message>
+        <source>Devant ; : ! ? et » et derrière «</source>
+        <translation>Before ; : ! ? and » and behind «</translation>
+    </message>
+    <message>
+        <source>Guillemets droits</source>
+        <translation>Straight quotation marks</translation>
+    </message>
+    <message>
+        <source>&quot;mot&quot; devient « mot », et “mot” entre guillemets</source>
+        <translation>&quot;mot&quot; becomes « mot », and “mot” within others</translation>
+    </message>
+    <message>
+        <source>Apostrophes droites</source>
+        <translation>Straight apostrophes</translation>
+    </message>
+    <message>
+        <source>l&apos;eau devient l’eau</source>
+        <translation>l&apos;eau becomes l’eau</translation>
+    </message>
+    <message>
+        <source>Points de suspension</source>
+        <translation>Dots</translation>
+    </message>
+    <message>
+        <source>Trois points deviennent un seul signe</source>
+        <translation>Three full stops become one sign</translation>
+    </message>
+    <message>
+        <source>Tirets de dialogue</source>
+        <translation>Dialogue dashes</translation>
+    </message>
+    <message>
+        <source>- Bonjour. devient — Bonjour.</source>
+        <translation>- Bonjour. becomes — Bonjour.</translation>
+    </message>
+    <message>
+        <source>Doubles tirets</source>
+        <translation>Double hyphens</translation>
+    </message>
+    <message>
+        <source>-- devient –</source>
+        <translation>-- becomes –</translation>
+    </message>
+    <message>
+        <source>Espaces en trop</source>
+        <translation>Spaces too many</translation>
+    </message>
+    <message>
+        <source>Plusieurs de suite, ou en fin de ligne</source>
+        <translation>Several in a row, or at the end of a line</translation>
+    </message>
+    <message>
+        <source>Ligatures</source>
+        <translation>Ligatures</translation>
+    </message>
+    <message>
+        <source>coeur devient cœur, ex aequo devient ex æquo</source>
+        <translation>coeur becomes cœur, ex aequo becomes ex æquo</translation>
+    </message>
+    <message>
+        <source>Capitales sans accent</source>
+        <translation>Capitals without accents</translation>
+    </message>
+    <message>
+        <source>En début de phrase : A l&apos;aube devient À l&apos;aube</source>
+        <translation>At the start of a sentence: A l&apos;aube becomes À l&apos;aube</translation>
+    </message>
+    <message>
+        <source>Lignes vides en trop</source>
+        <translation>Empty lines too many</translation>
+    </message>
+    <message>
+        <source>De plusieurs de suite il reste une</source>
+        <translation>Of several in a row one stays</translation>
+    </message>
+    <message>
+        <source>Renvois douteux</source>
+        <translation>Doubtful references</translation>
+    </message>
+    <message>
+        <source>Corrigés comme le fait le menu de l&apos;éditeur : cela peut changer où ils mènent</source>
+        <translation>Mended as the editor&apos;s menu does: this may change where they lead</translation>
+    </message>
+</context>
+<context>
+    <name>TypographyCommands</name>
+    <message>
+        <source>Typographie...</source>
+        <translation>Typography...</translation>
+    </message>
+    <message>
+        <source>Correction...</source>
+        <translation>Correction...</translation>
+    </message>
+    <message>
+        <source>Typographie du Livre</source>
+        <translation>Book Typography</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n correction(s) dans %1.</source>
+        <translation>
+            <numerusform>%n correction in %1.</numerusform>
+            <numerusform>%n corrections in %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphe(s)</source>
+        <translation>
+            <numerusform>%n paragraph</numerusform>
+            <numerusform>%n paragraphs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>UniformFormatting</name>
     <message>
         <source>Mise en forme...</source>

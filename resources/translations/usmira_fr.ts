@@ -330,6 +330,23 @@
     </message>
 </context>
 <context>
+    <name>TypographyCommands</name>
+    <message numerus="yes">
+        <source>%n correction(s) dans %1.</source>
+        <translation>
+            <numerusform>%n correction dans %1.</numerusform>
+            <numerusform>%n corrections dans %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n paragraphe(s)</source>
+        <translation>
+            <numerusform>%n paragraphe</numerusform>
+            <numerusform>%n paragraphes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>UniformFormatting</name>
     <message numerus="yes">
         <source>%n paragraphe(s) change(nt).</source>

@@ -1,4 +1,5 @@
 #include "editor/language/TypographyCommands.h"
+#include "language/typography/FrenchWords.h"
 #include "outil/CommandEntry.h"
 #include "outil/Commands.h"
 #include "outil/Script.h"
@@ -56,7 +57,8 @@ QByteArray typographie(CommandServices &script, const QStringList &arguments)
     const Wanted wanted = wantedBy(arguments);
     TypographyCommands commands(script.variables, script.view, script.view);
     QList<int> unreadable;
-    auto looks = commands.lookAtAll(commands.rules(wanted.narrow), wanted.withZero, unreadable);
+    const TypographyRules rules = commands.rules(wanted.narrow, frenchWords());
+    auto looks = commands.lookAtAll(rules, wanted.withZero, unreadable);
     tellUnreadable(unreadable, script.prompts);
     for (auto &[number, look] : looks)
         look.mends.removeIf(

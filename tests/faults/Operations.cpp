@@ -41,6 +41,7 @@ const QList<Operation> &operations()
         changing(QStringLiteral("déplacer"), QStringLiteral("deplacer 2 4 3 haut")),
         changing(QStringLiteral("combler"), QStringLiteral("combler 1 9")),
         changing(QStringLiteral("remplacer"), QStringLiteral("remplacer Allez Va")),
+        changing(QStringLiteral("typographie"), QStringLiteral("typographie appliquer")),
         changing(QStringLiteral("uniformiser"), QStringLiteral("uniformiser Arial 14")),
         {QStringLiteral("annuler"), {Edit, Swap, TakeBack, Save}, {}, NextSave},
         {QStringLiteral("rétablir"),
@@ -97,7 +98,7 @@ QList<std::pair<QString, QByteArray>> preparedFiles()
 {
     const QString old = QStringLiteral("out/");
     return {{QStringLiteral("t.rtf"), "{\\rtf1\\ansi Allez au 7 ou au 3.}"},
-            {QStringLiteral("u.rtf"), "{\\rtf1\\ansi Allez \\b au\\b0  2.\\par Fin.}"},
+            {QStringLiteral("u.rtf"), "{\\rtf1\\ansi Allez \\b au\\b0  2.\\par Fin !}"},
             {old + QStringLiteral("o.htm"), "avant"},
             {old + QStringLiteral("x-0003.htm"), "avant"},
             {old + QStringLiteral("o.rtf"), "avant"},

@@ -241,6 +241,25 @@ melanger 4 9
                  QStringLiteral("court\t1\tLe paragraphe a moins de cinq mots.\n"));
     }
 
+    void typographyIsCountedAndDone()
+    {
+        TestAdventure adventure;
+        const QString path = adventure.file(
+            QStringLiteral("a.usm"),
+            AdventureBuilder({QStringLiteral("0: Oui !"), QStringLiteral("2: Oui ! Va  au  12..."),
+                              QStringLiteral("3: Va au 2.")})
+                .bytes());
+        const auto tool = [&](const QByteArray &commands) {
+            return run(adventure, {}, "ouvrir '" + path.toUtf8() + "'\n" + commands + '\n').output;
+        };
+        QCOMPARE(tool("typographie 0 insecables renvois"), "insecables\t2\nrenvois\t1\n");
+        QCOMPARE(QString::fromUtf8(tool("typographie appliquer fines insecables espaces\n"
+                                        "texte-brut 2\ntypographie espaces\nannuler\n"
+                                        "texte-brut 2\ntypographie zut")),
+                 QStringLiteral("insecables\t1\nespaces\t1\nOui\u202f! Va au  12...\r\nespaces\t0\n"
+                                "Oui ! Va  au  12...\r\n"));
+    }
+
     void theBookIsCountedAndRead()
     {
         TestAdventure adventure;

@@ -27,9 +27,10 @@ TypographyCommands::TypographyCommands(Variables &variables, AdventureView &view
 {
 }
 
-TypographyRules TypographyCommands::rules(bool narrow) const
+TypographyRules TypographyCommands::rules(bool narrow,
+                                          std::function<bool(const QString &)> isWord) const
 {
-    return {m_variables.TargetPhrase, narrow, {}};
+    return {m_variables.TargetPhrase, narrow, std::move(isWord)};
 }
 
 TypographyLook TypographyCommands::look(int n, const TypographyRules &rules, QList<int> &unreadable,

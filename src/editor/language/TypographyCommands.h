@@ -30,8 +30,8 @@ public:
 
     TypographyCommands(Variables &variables, AdventureView &view, WorkReport &report);
 
-    // The rules for the open adventure.
-    TypographyRules rules(bool narrow) const;
+    // The rules for the open adventure. isWord: see TypographyRules.
+    TypographyRules rules(bool narrow, std::function<bool(const QString &)> isWord) const;
 
     // Looks at paragraph n; nothing when it has no text. One that cannot be read has no mends, and
     // its number is noted.
