@@ -33,6 +33,8 @@ QByteArray html(CommandServices &script, const QStringList &arguments)
 
 QByteArray pages(CommandServices &script, const QStringList &arguments)
 {
+    if (arguments.at(2).isEmpty())
+        throw UsageError(Commands::tr("dossier attendu"));
     const HtmlCodes codes{code(script, WorkingFiles::Document::PageHeader), QString(),
                           code(script, WorkingFiles::Document::Footer)};
     exportToManyFiles(script.exports, exportRequest(arguments), codes,

@@ -135,8 +135,10 @@ private Q_SLOTS:
                                  width);
             int run = 0;
             for (int i = 0; i < lines.lineCount(); ++i) {
+                const QString text = lines.text(i);
+                QVERIFY2(text.endsWith(QChar::SoftHyphen) || text.endsWith(u' '), qPrintable(text));
                 runs.insert(run);
-                run = lines.endsInHyphen(i) ? run + 1 : 0;
+                run = text.endsWith(QChar::SoftHyphen) ? run + 1 : 0;
             }
         }
         QCOMPARE(runs, (QSet<int>{0, 1, 2, 3}));

@@ -488,6 +488,8 @@ uniformiser - 1639
             {QStringLiteral("ouvrir @"), QStringLiteral("html 1 9 /nowhere/a.htm")}, 1, QString());
         row("no file", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 ''")}, 1,
             QStringLiteral("Le nom du fichier est vide."));
+        row("no folder", {QStringLiteral("ouvrir @"), QStringLiteral("pages 1 9 ''")}, 2,
+            QStringLiteral("dossier attendu"));
         row("word of a book", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e titel=")},
             2, QStringLiteral("titre=..., auteur=... ou date=... attendu : titel="));
         row("date", {QStringLiteral("ouvrir @"), QStringLiteral("epub 1 9 @.e date=hier")}, 2,

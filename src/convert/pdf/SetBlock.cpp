@@ -30,21 +30,28 @@ bool hasBlank(QStringView text)
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
 }
 
+// By a hyphen of the dictionary or by the author's own.
 bool isParted(const QTextLine &line, const QString &text)
 {
+    constexpr QChar Hyphen(0x2010);
     const int end = line.textStart() + line.textLength();
-    return end > line.textStart() && text.at(end - 1) == QChar::SoftHyphen;
+    const QChar last = end > line.textStart() ? text.at(end - 1) : QChar(u' ');
+    return last == QChar::SoftHyphen || last == Hyphen || last == u'-';
 }
 
-// Ends the line before the word that is parted at its end. A word that is all of it stays parted.
+// Ends the line before the word that is parted at its end. A word that is all of it stays parted,
+// and what a layout counts as a column is left to it.
 void endBeforeWord(QTextLine &line, const QString &text, double width)
 {
-    int columns = line.textLength() - 1;
-    while (columns > 0 && isParted(line, text)) {
-        line.setNumColumns(columns, width);
-        columns = std::min(columns, line.textLength()) - 1;
-    }
-    if (isParted(line, text) || line.textLength() == 0)
+    int end = line.textStart() + line.textLength();
+    while (end > line.textStart() && !text.at(end - 1).isSpace())
+        --end;
+    const int length = end - line.textStart();
+    if (length > 0)
+        line.setNumColumns(length, width);
+    if (line.textLength() < length)
+        line.setNumColumns(2 * length - line.textLength(), width);
+    if (line.textLength() != length)
         line.setLineWidth(width);
 }
 
@@ -97,9 +104,10 @@ void SetBlock::setLines(const ParagraphState &format, double width)
     m_layout->endLayout();
 }
 
-bool SetBlock::endsInHyphen(int line) const
+QString SetBlock::text(int line) const
 {
-    return isParted(m_layout->lineAt(line), m_layout->text());
+    const QTextLine one = m_layout->lineAt(line);
+    return m_layout->text().mid(one.textStart(), one.textLength());
 }
 
 void SetBlock::measure(const BookBlock &block, const QList<BlockText::Size> &sizes,

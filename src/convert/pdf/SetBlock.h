@@ -26,7 +26,7 @@ public:
     int lineCount() const { return static_cast<int>(m_lines.size()); }
     double height(int line) const { return at(line).height; }
     bool isBlank() const { return m_isBlank; }
-    bool endsInHyphen(int line) const; // of a word that was parted
+    QString text(int line) const; // with a soft hyphen at the end where a word is parted
 
     // at is the upper left corner of the line, with its indent. Between the first line that is
     // drawn, or asked for links, and the last one of the block a good deal of memory is kept.
