@@ -11,9 +11,9 @@
 
 namespace
 {
-QByteArray picture(QSize size, const char *format)
+QByteArray picture(QSize size, const char *format, QImage::Format pixels = QImage::Format_RGB32)
 {
-    QImage image(size, QImage::Format_RGB32);
+    QImage image(size, pixels);
     image.fill(Qt::darkRed);
     QBuffer buffer;
     image.save(&buffer, format);
@@ -95,6 +95,12 @@ private Q_SLOTS:
                     "La langue se donne par son nom ou par un code comme fr, en ou fr-CA.", "Zut");
         });
         QCOMPARE(scene.facts().language, kept.isEmpty() ? "fr" : kept);
+    }
+
+    void theLargestCoverCanBeRead()
+    {
+        const QByteArray deep = picture({WidestCover, 3400}, "png", QImage::Format_RGBA64);
+        QCOMPARE(coverImage(deep, {50, 50}).size(), QSize(50, 34));
     }
 
     void whatIsNoCoverLeavesTheOldOne_data()

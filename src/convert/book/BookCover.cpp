@@ -10,6 +10,9 @@
 
 namespace
 {
+// In megabytes: of 16 bits to each of four colours. Qt's own limit is lower.
+constexpr int LargestDecoded = WidestCover / 1000 * WidestCover / 1000 * 8 + 1;
+
 int longerSide(QSize size)
 {
     return std::max(size.width(), size.height());
@@ -77,6 +80,7 @@ QImage coverImage(const QByteArray &bytes, QSize room)
     buffer.setData(bytes);
     QImageReader reader(&buffer, kind == CoverKind::Png ? "png" : "jpeg");
     reader.setAutoTransform(true);
+    QImageReader::setAllocationLimit(LargestDecoded);
     if (kind == CoverKind::None || longerSide(reader.size()) > WidestCover)
         return {};
     const QImage image = reader.read();
