@@ -10,6 +10,7 @@
 #include "editor/FirstWords.h"
 #include "editor/options/ZoomKeys.h"
 #include "editor/options/optionsDlog.h"
+#include "editor/language/SpellingAids.h"
 #include "editor/references/ReferenceAids.h"
 #include "platform/Failures.h"
 #include "platform/Guarded.h"
@@ -50,7 +51,7 @@ ParagraphPage::Controls pageControls(const Ui::formUsmira &ui)
 } // namespace
 
 formUsmira::formUsmira(Variables &variables, Prompts &prompts)
-    : m_variables(variables), m_prompts(prompts), m_ui(setUp(*this)),
+    : m_variables(variables), m_prompts(prompts), m_spelling(variables), m_ui(setUp(*this)),
       m_work(*m_ui->labBehind, *m_ui->barWork, *m_ui->rtfBox, *m_ui->statusBar),
       m_page(variables, prompts, pageControls(*m_ui)), m_typed(variables, *m_ui->rtfBox),
       m_status(variables, *m_ui->rtfBox, *m_ui->statusBar), m_menuStates(variables),
@@ -158,6 +159,15 @@ void formUsmira::connectReferences()
     connect(&m_page, &ParagraphPage::changed, aids, &ReferenceAids::follow);
     connect(&m_comfort, &ComfortKeeper::changed, aids,
             [this, aids] { aids->setShown(m_comfort.comfort().underlines); });
+    auto *spelling = new SpellingAids(m_variables, m_prompts, m_spelling, *m_ui->rtfBox,
+                                      aids->underlines());
+    connect(&m_comfort, &ComfortKeeper::changed, spelling, [this, spelling] {
+        const EditorComfort &comfort = m_comfort.comfort();
+        m_spelling.choose({comfort.dictionary, {comfort.skipsCapitals, comfort.skipsDigits}});
+        spelling->setShown(comfort.spelling);
+    });
+    connect(&m_spelling, &Spelling::troubled, this,
+            [this](const QString &trouble) { m_work.announce(trouble); });
     // The list comes when the author is back in the text.
     const auto openList = [this, aids] {
         if (!aids->openList())

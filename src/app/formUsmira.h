@@ -16,6 +16,7 @@
 #include "editor/StatusLine.h"
 #include "editor/options/EditorComfort.h"
 #include "editor/search/searchReplace.h"
+#include "language/spelling/Spelling.h"
 #include "store/AdventureCommands.h"
 #include "store/TypedSnapshot.h"
 
@@ -94,6 +95,7 @@ private:
     Variables &m_variables;
     Prompts &m_prompts;
     ComfortKeeper m_comfort;
+    Spelling m_spelling;
     std::unique_ptr<Ui::formUsmira> m_ui;
     WorkDisplay m_work;
     ParagraphPage m_page;

@@ -65,6 +65,7 @@ std::vector<CommandEntry> renumberEntries();
 std::vector<CommandEntry> historyEntries();
 std::vector<CommandEntry> textEntries();
 std::vector<CommandEntry> checkEntries();
+std::vector<CommandEntry> spellingEntries();
 std::vector<CommandEntry> statisticsEntries();
 std::vector<CommandEntry> typographyEntries();
 std::vector<CommandEntry> viewsEntries();

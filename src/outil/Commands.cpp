@@ -18,8 +18,8 @@ const std::vector<CommandEntry> &entries()
         std::vector<CommandEntry> all;
         for (const auto &group :
              {adventureEntries(), paragraphEntries(), renumberEntries(), historyEntries(),
-              textEntries(), checkEntries(), typographyEntries(), statisticsEntries(),
-              viewsEntries(), publishEntries(), bookEntries()})
+              textEntries(), checkEntries(), spellingEntries(), typographyEntries(),
+              statisticsEntries(), viewsEntries(), publishEntries(), bookEntries()})
             all.insert(all.end(), group.begin(), group.end());
         return all;
     }();

@@ -60,7 +60,7 @@ constexpr auto Right =
     "mer\u00ADveil\u00ADle|e\u0301pe\u0301e|L'e\u0301cole|🐉 dragon 🐉|feu🔥feu|…puis|--|—|"
     "https://exemple.org/zzqx|www.zzqx.org|moi@zzqx.org|<b>gras</b>|<img src=\"zzqx.png\">|"
     "<zzqx attr='yyy'>mot</zzqx>|5 < 6 et 7 > 3|elle (aussi)|[le gardien]|un/une|"
-    "'guillemets simples'|‘ici’|fini…|mot;mot,mot|J'suis là|t'as vu|p'tit|"
+    "'guillemets simples'|É. Z.|‘ici’|fini…|mot;mot,mot|J'suis là|t'as vu|p'tit|"
     "gobelins|gobeline|parchemin|grimoire|hallebarde|nécromancien|arbalète|donjon|ogresse";
 
 // And what he marks, with the words that he would underline.

@@ -21,6 +21,7 @@ public:
 
     // Underlines, tips, hand and menu; on at first.
     void setShown(bool shown);
+    const ReferenceUnderlines &underlines() const { return *m_underlines; }
 
     // To be called when the text or the target phrase may be another one.
     void follow();

@@ -1,13 +1,13 @@
 #include "editor/references/ReferenceUnderlines.h"
 
 #include "editor/RtfBox.h"
+#include "editor/Waves.h"
 #include "store/AdventureEvents.h"
 #include "store/Variables.h"
 #include "widgets/Shade.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -31,27 +31,6 @@ QColor doubtColour(const QPalette &palette)
 {
     const bool dark = palette.color(QPalette::Base).lightness() < 128;
     return dark ? QColor(0xff, 0xa8, 0x40) : QColor(0xc2, 0x5a, 0x00);
-}
-
-constexpr QSizeF WaveSize(6, 4); // one wave and the room that it takes
-
-// One wave to be laid side by side, for drawing each would take long on a page full of them.
-QPixmap wave(const QColor &colour, double pixelRatio)
-{
-    QPixmap pixmap((WaveSize * pixelRatio).toSize());
-    pixmap.setDevicePixelRatio(pixelRatio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour, 1.1));
-    const double middle = WaveSize.height() / 2;
-    const double quarter = WaveSize.width() / 4;
-    QPainterPath path(QPointF(-quarter, middle - 1));
-    for (double x = quarter, side = 1; x <= WaveSize.width() + quarter;
-         x += 2 * quarter, side = -side)
-        path.lineTo(x, middle + side);
-    painter.drawPath(path);
-    return pixmap;
 }
 } // namespace
 
@@ -154,17 +133,14 @@ void ReferenceUnderlines::paint(QPainter &painter, const QRect &area) const
 {
     if (!m_shown || !m_variables.AdventureOpen)
         return;
-    const QPixmap waves = wave(doubtColour(m_box.palette()), m_box.devicePixelRatioF());
+    const Waves waves(doubtColour(m_box.palette()), m_box.devicePixelRatioF());
     QTextBlock block = m_box.cursorForPosition({0, area.top()}).block();
     for (; block.isValid() && rectOf(block).top() <= area.bottom(); block = block.next())
         forEachPiece(block, area, [&](const ReferenceMark &mark, const QRectF &line) {
             if (mark.doubt == Doubt::None)
                 paintLine(painter, mark.read, line);
             else
-                painter.drawTiledPixmap(
-                    QRectF(line.left(), std::floor(line.bottom()) - WaveSize.height() / 2 - 1,
-                           line.width(), WaveSize.height()),
-                    waves);
+                waves.paintUnder(painter, line);
         });
 }
 
@@ -201,6 +177,18 @@ std::optional<ReferenceUnderlines::Place> ReferenceUnderlines::at(int position) 
         if (mark.position <= inLine && inLine <= mark.position + mark.length)
             return Place{block, mark};
     return std::nullopt;
+}
+
+bool ReferenceUnderlines::isDoubtful(int begin, int end) const
+{
+    const QTextBlock block = m_box.document()->findBlock(begin);
+    if (!m_shown || !m_variables.AdventureOpen || !block.isValid())
+        return false;
+    const QList<ReferenceMark> &marks = marksOf(block);
+    return std::any_of(marks.begin(), marks.end(), [&](const ReferenceMark &mark) {
+        const auto position = block.position() + mark.position;
+        return mark.doubt != Doubt::None && position < end && position + mark.length > begin;
+    });
 }
 
 QRect ReferenceUnderlines::rectOf(const Place &place) const

@@ -208,7 +208,9 @@ bool Speller::isSkipped(const QString &word) const
     if (m_options.skipsDigits &&
         std::any_of(word.begin(), word.end(), [](QChar c) { return c.isNumber(); }))
         return true;
-    return m_options.skipsCapitals && word.size() > 1 && word == word.toUpper();
+    // A letter by itself is an initial.
+    const bool capitals = word.front().isUpper() && word == word.toUpper();
+    return capitals && (m_options.skipsCapitals || word.size() == 1);
 }
 
 bool Speller::hasLiterally(const QString &word) const

@@ -151,13 +151,19 @@ WordsAndCode spellingWords(QStringView text)
     return found;
 }
 
-TextRange wordsAround(QStringView text, TextRange changed)
+TextRange wordsAround(QStringView line, TextRange changed)
 {
-    qsizetype begin = std::clamp<qsizetype>(changed.begin, 0, text.size());
-    qsizetype end = std::clamp<qsizetype>(changed.end, begin, text.size());
-    while (begin > 0 && !endsRange(text.at(begin - 1), changed.begin - begin))
+    qsizetype begin = std::clamp<qsizetype>(changed.begin, 0, line.size());
+    qsizetype end = std::clamp<qsizetype>(changed.end, begin, line.size());
+    while (begin > 0 && !endsRange(line.at(begin - 1), changed.begin - begin))
         --begin;
-    while (end < text.size() && !endsRange(text.at(end), end - changed.end))
+    while (end < line.size() && !endsRange(line.at(end), end - changed.end))
         ++end;
+    for (qsizetype *edge : {&begin, &end}) {
+        const qsizetype code = *edge == 0 ? -1 : line.lastIndexOf(u'<', *edge - 1);
+        const qsizetype length = code < 0 ? 0 : codeLength(line, code);
+        if (code + length > *edge && length > 0)
+            *edge = edge == &begin ? code : code + length;
+    }
     return {begin, end};
 }

@@ -35,10 +35,11 @@ WordsAndCode spellingWords(QStringView text);
 // A word as it is looked up, from one that was typed or read; not shortened.
 QString spellingForm(QStringView word);
 
-// Where the part of a text begins and ends that must be read again around a change in it: nothing
-// outside is part of a word or an address that reaches into it. Code is passed over.
+// The part of a line that must be read again for a change in it to be seen, with the words, addresses
+// and code that reach into it whole: nothing of the line outside is read otherwise. Where a line has
+// no blanks for long, it ends between two words.
 struct TextRange {
     qsizetype begin;
     qsizetype end;
 };
-TextRange wordsAround(QStringView text, TextRange changed);
+TextRange wordsAround(QStringView line, TextRange changed);
