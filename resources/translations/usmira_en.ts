@@ -2429,6 +2429,78 @@ A workshop for writing gamebooks.</translation>
     </message>
 </context>
 <context>
+    <name>Spelling</name>
+    <message>
+        <source>Cet Usmira est fait sans vérification de l&apos;orthographe.</source>
+        <translation>This Usmira was made without spelling.</translation>
+    </message>
+    <message>
+        <source>Le dictionnaire « %1 » n&apos;est pas installé : l&apos;orthographe n&apos;est pas vérifiée.</source>
+        <translation>The dictionary “%1” is not installed: spelling is not checked.</translation>
+    </message>
+    <message>
+        <source>Ce dictionnaire ne peut pas servir : l&apos;orthographe n&apos;est pas vérifiée.</source>
+        <translation>This dictionary cannot be used: spelling is not checked.</translation>
+    </message>
+    <message>
+        <source>Il n&apos;y a pas assez de mémoire pour le dictionnaire.</source>
+        <translation>There is not enough memory for the dictionary.</translation>
+    </message>
+    <message>
+        <source>Ce mot n&apos;est pas ajouté : il est trop long, ou il y en a déjà %1.</source>
+        <translation>This word is not added: it is too long, or there are %1 already.</translation>
+    </message>
+    <message>
+        <source>Zut</source>
+        <translation>Oh dear</translation>
+    </message>
+</context>
+<context>
+    <name>SpellingMenu</name>
+    <message>
+        <source>Orthographe</source>
+        <translation>Spelling</translation>
+    </message>
+    <message>
+        <source>Orthographe...</source>
+        <translation>Spelling...</translation>
+    </message>
+    <message>
+        <source>Orthographe arrêtée.</source>
+        <translation>Spelling stopped.</translation>
+    </message>
+    <message>
+        <source>Correction...</source>
+        <translation>Correcting...</translation>
+    </message>
+    <message>
+        <source>Orthographe : « %1 » par « %2 »</source>
+        <translation>Spelling: “%1” by “%2”</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n mot(s) remplacé(s).</source>
+        <translation>
+            <numerusform>%n word replaced.</numerusform>
+            <numerusform>%n words replaced.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SpellingModel</name>
+    <message>
+        <source>Mot</source>
+        <translation>Word</translation>
+    </message>
+    <message>
+        <source>Nombre</source>
+        <translation>Count</translation>
+    </message>
+    <message>
+        <source>Paragraphes</source>
+        <translation>Paragraphs</translation>
+    </message>
+</context>
+<context>
     <name>StartNumbers</name>
     <message>
         <source>Sans texte : %1.</source>
@@ -2912,6 +2984,33 @@ A workshop for writing gamebooks.</translation>
     </message>
 </context>
 <context>
+    <name>WordMenu</name>
+    <message>
+        <source>Recherche de suggestions...</source>
+        <translation>Looking for suggestions...</translation>
+    </message>
+    <message>
+        <source>Aucune suggestion</source>
+        <translation>No suggestion</translation>
+    </message>
+    <message>
+        <source>Ajouter à l&apos;aventure</source>
+        <translation>Add to the adventure</translation>
+    </message>
+    <message>
+        <source>Ajouter à mon dictionnaire</source>
+        <translation>Add to my dictionary</translation>
+    </message>
+    <message>
+        <source>Ignorer ici</source>
+        <translation>Ignore here</translation>
+    </message>
+    <message>
+        <source>Synonymes</source>
+        <translation>Synonyms</translation>
+    </message>
+</context>
+<context>
     <name>WorkBar</name>
     <message>
         <source>%p % (Échap pour arrêter)</source>
@@ -3299,6 +3398,119 @@ A workshop for writing gamebooks.</translation>
     <message>
         <source>Zut</source>
         <translation>Oops</translation>
+    </message>
+</context>
+<context>
+    <name>bookSpelling</name>
+    <message>
+        <source>Orthographe du Livre</source>
+        <translation>Book Spelling</translation>
+    </message>
+    <message>
+        <source>Mots douteux</source>
+        <translation>Doubtful words</translation>
+    </message>
+    <message>
+        <source>Entrée montre le premier endroit dans le texte</source>
+        <translation>Enter shows the first place in the text</translation>
+    </message>
+    <message>
+        <source>Endroits du mot choisi</source>
+        <translation>Places of the chosen word</translation>
+    </message>
+    <message>
+        <source>Entrée montre l&apos;endroit dans le texte</source>
+        <translation>Enter shows the place in the text</translation>
+    </message>
+    <message>
+        <source>&amp;Remplacer par :</source>
+        <translation>&amp;Replace by:</translation>
+    </message>
+    <message>
+        <source>Une suggestion, ou ce que vous tapez</source>
+        <translation>A suggestion, or what you type</translation>
+    </message>
+    <message>
+        <source>Là où c&apos;est &amp;choisi</source>
+        <translation>Where &amp;chosen</translation>
+    </message>
+    <message>
+        <source>Remplacer aux endroits choisis dans la liste, tous ou aucun</source>
+        <translation>Replace at the places chosen in the list, all or none</translation>
+    </message>
+    <message>
+        <source>Par&amp;tout</source>
+        <translation>&amp;Everywhere</translation>
+    </message>
+    <message>
+        <source>Remplacer ce mot dans toute l&apos;aventure</source>
+        <translation>Replace this word in the whole adventure</translation>
+    </message>
+    <message>
+        <source>Ajouter à l&apos;&amp;aventure</source>
+        <translation>Add to the &amp;adventure</translation>
+    </message>
+    <message>
+        <source>Ce mot est juste dans toute cette aventure, en capitales aussi</source>
+        <translation>This word is right in all of this adventure, in capitals too</translation>
+    </message>
+    <message>
+        <source>Ajouter à mon &amp;dictionnaire</source>
+        <translation>Add to my &amp;dictionary</translation>
+    </message>
+    <message>
+        <source>Ce mot est juste dans toutes vos aventures</source>
+        <translation>This word is right in all your adventures</translation>
+    </message>
+    <message>
+        <source>&amp;Ignorer là</source>
+        <translation>&amp;Ignore there</translation>
+    </message>
+    <message>
+        <source>Ce mot est juste dans les paragraphes choisis dans la liste</source>
+        <translation>This word is right in the paragraphs chosen in the list</translation>
+    </message>
+    <message>
+        <source>&amp;Fermer</source>
+        <translation>C&amp;lose</translation>
+    </message>
+    <message>
+        <source>Fermer cette fenêtre (Échap)</source>
+        <translation>Close this window (Esc)</translation>
+    </message>
+    <message>
+        <source>Recherche de suggestions...</source>
+        <translation>Looking for suggestions...</translation>
+    </message>
+    <message>
+        <source>Aucune suggestion</source>
+        <translation>No suggestion</translation>
+    </message>
+    <message>
+        <source>Aucun mot douteux.</source>
+        <translation>No doubtful word.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n mot(s) douteux</source>
+        <translation>
+            <numerusform>%n doubtful word</numerusform>
+            <numerusform>%n doubtful words</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>en %n endroit(s).</source>
+        <translation>
+            <numerusform>at %n place.</numerusform>
+            <numerusform>at %n places.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Les %1 premiers endroits du mot choisi.</source>
+        <translation>The first %1 places of the chosen word.</translation>
+    </message>
+    <message>
+        <source>Paragraphes illisibles : %1</source>
+        <translation>Unreadable paragraphs: %1</translation>
     </message>
 </context>
 <context>
@@ -3963,6 +4175,18 @@ Usmira keeps one before the first save that follows each opening.</translation>
         <source>Livre &amp;Imprimable (PDF)...</source>
         <translation>Pr&amp;inted Book (PDF)...</translation>
     </message>
+    <message>
+        <source>Orthographe en Écri&amp;vant</source>
+        <translation>Spelling &amp;While Typing</translation>
+    </message>
+    <message>
+        <source>Souligner les mots douteux</source>
+        <translation>Underline doubtful words</translation>
+    </message>
+    <message>
+        <source>Ort&amp;hographe du Livre...</source>
+        <translation>Boo&amp;k Spelling...</translation>
+    </message>
 </context>
 <context>
     <name>helpWindow</name>
@@ -4349,6 +4573,38 @@ Create it?</translation>
     <message>
         <source>au prochain démarrage</source>
         <translation>at the next start</translation>
+    </message>
+    <message>
+        <source>&amp;Dictionnaire :</source>
+        <translation>&amp;Dictionary:</translation>
+    </message>
+    <message>
+        <source>Celui de l&apos;orthographe, parmi ceux qui sont installés</source>
+        <translation>That of spelling, among those that are installed</translation>
+    </message>
+    <message>
+        <source>Souligner les mots dou&amp;teux</source>
+        <translation>Underline doub&amp;tful words</translation>
+    </message>
+    <message>
+        <source>Ceux que ni le dictionnaire ni vous ne connaissez ; aussi Maj+F7</source>
+        <translation>Those that neither the dictionary nor you know; also Shift+F7</translation>
+    </message>
+    <message>
+        <source>Laisser tels quels :</source>
+        <translation>Leave as they are:</translation>
+    </message>
+    <message>
+        <source>les mots en ca&amp;pitales</source>
+        <translation>words in ca&amp;pitals</translation>
+    </message>
+    <message>
+        <source>les mots avec des c&amp;hiffres</source>
+        <translation>words wit&amp;h digits</translation>
+    </message>
+    <message>
+        <source>%1, pas installé</source>
+        <translation>%1, not installed</translation>
     </message>
 </context>
 <context>

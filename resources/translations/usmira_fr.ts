@@ -80,6 +80,16 @@
     </message>
 </context>
 <context>
+    <name>Commands</name>
+    <message numerus="yes">
+        <source>%n mot(s) douteux.</source>
+        <translation>
+            <numerusform>%n mot douteux.</numerusform>
+            <numerusform>%n mots douteux.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ExportCommand</name>
     <message numerus="yes">
         <source>%n paragraphe(s) écrit(s) : %1</source>
@@ -289,6 +299,16 @@
     </message>
 </context>
 <context>
+    <name>SpellingMenu</name>
+    <message numerus="yes">
+        <source>%n mot(s) remplacé(s).</source>
+        <translation>
+            <numerusform>%n mot remplacé.</numerusform>
+            <numerusform>%n mots remplacés.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>StatisticsText</name>
     <message numerus="yes">
         <source>%n mot(s)</source>
@@ -363,6 +383,23 @@
         <translation>
             <numerusform>%n constat choisi.</numerusform>
             <numerusform>%n constats choisis.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>bookSpelling</name>
+    <message numerus="yes">
+        <source>%n mot(s) douteux</source>
+        <translation>
+            <numerusform>%n mot douteux</numerusform>
+            <numerusform>%n mots douteux</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>en %n endroit(s).</source>
+        <translation>
+            <numerusform>en %n endroit.</numerusform>
+            <numerusform>en %n endroits.</numerusform>
         </translation>
     </message>
 </context>

@@ -10,7 +10,6 @@
 #include "editor/FirstWords.h"
 #include "editor/options/ZoomKeys.h"
 #include "editor/options/optionsDlog.h"
-#include "editor/language/SpellingAids.h"
 #include "editor/references/ReferenceAids.h"
 #include "platform/Failures.h"
 #include "platform/Guarded.h"
@@ -51,7 +50,7 @@ ParagraphPage::Controls pageControls(const Ui::formUsmira &ui)
 } // namespace
 
 formUsmira::formUsmira(Variables &variables, Prompts &prompts)
-    : m_variables(variables), m_prompts(prompts), m_spelling(variables), m_ui(setUp(*this)),
+    : m_variables(variables), m_prompts(prompts), m_ui(setUp(*this)),
       m_work(*m_ui->labBehind, *m_ui->barWork, *m_ui->rtfBox, *m_ui->statusBar),
       m_page(variables, prompts, pageControls(*m_ui)), m_typed(variables, *m_ui->rtfBox),
       m_status(variables, *m_ui->rtfBox, *m_ui->statusBar), m_menuStates(variables),
@@ -64,6 +63,7 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_reading(variables, prompts, m_comfort, {m_page, m_navigation, m_runner}, *this),
       m_views(variables, prompts, {m_navigation, m_runner, m_reading}, *this),
       m_checkMenu(variables, prompts, m_work, {m_page, m_navigation, m_runner}, *this),
+      m_spelling(variables, prompts, m_work, m_comfort, {m_page, m_navigation, m_runner}, *this),
       m_conversions(variables, prompts, m_page, m_work, *this), m_info(variables, prompts, m_page)
 {
     resize(DesignSize);
@@ -159,15 +159,7 @@ void formUsmira::connectReferences()
     connect(&m_page, &ParagraphPage::changed, aids, &ReferenceAids::follow);
     connect(&m_comfort, &ComfortKeeper::changed, aids,
             [this, aids] { aids->setShown(m_comfort.comfort().underlines); });
-    auto *spelling = new SpellingAids(m_variables, m_prompts, m_spelling, *m_ui->rtfBox,
-                                      aids->underlines());
-    connect(&m_comfort, &ComfortKeeper::changed, spelling, [this, spelling] {
-        const EditorComfort &comfort = m_comfort.comfort();
-        m_spelling.choose({comfort.dictionary, {comfort.skipsCapitals, comfort.skipsDigits}});
-        spelling->setShown(comfort.spelling);
-    });
-    connect(&m_spelling, &Spelling::troubled, this,
-            [this](const QString &trouble) { m_work.announce(trouble); });
+    m_spelling.connectBox(*m_ui->rtfBox, aids->underlines());
     // The list comes when the author is back in the text.
     const auto openList = [this, aids] {
         if (!aids->openList())
@@ -207,6 +199,7 @@ void formUsmira::connectMenus()
                           *m_ui->menuEditNumbers, *m_ui->menuComStatistics});
     m_checkMenu.connectItems({*m_ui->menuComCheck, *m_ui->menuComNextFinding,
                               *m_ui->menuComPrevFinding, *m_ui->statusBar});
+    m_spelling.connectItems({*m_ui->menuComSpelling, *m_ui->menuEditSpelling});
     connect(&m_page, &ParagraphPage::changed, this, [this] { m_views.followEditor(); });
     m_reading.connectItems({*m_ui->menuComReading, *m_ui->menuComReadingStart});
     m_menuStates.watch(*m_ui->menuCommands);

@@ -7,6 +7,7 @@
 #include "app/HistoryMenu.h"
 #include "app/InfoMenu.h"
 #include "app/ReadingMenu.h"
+#include "app/SpellingMenu.h"
 #include "app/ViewsMenu.h"
 #include "app/WorkDisplay.h"
 #include "editor/CommandRunner.h"
@@ -16,7 +17,6 @@
 #include "editor/StatusLine.h"
 #include "editor/options/EditorComfort.h"
 #include "editor/search/searchReplace.h"
-#include "language/spelling/Spelling.h"
 #include "store/AdventureCommands.h"
 #include "store/TypedSnapshot.h"
 
@@ -95,7 +95,6 @@ private:
     Variables &m_variables;
     Prompts &m_prompts;
     ComfortKeeper m_comfort;
-    Spelling m_spelling;
     std::unique_ptr<Ui::formUsmira> m_ui;
     WorkDisplay m_work;
     ParagraphPage m_page;
@@ -112,6 +111,7 @@ private:
     ReadingMenu m_reading;
     ViewsMenu m_views;
     CheckMenu m_checkMenu;
+    SpellingMenu m_spelling;
     ConversionsMenu m_conversions;
     InfoMenu m_info;
     bool m_closed = false; // the window is going, and saves nothing any more

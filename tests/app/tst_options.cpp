@@ -147,7 +147,8 @@ private Q_SLOTS:
             child<QComboBox>(dialog, "comboColours").setCurrentIndex(2);
             child<QComboBox>(dialog, "comboLanguage").setCurrentIndex(1);
             child<QCheckBox>(dialog, "chkReopen").setChecked(true);
-            child<QCheckBox>(dialog, "chkUnderlines").setChecked(false);
+            for (const char *name : {"chkUnderlines", "chkSpelling", "chkCapitals", "chkDigits"})
+                child<QCheckBox>(dialog, name).setChecked(false);
             click(dialog, "OKButton");
         });
         QVERIFY(qAbs(drawnWidth(box) - 2 * width) < 5);

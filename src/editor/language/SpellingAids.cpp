@@ -10,11 +10,10 @@
 
 SpellingAids::SpellingAids(const Variables &variables, Prompts &prompts, Spelling &spelling,
                            RtfBox &box, const ReferenceUnderlines &references)
-    : QObject(&box),
-      m_underlines(new SpellingUnderlines(
-          variables, spelling, box, [&references](SpellingUnderlines::Range word) {
-              return references.isDoubtful(word.begin, word.end);
-          }))
+    : QObject(&box), m_underlines(new SpellingUnderlines(
+                         variables, spelling, box, [&references](SpellingUnderlines::Range word) {
+                             return references.isDoubtful(word.begin, word.end);
+                         }))
 {
     new WordMenu(variables, prompts, spelling, box, *m_underlines);
     // The author may come from an editor in which he has changed his own words.

@@ -28,12 +28,11 @@ void SpellingMarks::reset(int length)
 bool SpellingMarks::change(int position, int removed, int added)
 {
     Range touched{position, position + removed};
-    const auto first =
-        std::partition_point(m_marks.begin(), m_marks.end(),
-                             [&](const Mark &mark) { return mark.range.end < touched.begin; });
-    const auto last = std::partition_point(first, m_marks.end(), [&](const Mark &mark) {
-        return mark.range.begin <= touched.end;
+    const auto first = std::partition_point(m_marks.begin(), m_marks.end(), [&](const Mark &mark) {
+        return mark.range.end < touched.begin;
     });
+    const auto last = std::partition_point(
+        first, m_marks.end(), [&](const Mark &mark) { return mark.range.begin <= touched.end; });
     const bool code = std::any_of(first, last, [](const Mark &mark) { return mark.isCode; });
     if (first != last)
         touched = {std::min(touched.begin, first->range.begin),
@@ -50,9 +49,8 @@ bool SpellingMarks::change(int position, int removed, int added)
 
 void SpellingMarks::forget(Range range)
 {
-    const auto first =
-        std::partition_point(m_unread.begin(), m_unread.end(),
-                             [&](const Range &one) { return one.end < range.begin; });
+    const auto first = std::partition_point(
+        m_unread.begin(), m_unread.end(), [&](const Range &one) { return one.end < range.begin; });
     auto last = first;
     for (; last != m_unread.end() && last->begin <= range.end; ++last)
         range = {std::min(range.begin, last->begin), std::max(range.end, last->end)};
@@ -74,9 +72,9 @@ void SpellingMarks::read(Range range)
 bool SpellingMarks::put(Range range, const std::vector<Mark> &marks)
 {
     read(range);
-    const auto first =
-        std::partition_point(m_marks.begin(), m_marks.end(),
-                             [&](const Mark &mark) { return mark.range.end <= range.begin; });
+    const auto first = std::partition_point(m_marks.begin(), m_marks.end(), [&](const Mark &mark) {
+        return mark.range.end <= range.begin;
+    });
     const auto last = std::partition_point(
         first, m_marks.end(), [&](const Mark &mark) { return mark.range.begin < range.end; });
     if (std::equal(first, last, marks.begin(), marks.end()))
@@ -101,9 +99,9 @@ std::optional<Range> SpellingMarks::firstUnread() const
 std::pair<SpellingMarks::Marks::const_iterator, SpellingMarks::Marks::const_iterator>
 SpellingMarks::in(Range range) const
 {
-    const auto first =
-        std::partition_point(m_marks.begin(), m_marks.end(),
-                             [&](const Mark &mark) { return mark.range.end < range.begin; });
+    const auto first = std::partition_point(m_marks.begin(), m_marks.end(), [&](const Mark &mark) {
+        return mark.range.end < range.begin;
+    });
     const auto last = std::partition_point(
         first, m_marks.end(), [&](const Mark &mark) { return mark.range.begin <= range.end; });
     return {first, last};

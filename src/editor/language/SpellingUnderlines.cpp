@@ -16,10 +16,10 @@
 
 namespace
 {
-constexpr qint64 AtATime = 4;      // milliseconds of reading between two looks at the keyboard
-constexpr int Chunk = 1000;        // characters read at once
+constexpr qint64 AtATime = 4;       // milliseconds of reading between two looks at the keyboard
+constexpr int Chunk = 1000;         // characters read at once
 constexpr int SoonRead = 2 * Chunk; // what a key leaves to be read before it is painted
-constexpr int LongestTyped = 100;  // characters in which the caret may still be in the same word
+constexpr int LongestTyped = 100;   // characters in which the caret may still be in the same word
 
 QColor wrongColour(const QPalette &palette)
 {
@@ -132,8 +132,7 @@ void SpellingUnderlines::forgetLineOfCode(int position, int end)
         const QString text = line.text();
         const TextRange around =
             wordsAround(text, {position - line.position(), end - line.position()});
-        const QStringView changed =
-            QStringView(text).mid(around.begin, around.end - around.begin);
+        const QStringView changed = QStringView(text).mid(around.begin, around.end - around.begin);
         if (changed.contains(u'<') || changed.contains(u'>'))
             m_marks.forget({line.position(), line.position() + line.length()});
     }

@@ -15,9 +15,9 @@
 
 namespace
 {
-constexpr int Patience = 150;     // milliseconds that a menu waits for suggestions
-constexpr int MostMeanings = 8;   // of a menu
-constexpr int MostSynonyms = 12;  // of a meaning
+constexpr int Patience = 150;    // milliseconds that a menu waits for suggestions
+constexpr int MostMeanings = 8;  // of a menu
+constexpr int MostSynonyms = 12; // of a meaning
 
 QAction *inserted(QMenu &menu, QAction *before, const QString &caption)
 {
@@ -46,8 +46,7 @@ std::optional<SpellingMarks::Range> wordAt(const QTextBlock &block, int position
 // "l'épée" is looked up as "épée".
 SpellingMarks::Range withoutElision(SpellingMarks::Range word, const QString &text)
 {
-    const qsizetype apostrophe =
-        std::max(text.lastIndexOf(u'\''), text.lastIndexOf(u'\u2019'));
+    const qsizetype apostrophe = std::max(text.lastIndexOf(u'\''), text.lastIndexOf(u'\u2019'));
     return {word.begin + static_cast<int>(apostrophe + 1), word.end};
 }
 
@@ -123,14 +122,14 @@ void WordMenu::addSuggestions(QMenu &menu, QAction *before, Range word)
     }
     QAction *waiting = inserted(menu, end, tr("Recherche de suggestions..."));
     waiting->setEnabled(false);
-    connect(&m_spelling.suggestions(), &Suggestions::found, &menu,
-            [this, &menu, waiting, asked, word](const QString &found,
-                                                const QStringList &suggestions) {
-                if (found != asked || !menu.actions().contains(waiting))
-                    return;
-                fillSuggestions(menu, waiting, suggestions, word);
-                menu.removeAction(waiting);
-            });
+    connect(
+        &m_spelling.suggestions(), &Suggestions::found, &menu,
+        [this, &menu, waiting, asked, word](const QString &found, const QStringList &suggestions) {
+            if (found != asked || !menu.actions().contains(waiting))
+                return;
+            fillSuggestions(menu, waiting, suggestions, word);
+            menu.removeAction(waiting);
+        });
 }
 
 void WordMenu::fillSuggestions(QMenu &menu, QAction *before, const QStringList &suggestions,
@@ -145,10 +144,7 @@ void WordMenu::fillSuggestions(QMenu &menu, QAction *before, const QStringList &
         bold.setBold(true);
         action->setFont(bold);
         connectGuarded(action, &QAction::triggered, this, m_prompts, [this, word, was, suggestion] {
-            QString by = suggestion;
-            if (was.contains(u'\u2019'))
-                by.replace(u'\'', u'\u2019');
-            replace(word, was, by);
+            replace(word, was, withApostropheOf(was, suggestion));
         });
     }
 }
@@ -178,10 +174,9 @@ void WordMenu::addSynonyms(QMenu &menu, QAction *before, Range range)
     for (const Thesaurus::Meaning &meaning : meanings.mid(0, MostMeanings)) {
         submenu->addSection(meaning.kind);
         for (const QString &synonym : meaning.words.mid(0, MostSynonyms))
-            connectGuarded(inserted(*submenu, nullptr, synonym), &QAction::triggered, this,
-                           m_prompts, [this, word, was, synonym] {
-                               replace(word, was, inCaseOf(was, synonym));
-                           });
+            connectGuarded(
+                inserted(*submenu, nullptr, synonym), &QAction::triggered, this, m_prompts,
+                [this, word, was, synonym] { replace(word, was, inCaseOf(was, synonym)); });
     }
     menu.insertMenu(before, submenu);
     menu.insertSeparator(before);

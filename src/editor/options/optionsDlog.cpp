@@ -3,10 +3,12 @@
 #include "editor/TypingAids.h"
 #include "editor/options/DefaultFont.h"
 #include "editor/options/EditorComfort.h"
+#include "language/spelling/DictionaryFiles.h"
 #include "platform/Guarded.h"
 #include "store/Variables.h"
 #include "ui_optionsDlog.h"
 
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QLineEdit>
 
@@ -63,6 +65,28 @@ void optionsDlog::showComfort()
     m_ui->comboLanguage->setCurrentIndex(static_cast<int>(comfort.language));
     m_ui->chkReopen->setChecked(comfort.reopenLast);
     m_ui->chkUnderlines->setChecked(comfort.underlines);
+    m_ui->chkSpelling->setChecked(comfort.spelling);
+    m_ui->chkCapitals->setChecked(comfort.skipsCapitals);
+    m_ui->chkDigits->setChecked(comfort.skipsDigits);
+    showDictionaries();
+}
+
+// The one that is chosen stays in the list, also where it is not installed.
+void optionsDlog::showDictionaries()
+{
+    const QString chosen = m_keeper.comfort().dictionary;
+    const std::optional<DictionaryFiles> files = findDictionary(chosen);
+    const QList<DictionaryFiles> installed = installedDictionaries();
+    for (const DictionaryFiles &one : installed) {
+        m_ui->comboDictionary->addItem(dictionaryCaption(one.name), one.name);
+        if (files &&
+            QFileInfo(one.words).canonicalFilePath() == QFileInfo(files->words).canonicalFilePath())
+            m_ui->comboDictionary->setCurrentIndex(m_ui->comboDictionary->count() - 1);
+    }
+    if (files)
+        return;
+    m_ui->comboDictionary->addItem(tr("%1, pas installé").arg(dictionaryCaption(chosen)), chosen);
+    m_ui->comboDictionary->setCurrentIndex(m_ui->comboDictionary->count() - 1);
 }
 
 void optionsDlog::OKButton_Click()
@@ -85,6 +109,10 @@ void optionsDlog::takeComfort()
     comfort.language = static_cast<EditorComfort::Language>(m_ui->comboLanguage->currentIndex());
     comfort.reopenLast = m_ui->chkReopen->isChecked();
     comfort.underlines = m_ui->chkUnderlines->isChecked();
+    comfort.spelling = m_ui->chkSpelling->isChecked();
+    comfort.dictionary = m_ui->comboDictionary->currentData().toString();
+    comfort.skipsCapitals = m_ui->chkCapitals->isChecked();
+    comfort.skipsDigits = m_ui->chkDigits->isChecked();
     m_keeper.change(comfort);
 }
 

@@ -31,6 +31,7 @@ private:
     void OKButton_Click();
     void CancelButton_Click();
     void showComfort();
+    void showDictionaries();
     void takeComfort();
     QCheckBox &check(int option) const;
 

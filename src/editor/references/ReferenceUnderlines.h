@@ -40,8 +40,8 @@ public:
     std::optional<Place> under(const QPoint &point) const;
     std::optional<Place> at(int position) const;
 
-    // Whether a doubtful reference has some of the text between two positions of the document, which
-    // stand in one line of it.
+    // Whether a doubtful reference has some of the text between two positions of the document,
+    // which stand in one line of it.
     bool isDoubtful(int begin, int end) const;
 
     // The line that a mark stands in on the viewport.

@@ -34,8 +34,9 @@ QString wordsBefore(const QString &text, qsizetype position)
     const qsizetype blank = before.indexOf(u' ');
     return QStringLiteral("...") + (blank < before.size() - 1 ? before.mid(blank + 1) : before);
 }
+} // namespace
 
-MatchLine lineOf(int n, const QString &text, const Replacement &match)
+MatchLine matchLine(int n, const QString &text, const Replacement &match)
 {
     const QString found = text.mid(match.position, match.length);
     const QString before = wordsBefore(text, match.position);
@@ -46,7 +47,6 @@ MatchLine lineOf(int n, const QString &text, const Replacement &match)
             static_cast<int>(before.size()),
             static_cast<int>(bold.size())};
 }
-} // namespace
 
 SearchCommands::SearchCommands(Variables &variables, Prompts &prompts, AdventureView &view,
                                WorkReport &report)
@@ -207,7 +207,7 @@ QList<MatchLine> SearchCommands::lines(const MatchFinder &finder, int n,
         return lines;
     const QList<Replacement> matches = finder.replacements(*text, {});
     for (const Replacement &match : matches)
-        lines.append(lineOf(n, *text, match));
+        lines.append(matchLine(n, *text, match));
     return lines;
 }
 

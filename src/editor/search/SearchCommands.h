@@ -2,6 +2,7 @@
 
 #include "platform/Prompts.h"
 #include "richtext/FindText.h"
+#include "richtext/Replacements.h"
 #include "store/Variables.h"
 
 #include <QCoreApplication>
@@ -38,6 +39,9 @@ struct MatchLine {
     int boldStart;
     int boldLength;
 };
+
+// That of a match in the text of paragraph n.
+MatchLine matchLine(int n, const QString &text, const Replacement &match);
 
 // Searching and replacing in the whole adventure, behind the dialog and the scripts. Other
 // paragraphs are read as they are stored: what the author typed must have been saved.

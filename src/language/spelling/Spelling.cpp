@@ -35,7 +35,7 @@ void Spelling::choose(const Choice &choice)
         m_state = State::Unwanted;
         want();
     }
-    Q_EMIT changed();
+    Q_EMIT changed(false);
 }
 
 void Spelling::want()
@@ -94,7 +94,7 @@ void Spelling::take(const QString &name, const Loaded &loaded)
     m_suggestions.setDictionary(loaded.dictionary ? findDictionary(name) : std::nullopt);
     m_thesaurus.reset();
     m_trouble = loaded.trouble;
-    Q_EMIT changed();
+    Q_EMIT changed(false);
     if (!m_trouble.isEmpty())
         Q_EMIT troubled(m_trouble);
 }
@@ -107,11 +107,14 @@ void Spelling::followAdventure()
         ignored.insert({one.number, one.word});
     if (ignored == m_ignored && extras.words == m_adventureWords)
         return;
+    const bool onlyFewer = ignored.contains(m_ignored) &&
+                           std::includes(extras.words.begin(), extras.words.end(),
+                                         m_adventureWords.begin(), m_adventureWords.end());
     if (extras.words != m_adventureWords)
         m_speller.setAdventureWords(extras.words);
     m_adventureWords = extras.words;
     m_ignored = ignored;
-    Q_EMIT changed();
+    Q_EMIT changed(onlyFewer);
 }
 
 QList<SpellingWord> Spelling::doubts(int n, const QList<SpellingWord> &words) const
@@ -163,14 +166,14 @@ void Spelling::refreshOwnWords()
     if (m_state == State::Unwanted || !ownWords().refresh())
         return;
     m_speller.setOwnWords(ownWords().words());
-    Q_EMIT changed();
+    Q_EMIT changed(false);
 }
 
 void Spelling::addToOwnWords(const QString &word)
 {
     ownWords().add(spellingForm(word));
     m_speller.setOwnWords(ownWords().words());
-    Q_EMIT changed();
+    Q_EMIT changed(true);
 }
 
 void Spelling::addToAdventure(const QString &word)

@@ -70,8 +70,9 @@ public:
     void ignore(int n, const QString &word);
 
 Q_SIGNALS:
-    // Other words are doubtful than before.
-    void changed();
+    // Other words are doubtful than before; only fewer where nothing has happened but that words
+    // were added.
+    void changed(bool onlyFewer);
     // There is no dictionary, for a reason that the author has not been told yet.
     void troubled(const QString &frenchText);
 

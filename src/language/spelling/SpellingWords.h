@@ -35,9 +35,9 @@ WordsAndCode spellingWords(QStringView text);
 // A word as it is looked up, from one that was typed or read; not shortened.
 QString spellingForm(QStringView word);
 
-// The part of a line that must be read again for a change in it to be seen, with the words, addresses
-// and code that reach into it whole: nothing of the line outside is read otherwise. Where a line has
-// no blanks for long, it ends between two words.
+// The part of a line that must be read again for a change in it to be seen, with the words,
+// addresses and code that reach into it whole: nothing of the line outside is read otherwise. Where
+// a line has no blanks for long, it ends between two words.
 struct TextRange {
     qsizetype begin;
     qsizetype end;

@@ -55,6 +55,13 @@ QStringList suggestionsFor(const Dictionary &dictionary, const QString &word)
     return suggestions.mid(0, MostSuggestions);
 }
 
+QString withApostropheOf(const QString &replaced, QString by)
+{
+    if (replaced.contains(u'\u2019'))
+        by.replace(u'\'', u'\u2019');
+    return by;
+}
+
 Suggestions::Suggestions()
 {
     m_thread.setMaxThreadCount(1);

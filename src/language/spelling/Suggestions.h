@@ -18,6 +18,9 @@ constexpr qsizetype MostSuggestions = 7;
 constexpr qsizetype LongestSuggested = 30;
 QStringList suggestionsFor(const Dictionary &dictionary, const QString &word);
 
+// A word that comes in the place of another, with that one's kind of apostrophe.
+QString withApostropheOf(const QString &replaced, QString by);
+
 // The same beside the author's work, since a word may take most of a second: another thread looks
 // them up, with a dictionary of its own.
 class Suggestions : public QObject
