@@ -16,7 +16,7 @@ WorkBar::WorkBar(QWidget *parent) : QProgressBar(parent)
 void WorkBar::begin(bool stoppable)
 {
     hide();
-    setFormat(stoppable ? tr("%p % (Échap pour arrêter)") : QStringLiteral("%p %"));
+    setFormat(stoppable ? stoppableFormat() : QStringLiteral("%p %"));
     m_sinceBegin.start();
 }
 
@@ -25,4 +25,18 @@ void WorkBar::progress(int done, int total)
     setRange(0, total);
     setValue(done);
     setVisible(m_sinceBegin.elapsed() > PatienceOfAuthor);
+}
+
+QSize WorkBar::sizeHint() const
+{
+    const QSize usual = QProgressBar::sizeHint();
+    if (!isTextVisible())
+        return usual;
+    const QString longest = stoppableFormat().replace(QStringLiteral("%p"), QStringLiteral("100"));
+    return usual.expandedTo({fontMetrics().horizontalAdvance(longest) + usual.height(), 0});
+}
+
+QString WorkBar::stoppableFormat()
+{
+    return tr("%p % (Échap pour arrêter)");
 }

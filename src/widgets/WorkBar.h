@@ -16,6 +16,11 @@ public:
     void begin(bool stoppable);
     void progress(int done, int total);
 
+    // Room for all that it ever says, as no layout happens meanwhile.
+    QSize sizeHint() const override;
+
 private:
+    static QString stoppableFormat();
+
     QElapsedTimer m_sinceBegin;
 };
