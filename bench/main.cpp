@@ -15,6 +15,7 @@
 #include "SearchFigures.h"
 #include "StoreFigures.h"
 #include "TypingFigures.h"
+#include "TypographyFigures.h"
 #include "ViewsFigures.h"
 #include "WindowFigures.h"
 #include "app/Desktop.h"
@@ -47,6 +48,7 @@ int main(int argc, char *argv[])
     printConvertFigures(path, folder.path());
     printBookFigures(path, folder.path());
     printTypingFigures(path, folder.path());
+    printTypographyFigures(path, folder.path());
     printReferenceFigures(path, folder.path());
     printCheckFigures(path, folder.path());
     printReadingFigures(path, folder.path());

@@ -2958,6 +2958,40 @@ A workshop for writing gamebooks.</translation>
     </message>
 </context>
 <context>
+    <name>TypographyMenu</name>
+    <message>
+        <source>Arrêté : rien n&apos;a changé.</source>
+        <translation>Stopped: nothing has changed.</translation>
+    </message>
+    <message>
+        <source>Endroits laissés, parce que leur texte a changé ou qu&apos;un renvoi en serait devenu un autre : %1.</source>
+        <translation>Places left, as their text has changed or a reference would have become another: %1.</translation>
+    </message>
+    <message>
+        <source>Typographie du Livre</source>
+        <translation>Book Typography</translation>
+    </message>
+</context>
+<context>
+    <name>TypographyModel</name>
+    <message>
+        <source>Paragraphe %1 (%2)</source>
+        <translation>Paragraph %1 (%2)</translation>
+    </message>
+    <message>
+        <source>À changer</source>
+        <translation>To change</translation>
+    </message>
+    <message>
+        <source>Avant</source>
+        <translation>Before</translation>
+    </message>
+    <message>
+        <source>Après</source>
+        <translation>After</translation>
+    </message>
+</context>
+<context>
     <name>UniformFormatting</name>
     <message>
         <source>Mise en forme...</source>
@@ -3511,6 +3545,97 @@ A workshop for writing gamebooks.</translation>
     <message>
         <source>Paragraphes illisibles : %1</source>
         <translation>Unreadable paragraphs: %1</translation>
+    </message>
+</context>
+<context>
+    <name>bookTypography</name>
+    <message>
+        <source>Typographie du Livre</source>
+        <translation>Book Typography</translation>
+    </message>
+    <message>
+        <source>Sortes</source>
+        <translation>Kinds</translation>
+    </message>
+    <message>
+        <source>Devant ; ! et ? :</source>
+        <translation>Before ; ! and ?:</translation>
+    </message>
+    <message>
+        <source>Espace &amp;insécable</source>
+        <translation>No-brea&amp;k space</translation>
+    </message>
+    <message>
+        <source>Espace fi&amp;ne insécable</source>
+        <translation>&amp;Narrow no-break space</translation>
+    </message>
+    <message>
+        <source>&amp;Paragraphe 0 aussi</source>
+        <translation>&amp;Paragraph 0 too</translation>
+    </message>
+    <message>
+        <source>Celui des notes de l&apos;auteur</source>
+        <translation>That of the author&apos;s notes</translation>
+    </message>
+    <message>
+        <source>Ce qui change, par paragraphes</source>
+        <translation>What changes, by paragraphs</translation>
+    </message>
+    <message>
+        <source>Espace choisit ou laisse, Entrée montre l&apos;endroit dans le texte</source>
+        <translation>Space chooses or leaves, Enter shows the place in the text</translation>
+    </message>
+    <message>
+        <source>Avancement du travail</source>
+        <translation>Progress of the work</translation>
+    </message>
+    <message>
+        <source>&amp;Appliquer</source>
+        <translation>&amp;Apply</translation>
+    </message>
+    <message>
+        <source>Faire tout ce qui est choisi, ou rien ; Ctrl+Alt+Z l&apos;annule</source>
+        <translation>Do all that is chosen, or nothing; Ctrl+Alt+Z takes it back</translation>
+    </message>
+    <message>
+        <source>&amp;Fermer</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Fermer cette fenêtre (Échap)</source>
+        <translation>Close this window (Esc)</translation>
+    </message>
+    <message>
+        <source>Toutes les sortes : %1</source>
+        <translation>All kinds: %1</translation>
+    </message>
+    <message>
+        <source>%1 : %2 sur %3</source>
+        <translation>%1: %2 of %3</translation>
+    </message>
+    <message>
+        <source>%1 : %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Paragraphes encore à lire : %1</source>
+        <translation>Paragraphs still to be read: %1</translation>
+    </message>
+    <message>
+        <source>Rien à changer dans ce livre.</source>
+        <translation>Nothing to change in this book.</translation>
+    </message>
+    <message>
+        <source>Choisi : %1.</source>
+        <translation>Chosen: %1.</translation>
+    </message>
+    <message>
+        <source>Paragraphes illisibles : %1</source>
+        <translation>Unreadable paragraphs: %1</translation>
+    </message>
+    <message>
+        <source>␣ espace, ⍽ espace insécable, ⍽ı fine insécable, ¶ fin de ligne</source>
+        <translation>␣ space, ⍽ no-break space, ⍽ı narrow no-break space, ¶ end of line</translation>
     </message>
 </context>
 <context>
@@ -4187,6 +4312,10 @@ Usmira keeps one before the first save that follows each opening.</translation>
         <source>Ort&amp;hographe du Livre...</source>
         <translation>Boo&amp;k Spelling...</translation>
     </message>
+    <message>
+        <source>T&amp;ypographie du Livre...</source>
+        <translation>Boo&amp;k Typography...</translation>
+    </message>
 </context>
 <context>
     <name>helpWindow</name>
@@ -4605,6 +4734,10 @@ Create it?</translation>
     <message>
         <source>%1, pas installé</source>
         <translation>%1, not installed</translation>
+    </message>
+    <message>
+        <source>Typographie en écrivant</source>
+        <translation>Typography while writing</translation>
     </message>
 </context>
 <context>

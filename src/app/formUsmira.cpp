@@ -8,6 +8,7 @@
 #include "app/WindowPlacement.h"
 #include "editor/BoxKeys.h"
 #include "editor/FirstWords.h"
+#include "editor/language/TypographyAids.h"
 #include "editor/options/ZoomKeys.h"
 #include "editor/options/optionsDlog.h"
 #include "editor/references/ReferenceAids.h"
@@ -64,6 +65,8 @@ formUsmira::formUsmira(Variables &variables, Prompts &prompts)
       m_views(variables, prompts, {m_navigation, m_runner, m_reading}, *this),
       m_checkMenu(variables, prompts, m_work, {m_page, m_navigation, m_runner}, *this),
       m_spelling(variables, prompts, m_work, m_comfort, {m_page, m_navigation, m_runner}, *this),
+      m_typography(variables, {prompts, m_work, m_comfort}, {m_page, m_navigation, m_runner},
+                   *this),
       m_conversions(variables, prompts, m_page, m_work, *this), m_info(variables, prompts, m_page)
 {
     resize(DesignSize);
@@ -200,6 +203,7 @@ void formUsmira::connectMenus()
     m_checkMenu.connectItems({*m_ui->menuComCheck, *m_ui->menuComNextFinding,
                               *m_ui->menuComPrevFinding, *m_ui->statusBar});
     m_spelling.connectItems({*m_ui->menuComSpelling, *m_ui->menuEditSpelling});
+    m_typography.connectItem(*m_ui->menuComTypography);
     connect(&m_page, &ParagraphPage::changed, this, [this] { m_views.followEditor(); });
     m_reading.connectItems({*m_ui->menuComReading, *m_ui->menuComReadingStart});
     m_menuStates.watch(*m_ui->menuCommands);
@@ -218,6 +222,7 @@ void formUsmira::connectMenus()
 
 void formUsmira::connectComfort()
 {
+    new TypographyAids(m_variables, m_comfort, *m_ui->rtfBox);
     new ZoomKeys(m_comfort, *m_ui->rtfBox, *this);
     connect(&m_comfort, &ComfortKeeper::changed, this, &formUsmira::showComfort);
     const AdventureEvents *events = m_variables.Events.get();

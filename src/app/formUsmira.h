@@ -8,6 +8,7 @@
 #include "app/InfoMenu.h"
 #include "app/ReadingMenu.h"
 #include "app/SpellingMenu.h"
+#include "app/TypographyMenu.h"
 #include "app/ViewsMenu.h"
 #include "app/WorkDisplay.h"
 #include "editor/CommandRunner.h"
@@ -112,6 +113,7 @@ private:
     ViewsMenu m_views;
     CheckMenu m_checkMenu;
     SpellingMenu m_spelling;
+    TypographyMenu m_typography;
     ConversionsMenu m_conversions;
     InfoMenu m_info;
     bool m_closed = false; // the window is going, and saves nothing any more

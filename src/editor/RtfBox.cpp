@@ -305,21 +305,47 @@ void RtfBox::insertTyped(QKeyEvent *event)
     // Not every key with a text types it.
     const bool typed = text.size() == 1 && textCursor().position() == start + 1 &&
                        document()->characterAt(start) == text.front();
-    if (!typed || !m_keyPress)
-        return;
     const bool lineStart = previous == QChar::ParagraphSeparator;
-    const TypedKey result = m_keyPress(lineStart ? QChar(QChar::LineFeed) : previous, text.front());
-    if (result != TypedKey{text.front()})
-        replaceTyped(result);
+    if (typed && !replaceTyped(lineStart ? QChar(QChar::LineFeed) : previous, text.front()))
+        mendLine();
 }
 
-void RtfBox::replaceTyped(const TypedKey &typed)
+// Whether the typing aids made something of the key.
+bool RtfBox::replaceTyped(QChar previous, QChar key)
 {
+    const TypedKey typed = m_keyPress ? m_keyPress(previous, key) : TypedKey{key};
+    if (typed == TypedKey{key})
+        return false;
     const int behind = textCursor().position();
     QTextCursor replaced(document());
     replaced.setPosition(behind - (typed.replacesPrevious ? 2 : 1));
     replaced.setPosition(behind, QTextCursor::KeepAnchor);
     replaced.insertText(QString(typed.character), SelectionFormats::firstCharFormat(replaced));
+    m_run.end();
+    return true;
+}
+
+// From the last to the first, so that the places of those before hold.
+void RtfBox::mendLine()
+{
+    const QTextBlock block = textCursor().block();
+    const auto replacements =
+        m_lineRules
+            ? m_lineRules(block.text(), textCursor().positionInBlock(), block.previous().text())
+            : QList<Replacement>();
+    if (replacements.isEmpty())
+        return;
+    document()->setModified(false); // a step of its own
+    QTextCursor replaced = textCursor(); // undo goes back to where the step began
+    replaced.beginEditBlock();
+    for (qsizetype i = replacements.size() - 1; i >= 0; --i) {
+        const Replacement &part = replacements.at(i);
+        replaced.setPosition(block.position() + static_cast<int>(part.position));
+        replaced.setPosition(replaced.position() + static_cast<int>(part.length),
+                             QTextCursor::KeepAnchor);
+        replaced.insertText(part.text, SelectionFormats::firstCharFormat(replaced));
+    }
+    replaced.endEditBlock();
     m_run.end();
 }
 

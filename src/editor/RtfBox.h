@@ -3,6 +3,7 @@
 #include "editor/TypingAids.h"
 #include "editor/TypingRun.h"
 #include "editor/options/ZoomedDevice.h"
+#include "richtext/Replacements.h"
 #include "richtext/RichTextBox.h"
 
 #include <QTextEdit>
@@ -44,6 +45,13 @@ public:
     // leaves what was typed.
     using KeyPress = std::function<TypedKey(QChar previous, QChar key)>;
     void setKeyPress(KeyPress keyPress) { m_keyPress = std::move(keyPress); }
+
+    // What comes in the place of parts of the line behind which the caret stands, once a key has
+    // typed there and the function above has made nothing of it: positions in the line, none behind
+    // the caret. A step of the undo list of its own as well. Both lines are without their breaks.
+    using LineRules = std::function<QList<Replacement>(const QString &line, qsizetype caret,
+                                                       const QString &previous)>;
+    void setLineRules(LineRules rules) { m_lineRules = std::move(rules); }
 
     // How large the text is on the screen, in percent, and how many characters of its font a line
     // of the page has room for. Neither changes the text.
@@ -88,7 +96,8 @@ private:
     void report(const QString &frenchText);
     void type(QKeyEvent *event);
     void insertTyped(QKeyEvent *event);
-    void replaceTyped(const TypedKey &typed);
+    bool replaceTyped(QChar previous, QChar key);
+    void mendLine();
     bool takesBulletAway(const QKeyEvent &event) const;
     bool breaksEmptyLine(const QKeyEvent &event) const;
     void centrePage();
@@ -96,6 +105,7 @@ private:
 
     PageDocument *m_page = nullptr; // the document
     KeyPress m_keyPress;
+    LineRules m_lineRules;
     TypingRun m_run;
     bool m_typing = false;
     bool m_changed = false; // the document, in the step that is going on

@@ -226,7 +226,7 @@ private Q_SLOTS:
         bookFactsDlog facts(fixture.variables, fixture.prompts, fixture.window.get());
         facts.show();
         look(facts);
-        qsizetype shown = 26;
+        qsizetype shown = 27;
         for (const char *item : {"menuConvPdf", "menuConvEpub"}) // not on every system
             shown += fixture.control<QAction>(item).isVisible() ? 1 : 0;
         QVERIFY2(names.size() == shown, qPrintable(names.join(u' ')));

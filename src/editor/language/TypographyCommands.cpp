@@ -10,6 +10,7 @@
 #include "store/LongWork.h"
 
 #include <QCryptographicHash>
+#include <set>
 
 namespace
 {
@@ -63,10 +64,11 @@ TypographyCommands::Looks TypographyCommands::lookAtAll(const TypographyRules &r
     return looks;
 }
 
-int TypographyCommands::apply(const Looks &chosen)
+TypographyCommands::Done TypographyCommands::apply(const Looks &chosen)
 {
     QList<int> numbers = writtenParagraphs(m_variables);
     numbers.removeIf([&](int n) { return chosen.count(n) == 0; });
+    std::set<int> changed;
     const auto replacementsIn = [&](int n, const QString &text) {
         QList<Replacement> replacements;
         const TypographyLook &look = chosen.at(n);
@@ -75,19 +77,21 @@ int TypographyCommands::apply(const Looks &chosen)
         const auto mends = keepingReferences(text, look.mends, m_variables.TargetPhrase);
         for (const TypographyMend &mend : mends)
             replacements.append({mend.position, mend.length, mend.replacement});
+        if (!mends.isEmpty())
+            changed.insert(n);
         return replacements;
     };
     LongWork work(m_report, tr("Correction..."), WorkReport::Stopping::OnEscape);
     const int before = m_variables.History->newId();
-    const int done =
+    const int count =
         replaceInParagraphs(m_variables, m_view.editingBox(), tr("Typographie du Livre"), numbers,
                             replacementsIn, work.progress());
     announceDone(m_variables, m_report, before);
-    return done;
+    return {count, static_cast<int>(changed.size())};
 }
 
-QString TypographyCommands::doneText(int mends, int paragraphs)
+QString TypographyCommands::doneText(const Done &done)
 {
-    return tr("%n correction(s) dans %1.", nullptr, mends)
-        .arg(tr("%n paragraphe(s)", nullptr, paragraphs));
+    return tr("%n correction(s) dans %1.", nullptr, done.mends)
+        .arg(tr("%n paragraphe(s)", nullptr, done.paragraphs));
 }

@@ -43,11 +43,15 @@ public:
 
     // Does these mends where the text is still the one that was looked at, in all paragraphs or in
     // none, as one command of the history. Of mends that would change references together, those
-    // that do are left out. Returns how many were done. Throws as rewriteParagraphs.
-    int apply(const Looks &chosen);
+    // that do are left out. Throws as rewriteParagraphs, and WorkStopped.
+    struct Done {
+        int mends = 0;
+        int paragraphs = 0;
+    };
+    Done apply(const Looks &chosen);
 
     // "12 corrections dans 3 paragraphes."
-    static QString doneText(int mends, int paragraphs);
+    static QString doneText(const Done &done);
 
 private:
     Variables &m_variables;

@@ -40,7 +40,8 @@ bool readFlag(const QString &name, const QString &value, EditorComfort &comfort)
         {u"renvois", &comfort.underlines},
         {u"orthographe", &comfort.spelling},
         {u"capitales", &comfort.skipsCapitals},
-        {u"chiffres", &comfort.skipsDigits}};
+        {u"chiffres", &comfort.skipsDigits},
+        {u"fines", &comfort.narrowSpaces}};
     for (const auto &[known, flag] : flags)
         if (name == known) {
             *flag = value != QStringLiteral("0");
@@ -71,6 +72,8 @@ void readValue(const QString &name, const QString &value, EditorComfort &comfort
     else if (name == QStringLiteral("dictionnaire") && !value.isEmpty() &&
              value.size() <= LongestName)
         comfort.dictionary = value;
+    else if (name == QStringLiteral("typographie"))
+        comfort.typography = typographyKindsNamed(value) & typedTypographyKinds();
     else if (name == QStringLiteral("langue") && languageNames().contains(value))
         comfort.language = static_cast<Comfort::Language>(languageNames().indexOf(value));
     else if (name == QStringLiteral("aventure") && isPath(value) &&
@@ -114,6 +117,8 @@ void writeComfort(const QString &path, const EditorComfort &comfort)
         line(QStringLiteral("dictionnaire"), comfort.dictionary) +
         line(QStringLiteral("capitales"), QString::number(comfort.skipsCapitals ? 1 : 0)) +
         line(QStringLiteral("chiffres"), QString::number(comfort.skipsDigits ? 1 : 0)) +
+        line(QStringLiteral("typographie"), typographyKindNames(comfort.typography)) +
+        line(QStringLiteral("fines"), QString::number(comfort.narrowSpaces ? 1 : 0)) +
         line(QStringLiteral("langue"), languageNames().at(language));
     for (const QString &adventure : comfort.adventures)
         text += line(QStringLiteral("aventure"), adventure);

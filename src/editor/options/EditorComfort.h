@@ -1,5 +1,7 @@
 #pragma once
 
+#include "language/typography/TypographyKinds.h"
+
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -16,6 +18,8 @@
 //   dictionnaire=fr           by which spelling goes, as its files are called
 //   capitales=1               or 0: whether spelling passes over words of capitals
 //   chiffres=1                or 0: whether it passes over words with digits
+//   typographie=espaces,...   the kinds of typography that are mended while one types
+//   fines=0                   or 1: U+202F stands before ; ! ? and not U+00A0
 //   langue=fr                 or en, or bureau
 //   aventure=/home/...        of each adventure opened last, the latest first
 struct EditorComfort {
@@ -37,6 +41,8 @@ struct EditorComfort {
     QString dictionary = QStringLiteral("fr");
     bool skipsCapitals = true;
     bool skipsDigits = true;
+    TypographyKinds typography;
+    bool narrowSpaces = false;
     Language language = Language::French;
     QStringList adventures;
 

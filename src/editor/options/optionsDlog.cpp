@@ -68,6 +68,7 @@ void optionsDlog::showComfort()
     m_ui->chkSpelling->setChecked(comfort.spelling);
     m_ui->chkCapitals->setChecked(comfort.skipsCapitals);
     m_ui->chkDigits->setChecked(comfort.skipsDigits);
+    m_ui->typographyOptions->setKinds(comfort.typography);
     showDictionaries();
 }
 
@@ -113,6 +114,7 @@ void optionsDlog::takeComfort()
     comfort.dictionary = m_ui->comboDictionary->currentData().toString();
     comfort.skipsCapitals = m_ui->chkCapitals->isChecked();
     comfort.skipsDigits = m_ui->chkDigits->isChecked();
+    comfort.typography = m_ui->typographyOptions->kinds();
     m_keeper.change(comfort);
 }
 

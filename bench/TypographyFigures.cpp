@@ -1,0 +1,65 @@
+#include "TypographyFigures.h"
+
+#include "BenchEditor.h"
+#include "Figures.h"
+#include "editor/language/TypographyCommands.h"
+#include "language/typography/FrenchWords.h"
+#include "language/typography/TypedTypography.h"
+#include "store/CommandHistory.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <memory>
+
+namespace
+{
+constexpr int Runs = 5;
+
+void print(const char *name, const std::function<void()> &prepare,
+           const std::function<void()> &action)
+{
+    printFigure(QString::fromUtf8(name), medianMilliseconds(Runs, prepare, action),
+                QStringLiteral("ms"));
+}
+
+// An editor on a copy of its own.
+std::unique_ptr<BenchEditor> opened(const QString &path, const QString &folder)
+{
+    QTemporaryDir copy(folder + QStringLiteral("/typography"));
+    copy.setAutoRemove(false);
+    const QString own = copy.path() + u'/';
+    QFile::copy(path, own + QStringLiteral("Copie.usm"));
+    auto editor = std::make_unique<BenchEditor>(own + QStringLiteral("work"));
+    editor->commands.OpenAdventure(own + QStringLiteral("Copie.usm"));
+    return editor;
+}
+
+void printKey(const TypographyRules &rules)
+{
+    const QString words = QStringLiteral("Rendez-vous au 26, la porte est close ; ");
+    const QString line = words.repeated(50'000 / words.size());
+    qsizetype caret = line.size();
+    const double time = medianMilliseconds(
+        100, [] {}, [&] { typedMends(line, caret--, {}, rules, typedTypographyKinds()); });
+    printFigure(QStringLiteral("what all rules do at a key in a line of 50000 characters"), time,
+                QStringLiteral("ms"));
+}
+} // namespace
+
+void printTypographyFigures(const QString &path, const QString &folder)
+{
+    std::unique_ptr<BenchEditor> editor = opened(path, folder);
+    const auto isWord = frenchWords();
+    TypographyCommands::Looks looks;
+    QList<int> unreadable;
+    const auto look = [&] {
+        TypographyCommands commands(editor->variables, editor->view, editor->view);
+        looks = commands.lookAtAll(commands.rules(false, isWord), true, unreadable);
+    };
+    print(
+        "look at the typography of 2000 paragraphs", [] {}, look);
+    print(
+        "mend it", [&] { editor = opened(path, folder); },
+        [&] { TypographyCommands(editor->variables, editor->view, editor->view).apply(looks); });
+    printKey({editor->variables.TargetPhrase, false, isWord});
+}
