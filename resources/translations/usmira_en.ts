@@ -4314,7 +4314,7 @@ Usmira keeps one before the first save that follows each opening.</translation>
     </message>
     <message>
         <source>T&amp;ypographie du Livre...</source>
-        <translation>Boo&amp;k Typography...</translation>
+        <translation>Book T&amp;ypography...</translation>
     </message>
 </context>
 <context>
