@@ -805,6 +805,18 @@
         <source>Aucune lecture n&apos;y arrive : il ne dépend que du %1, où aucun paragraphe ne mène.</source>
         <translation>No reading gets there: it hangs only from %1, to which no paragraph leads.</translation>
     </message>
+    <message>
+        <source>Grammaire</source>
+        <translation>Grammar</translation>
+    </message>
+    <message>
+        <source>« %1 »</source>
+        <translation>« %1 »</translation>
+    </message>
+    <message>
+        <source>%1 Peut-être %2.</source>
+        <translation>%1 Perhaps %2.</translation>
+    </message>
 </context>
 <context>
     <name>FindingGroups</name>
@@ -1003,6 +1015,44 @@
     <message>
         <source>Compte</source>
         <translation>Count</translation>
+    </message>
+</context>
+<context>
+    <name>GrammarCheck</name>
+    <message>
+        <source>le programme ne répond plus</source>
+        <translation>the program does not answer any more</translation>
+    </message>
+    <message>
+        <source>le programme ne démarre pas</source>
+        <translation>the program does not start</translation>
+    </message>
+    <message>
+        <source>Grammaire : %1 %</source>
+        <translation>Grammar: %1 %</translation>
+    </message>
+    <message>
+        <source>Grammaire : arrêtée à la ligne %1 sur %2.</source>
+        <translation>Grammar: stopped at line %1 of %2.</translation>
+    </message>
+    <message>
+        <source>le programme répond n&apos;importe quoi</source>
+        <translation>the program answers nonsense</translation>
+    </message>
+    <message numerus="yes">
+        <source>Grammaire : %n constat(s).</source>
+        <translation>
+            <numerusform>Grammar: %n finding.</numerusform>
+            <numerusform>Grammar: %n findings.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>le programme s&apos;est arrêté à la ligne %1 sur %2</source>
+        <translation>the program stopped at line %1 of %2</translation>
+    </message>
+    <message>
+        <source>Grammaire : %1.</source>
+        <translation>Grammar: %1.</translation>
     </message>
 </context>
 <context>
@@ -3270,6 +3320,18 @@ A workshop for writing gamebooks.</translation>
     <message>
         <source>Enregistré : %1</source>
         <translation>Saved: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Grammaire</source>
+        <translation>&amp;Grammar</translation>
+    </message>
+    <message>
+        <source>Faire lire le livre par grammalecte, à côté d&apos;Usmira, ou l&apos;arrêter</source>
+        <translation>Have grammalecte read the book, beside Usmira, or stop it</translation>
+    </message>
+    <message>
+        <source>Arrê&amp;ter</source>
+        <translation>S&amp;top</translation>
     </message>
 </context>
 <context>

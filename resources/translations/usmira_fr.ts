@@ -100,6 +100,16 @@
     </message>
 </context>
 <context>
+    <name>GrammarCheck</name>
+    <message numerus="yes">
+        <source>Grammaire : %n constat(s).</source>
+        <translation>
+            <numerusform>Grammaire : %n constat.</numerusform>
+            <numerusform>Grammaire : %n constats.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>HistoryCommands</name>
     <message numerus="yes">
         <source>%n paragraphe(s) modifié(s) depuis : %1 Les remettre aussi comme avant la commande ?</source>

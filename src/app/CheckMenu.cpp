@@ -45,7 +45,7 @@ std::optional<TextPart> placeIn(const QString &text, const Finding &finding)
 CheckMenu::CheckMenu(Variables &variables, Prompts &prompts, WorkReport &report,
                      const EditorAccess &editor, QWidget &window)
     : m_variables(variables), m_prompts(prompts), m_report(report), m_editor(editor),
-      m_window(window), m_check(variables)
+      m_window(window), m_check(variables), m_grammar(variables, GrammarCheck::installedProgram())
 {
 }
 
@@ -102,7 +102,7 @@ void CheckMenu::showCounts(QStatusBar &bar, QPushButton &button) const
 bookCheck &CheckMenu::list(const Items &items)
 {
     if (!m_list) {
-        m_list = std::make_unique<bookCheck>(m_variables, m_check, m_prompts, &m_window);
+        m_list = std::make_unique<bookCheck>(m_variables, m_check, m_grammar, m_prompts, &m_window);
         connectList(items);
     }
     return *m_list;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/GrammarCheck.h"
 #include "check/LiveCheck.h"
 #include "editor/EditorAccess.h"
 
@@ -54,5 +55,6 @@ private:
     EditorAccess m_editor;
     QWidget &m_window;
     LiveCheck m_check;
+    GrammarCheck m_grammar;
     std::unique_ptr<bookCheck> m_list;
 };

@@ -94,13 +94,18 @@ CheckedBook CheckBook(const Variables &variables, const BookWays &ways, const Pl
         const TextPart sentence = firstSentence(text);
         finding.around = text.mid(sentence.position, sentence.length);
     }
-    findings += ofTexts;
-    std::sort(findings.begin(), findings.end(), comesBefore);
-    CheckedBook checked;
+    return withFindings(variables, {}, findings + ofTexts);
+}
+
+CheckedBook withFindings(const Variables &variables, CheckedBook book,
+                         const QList<Finding> &findings)
+{
     const AcceptedOnes accepted(variables.extras.accepted);
     for (const Finding &finding : findings)
-        (accepted.contain(finding) ? checked.accepted : checked.findings).append(finding);
-    return checked;
+        (accepted.contain(finding) ? book.accepted : book.findings).append(finding);
+    for (QList<Finding> *list : {&book.findings, &book.accepted})
+        std::sort(list->begin(), list->end(), comesBefore);
+    return book;
 }
 
 QString findingCounts(const QList<Finding> &findings)

@@ -30,6 +30,10 @@ QList<Finding> findingsIn(int n, const TextCheck &check, const BookWays &ways,
 CheckedBook CheckBook(const Variables &variables, const BookWays &ways, const PlainTexts &texts,
                       const QList<Finding> &ofTexts);
 
+// With findings of another check, parted by what is accepted.
+CheckedBook withFindings(const Variables &variables, CheckedBook book,
+                         const QList<Finding> &findings);
+
 // "3 fautes, 12 remarques"; notes are not counted.
 QString findingCounts(const QList<Finding> &findings);
 

@@ -25,6 +25,7 @@ constexpr std::array<Kind, FindingKindCount> Kinds{{
     {"douteux", Severity::Remark},
     {"non-suivi", Severity::Remark},
     {"sans-lien", Severity::Remark},
+    {"grammaire", Severity::Remark},
     {"a-faire", Severity::Note},
     {"court", Severity::Note},
 }};

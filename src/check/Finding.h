@@ -22,10 +22,11 @@ enum class FindingKind : quint8 {
     Doubtful,    // a reference that is read otherwise than it looks
     NotRead,     // looks like a reference and is none
     NotLinked,   // the HTML will have no link there
+    Grammar,     // what another program says of the grammar, when it is asked
     ToDo,        // the author has left a mark there
     Short,       // hardly any words
 };
-constexpr int FindingKindCount = 14;
+constexpr int FindingKindCount = 15;
 
 enum class Severity : quint8 { Fault, Remark, Note };
 constexpr int SeverityCount = 3;
@@ -45,6 +46,7 @@ struct Finding {
     qsizetype placeInAround = 0; // where the place begins in it
     ReferenceMark mark{};        // Doubtful, NotRead and BeyondLast: see mendsInText()
     QString phrase;              // the target phrase
+    QString message;             // Grammar: what is the matter, in French
 
     Severity severity() const;
     bool operator==(const Finding &) const = default;

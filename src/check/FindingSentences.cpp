@@ -23,6 +23,7 @@ constexpr std::array<const char *, FindingKindCount> Sentences{
     "",
     QT_TRANSLATE_NOOP("Finding", "Le HTML n'aura pas de lien ici : il veut « %1 » à la lettre, "
                                  "sans accent ni autre signe particulier."),
+    "",
     QT_TRANSLATE_NOOP("Finding", "Il reste quelque chose à faire."),
     QT_TRANSLATE_NOOP("Finding", "Le paragraphe a moins de cinq mots."),
 };
@@ -46,6 +47,7 @@ constexpr std::array<const char *, FindingKindCount> Titles{
     QT_TRANSLATE_NOOP("Finding", "Renvois douteux"),
     QT_TRANSLATE_NOOP("Finding", "Renvois qui ne sont pas suivis"),
     QT_TRANSLATE_NOOP("Finding", "Renvois sans lien dans le HTML"),
+    QT_TRANSLATE_NOOP("Finding", "Grammaire"),
     QT_TRANSLATE_NOOP("Finding", "Reste à faire"),
     QT_TRANSLATE_NOOP("Finding", "Paragraphes très courts"),
 };
@@ -94,6 +96,8 @@ QString plainSentence(const Finding &finding)
     case FindingKind::Doubtful:
     case FindingKind::NotRead:
         return doubtReason(finding.mark.doubt, finding.mark.read, finding.phrase);
+    case FindingKind::Grammar:
+        return finding.message;
     case FindingKind::Unreachable:
         return unreachableSentence(finding);
     case FindingKind::Trap:

@@ -1,6 +1,7 @@
 #include "views/check/bookCheck.h"
 
 #include "check/FindingMends.h"
+#include "check/GrammarCheck.h"
 #include "check/LiveCheck.h"
 #include "check/StartNumbers.h"
 #include "platform/Failures.h"
@@ -36,17 +37,20 @@ QString spaced(const QList<int> &numbers)
 }
 } // namespace
 
-bookCheck::bookCheck(const Variables &variables, LiveCheck &check, Prompts &prompts,
-                     QWidget *parent)
-    : QDialog(parent), m_variables(variables), m_check(check), m_prompts(prompts),
-      m_ui(std::make_unique<Ui::bookCheck>())
+bookCheck::bookCheck(const Variables &variables, LiveCheck &check, GrammarCheck &grammar,
+                     Prompts &prompts, QWidget *parent)
+    : QDialog(parent), m_variables(variables), m_check(check), m_grammar(grammar),
+      m_prompts(prompts), m_ui(std::make_unique<Ui::bookCheck>())
 {
     m_ui->setupUi(this);
     keepRoomForLines(*m_ui->lblState, 2);
     keepRoomForLines(*m_ui->lblStartsNote, 2);
     m_ui->btnAccept->setMinimumWidth(m_ui->btnAccept->sizeHint().width()); // its text changes
     connectControls();
+    m_ui->btnGrammar->setVisible(grammar.isAvailable());
+    m_ui->btnGrammar->setMinimumWidth(m_ui->btnGrammar->sizeHint().width());
     connect(&check, &LiveCheck::changed, this, &bookCheck::refresh);
+    connect(&grammar, &GrammarCheck::changed, this, &bookCheck::refresh);
     const AdventureEvents *events = variables.Events.get();
     connect(events, &AdventureEvents::numbersChanged, this,
             [this](const NumberMap &numbers) { list().renumber(numbers); });
@@ -74,6 +78,8 @@ void bookCheck::connectControls()
     connect(m_ui->txtStarts, &QLineEdit::editingFinished, this, &bookCheck::takeStarts);
     connect(m_ui->btnAccept, &QPushButton::clicked, this, &bookCheck::acceptChosen);
     connect(m_ui->btnMend, &QPushButton::clicked, this, &bookCheck::mendChosen);
+    connectGuarded(m_ui->btnGrammar, &QPushButton::clicked, this, m_prompts,
+                   [this] { btnGrammar_Click(); });
     m_ui->btnSave->setMenu(new QMenu(this));
     const QAction *text = m_ui->btnSave->menu()->addAction(tr("&Texte..."));
     const QAction *table = m_ui->btnSave->menu()->addAction(tr("Table &CSV..."));
@@ -106,8 +112,10 @@ void bookCheck::showEvent(QShowEvent *event)
 void bookCheck::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
-    if (!event->spontaneous())
-        Q_EMIT shown(false);
+    if (event->spontaneous())
+        return;
+    m_grammar.stop();
+    Q_EMIT shown(false);
 }
 
 // Nothing is listed in a window that nobody sees.
@@ -124,14 +132,39 @@ void bookCheck::fill()
     filter.severities = {m_ui->btnFaults->isChecked(), m_ui->btnRemarks->isChecked(),
                          m_ui->btnNotes->isChecked()};
     filter.accepted = m_ui->chkAccepted->isChecked();
-    list().setFindings(findingGroups(m_check.book(), filter));
+    list().setFindings(findingGroups(book(), filter));
     showCounts();
+    showGrammar();
     showStarts();
+}
+
+CheckedBook bookCheck::book() const
+{
+    const QList<Finding> grammar = m_grammar.findings(m_check.texts());
+    return grammar.isEmpty() ? m_check.book() : withFindings(m_variables, m_check.book(), grammar);
+}
+
+// The same button stops it.
+void bookCheck::btnGrammar_Click()
+{
+    if (m_grammar.isRunning()) {
+        m_grammar.stop();
+        return;
+    }
+    m_check.bringUpToDate();
+    m_grammar.start(m_check.texts());
+}
+
+void bookCheck::showGrammar()
+{
+    const bool runs = m_grammar.isRunning();
+    m_ui->btnGrammar->setText(runs ? tr("Arrê&ter") : tr("&Grammaire"));
+    m_ui->btnGrammar->setEnabled(m_variables.AdventureOpen);
 }
 
 void bookCheck::showCounts()
 {
-    const QList<Finding> &findings = m_check.book().findings;
+    const QList<Finding> findings = book().findings;
     m_ui->btnFaults->setText(counted(tr("Fa&utes"), findings, Severity::Fault));
     m_ui->btnRemarks->setText(counted(tr("Re&marques"), findings, Severity::Remark));
     m_ui->btnNotes->setText(counted(tr("&Notes"), findings, Severity::Note));
@@ -148,7 +181,8 @@ void bookCheck::showChoice()
                        "reste la même"));
     m_ui->btnAccept->setEnabled(takesBack || !chosen(false).isEmpty());
     m_ui->btnMend->setEnabled(!mendable().isEmpty());
-    QString text = choiceText();
+    QString text = m_grammar.state();
+    text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + choiceText();
     if (!m_check.texts().unreadable.isEmpty())
         text += u'\n' +
                 tr("Paragraphes illisibles : %1").arg(paragraphNames(m_check.texts().unreadable));

@@ -7,6 +7,7 @@
 #include <memory>
 
 class FindingList;
+class GrammarCheck;
 class LiveCheck;
 class Prompts;
 struct Variables;
@@ -24,7 +25,8 @@ class bookCheck : public QDialog
 
 public:
     // All must outlive it.
-    bookCheck(const Variables &variables, LiveCheck &check, Prompts &prompts, QWidget *parent);
+    bookCheck(const Variables &variables, LiveCheck &check, GrammarCheck &grammar, Prompts &prompts,
+              QWidget *parent);
     ~bookCheck() override;
 
     // The author begins in the list.
@@ -53,6 +55,9 @@ private:
     void connectControls();
     void refresh();
     void fill();
+    void btnGrammar_Click();
+    void showGrammar();
+    CheckedBook book() const;
     void showCounts();
     void showStarts();
     void showChoice();
@@ -68,6 +73,7 @@ private:
 
     const Variables &m_variables;
     LiveCheck &m_check;
+    GrammarCheck &m_grammar;
     Prompts &m_prompts;
     std::unique_ptr<Ui::bookCheck> m_ui;
 };
