@@ -13,6 +13,7 @@
 #include "ReferenceFigures.h"
 #include "RenumberFigures.h"
 #include "SearchFigures.h"
+#include "SpellingFigures.h"
 #include "StoreFigures.h"
 #include "TypingFigures.h"
 #include "TypographyFigures.h"
@@ -50,6 +51,7 @@ int main(int argc, char *argv[])
     printTypingFigures(path, folder.path());
     printTypographyFigures(path, folder.path());
     printReferenceFigures(path, folder.path());
+    printSpellingFigures(path, folder.path());
     printCheckFigures(path, folder.path());
     printReadingFigures(path, folder.path());
     printGraphFigures(path, folder.path());
