@@ -30,8 +30,10 @@ QString longLine()
 {
     const QString sentences = QStringLiteral(
         "Le guerier Elric pousse la grille de l'epée, qui grince, et le froid de la crypte vous "
-        "saisit. Au fond luit une lampe. Si vous entrez, rendez-vous au 26 ; si vous restez dehors, "
-        "il faudra attendre le jour, et la nuit est longue pour qui a peur des loups <b>gris</b>. ");
+        "saisit. Au fond luit une lampe. Si vous entrez, rendez-vous au 26 ; si vous restez "
+        "dehors, "
+        "il faudra attendre le jour, et la nuit est longue pour qui a peur des loups "
+        "<b>gris</b>. ");
     return sentences.repeated(Characters / sentences.size() + 1);
 }
 
@@ -48,8 +50,8 @@ struct LongText {
         box.viewport()->grab();
     }
 
-    // Milliseconds of what is done for a key by all that underlines: once when the text has changed,
-    // and once when its line is painted.
+    // Milliseconds of what is done for a key by all that underlines: once when the text has
+    // changed, and once when its line is painted.
     double keyTime()
     {
         QImage page(box.viewport()->size(), QImage::Format_ARGB32_Premultiplied);
@@ -142,8 +144,10 @@ void printSpellingFigures(const QString &path, const QString &folder)
     readAll();
     print(QStringLiteral("spell 2000 paragraphs for the first time"),
           static_cast<double>(timer.nsecsElapsed()) / 1e6);
-    print(QStringLiteral("spell them again"), medianMilliseconds(Runs / 10, [] {}, readAll));
+    print(QStringLiteral("spell them again"), medianMilliseconds(
+                                                  Runs / 10, [] {}, readAll));
     print(QStringLiteral("list their doubtful words"),
-          medianMilliseconds(Runs / 10, [] {}, [&] { static_cast<void>(book.words()); }));
+          medianMilliseconds(
+              Runs / 10, [] {}, [&] { static_cast<void>(book.words()); }));
     printWordFigures(spelling);
 }

@@ -146,6 +146,25 @@ melanger 4 9
         QCOMPARE(outcome.status, 1);
     }
 
+    void doubtfulWordsAreWritten()
+    {
+        TestAdventure adventure;
+        adventure.file("a.usm", AdventureBuilder({"2: Elric apelle.", "4: D'Elric."}).bytes());
+        adventure.file("c.usm", AdventureBuilder({"9: Fin."}).bytes());
+        const QByteArray open = "ouvrir '" + adventure.path("a.usm").toUtf8() + "'\n";
+        const Outcome outcome = run(adventure, {}, open + "orthographe");
+        QVERIFY2(outcome.output.startsWith("apelle\t1\t2\tappelle, "), outcome.output);
+        QVERIFY2(outcome.output.contains("\nElric\t2\t2, 4\t"), outcome.output);
+        QCOMPARE(outcome.status, 1);
+        const QByteArray script = open + "ajouter-mot Elric\nscinder 1 9 '@b.usm'\n" +
+                                  "ouvrir '@c.usm'\nfusionner '@b.usm'\nmots\n"
+                                  "orthographe rapide\n";
+        const QByteArray folder = adventure.path("./").toUtf8();
+        const Outcome merged = run(adventure, {"--non"}, QByteArray(script).replace('@', folder));
+        QCOMPARE(merged.output, "Elric\napelle\t1\t2\t\n");
+        QCOMPARE(run(adventure, {}, open + "ajouter-mot 'a b'").status, 2);
+    }
+
     void commandsAreTakenBackAndListed()
     {
         TestAdventure adventure;

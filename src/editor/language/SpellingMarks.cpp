@@ -25,7 +25,7 @@ void SpellingMarks::reset(int length)
 }
 
 // A mark that ends or begins where the change is belongs to it, for the word goes on there.
-bool SpellingMarks::change(int position, int removed, int added)
+void SpellingMarks::change(int position, int removed, int added)
 {
     Range touched{position, position + removed};
     const auto first = std::partition_point(m_marks.begin(), m_marks.end(), [&](const Mark &mark) {
@@ -33,7 +33,6 @@ bool SpellingMarks::change(int position, int removed, int added)
     });
     const auto last = std::partition_point(
         first, m_marks.end(), [&](const Mark &mark) { return mark.range.begin <= touched.end; });
-    const bool code = std::any_of(first, last, [](const Mark &mark) { return mark.isCode; });
     if (first != last)
         touched = {std::min(touched.begin, first->range.begin),
                    std::max(touched.end, std::prev(last)->range.end)};
@@ -43,8 +42,8 @@ bool SpellingMarks::change(int position, int removed, int added)
         range = {moved(range.begin, position, removed, added),
                  moved(range.end, position, removed, added)};
     std::erase_if(m_unread, [](const Range &range) { return range.begin >= range.end; });
-    forget({touched.begin, std::max(touched.end - removed + added, touched.begin + 1)});
-    return code;
+    // What follows may begin a line now.
+    forget({touched.begin, touched.end - removed + added + 1});
 }
 
 void SpellingMarks::forget(Range range)

@@ -16,16 +16,15 @@ public:
     };
     struct Mark {
         Range range;
-        bool isCode; // between < and >: nothing doubtful, but what touches it concerns its line
+        bool isCode; // between < and >: nothing doubtful, but a change may make words of it
         bool operator==(const Mark &) const = default;
     };
 
     // Another text: nothing of it is read.
     void reset(int length);
 
-    // The text has changed as QTextDocument tells it. True: code was touched, so that what stands
-    // around may be code no more.
-    bool change(int position, int removed, int added);
+    // The text has changed as QTextDocument tells it. Marks that it touches are to be read again.
+    void change(int position, int removed, int added);
 
     // A part is to be read again, with what is marked there until then.
     void forget(Range range);

@@ -111,31 +111,9 @@ void SpellingUnderlines::noteChange(int position, int removed, int added)
 {
     if (!isActive() || m_document != m_box.document())
         return;
-    const bool code = m_marks.change(position, removed, added);
-    const int end = std::min(position + added, m_document->characterCount() - 1);
-    if (code)
-        for (QTextBlock line = m_document->findBlock(position);
-             line.isValid() && line.position() <= end; line = line.next())
-            m_marks.forget({line.position(), line.position() + line.length()});
-    forgetLineOfCode(position, end);
-    m_typedAt = end;
+    m_marks.change(position, removed, added);
+    m_typedAt = std::min(position + added, m_document->characterCount() - 1);
     m_idle.start(0);
-}
-
-// What was no code before may be it now, and the other way round.
-void SpellingUnderlines::forgetLineOfCode(int position, int end)
-{
-    for (const int at : {position, end}) {
-        const QTextBlock line = m_document->findBlock(at);
-        if (!line.isValid())
-            continue;
-        const QString text = line.text();
-        const TextRange around =
-            wordsAround(text, {position - line.position(), end - line.position()});
-        const QStringView changed = QStringView(text).mid(around.begin, around.end - around.begin);
-        if (changed.contains(u'<') || changed.contains(u'>'))
-            m_marks.forget({line.position(), line.position() + line.length()});
-    }
 }
 
 // The word that was typed is read as any other once the caret has left it.

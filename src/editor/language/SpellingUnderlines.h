@@ -58,7 +58,6 @@ private:
     void readAgain();
     void follow();
     void noteChange(int position, int removed, int added);
-    void forgetLineOfCode(int position, int end);
     void noteCaret();
     void read(Range range);
     Range visible() const;

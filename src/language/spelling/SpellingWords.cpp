@@ -105,6 +105,15 @@ bool parts(QChar c)
     return c == u',' || c == u';' || c == u'!' || c == u'(' || c == u')' || c == u'\u2026';
 }
 
+// The code that a place lies within, or the place alone.
+TextRange codeOver(QStringView line, qsizetype place)
+{
+    const qsizetype code = place == 0 ? -1 : line.lastIndexOf(u'<', place - 1);
+    const qsizetype length = code < 0 ? 0 : codeLength(line, code);
+    return code + length > place && length > 0 ? TextRange{code, code + length}
+                                               : TextRange{place, place};
+}
+
 bool endsRange(QChar c, qsizetype distance)
 {
     return isBlank(c) || (distance > FarFromChange && parts(c));
@@ -155,15 +164,16 @@ TextRange wordsAround(QStringView line, TextRange changed)
 {
     qsizetype begin = std::clamp<qsizetype>(changed.begin, 0, line.size());
     qsizetype end = std::clamp<qsizetype>(changed.end, begin, line.size());
-    while (begin > 0 && !endsRange(line.at(begin - 1), changed.begin - begin))
-        --begin;
-    while (end < line.size() && !endsRange(line.at(end), end - changed.end))
-        ++end;
-    for (qsizetype *edge : {&begin, &end}) {
-        const qsizetype code = *edge == 0 ? -1 : line.lastIndexOf(u'<', *edge - 1);
-        const qsizetype length = code < 0 ? 0 : codeLength(line, code);
-        if (code + length > *edge && length > 0)
-            *edge = edge == &begin ? code : code + length;
+    for (;;) {
+        while (begin > 0 && !endsRange(line.at(begin - 1), changed.begin - begin))
+            --begin;
+        while (end < line.size() && !endsRange(line.at(end), end - changed.end))
+            ++end;
+        const TextRange first = codeOver(line, begin);
+        const TextRange last = codeOver(line, end);
+        if (first.begin == begin && last.end == end)
+            return {begin, end};
+        begin = first.begin; // words may touch the code
+        end = last.end;
     }
-    return {begin, end};
 }
