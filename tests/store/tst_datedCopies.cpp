@@ -142,7 +142,7 @@ private Q_SLOTS:
                                                            QFile::ReadGroup
                                                      : QFile::ReadOwner | QFile::ReadOther));
         const QFile::Permissions mode = modeOf(path);
-#ifdef Q_OS_UNIX
+#if defined(Q_OS_UNIX) && !defined(USMIRA_PORTABLE) // whose calls leave the owner
         const bool owned = ::geteuid() == 0 && ::chown(qPrintable(path), 65534, 65534) == 0;
 #else
         const bool owned = false;
