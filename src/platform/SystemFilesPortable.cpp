@@ -112,11 +112,14 @@ std::error_code syncFileSystemOf(const QString & /*folder*/)
     return {};
 }
 
+// What the user himself may do is asked of the system, and would be given to the owner: root may
+// write everything.
 void keepAttributes(const QString &written, const QString &replaced)
 {
+    constexpr QFile::Permissions own = QFile::ReadUser | QFile::WriteUser | QFile::ExeUser;
     const QFileInfo info(replaced);
     if (info.exists())
-        QFile::setPermissions(written, info.permissions());
+        QFile::setPermissions(written, info.permissions() & ~own);
 }
 
 FileClaim::~FileClaim()
