@@ -102,6 +102,7 @@ private Q_SLOTS:
               "<P ALIGN=\"Left\">a<P ALIGN=\"Center\">bc<P ALIGN=\"Center\"><P ALIGN=\"Right\">d"},
              {"codes", "\\'e0\\'0a\\'E9\\'95\\'4z\\'zz.", "&#224;&#010;&#233;&#149;&#004;&#000;."},
              {"no-break space", "\\x a\\~b", "a&nbsp;b"},
+             {"narrow no-break space", "\\u8239 ?!", "&#8239;!"},
              {"a run goes on to the space", "\\x*?{\r\n\\y=z  a", " a"},
              {"behind the last brace but one", "\\b lost}lost\\i kept", "<I>kept</I>"},
              {"characters by number",
