@@ -1,8 +1,8 @@
 # Sourced by windows.sh: builds the libraries that Usmira has beside Qt from Debian's own sources,
 # once, into the folder of Qt for Windows. Expects scripts/setup.sh, sources.sh and QT_FOLDER.
 
-LIBRARY_PACKAGES=(libz-mingw-w64-dev hyphen-fr)
-LIBRARIES=(libzip libjpeg-turbo qpdf hyphen)
+LIBRARY_PACKAGES=(libz-mingw-w64-dev hyphen-fr hunspell-fr-comprehensive mythes-fr)
+LIBRARIES=(libzip libjpeg-turbo qpdf hyphen hunspell mythes)
 
 # library NAME TARGET CMAKE...: the built library alone, part of the programs that use it.
 library() {
@@ -17,16 +17,19 @@ library() {
         { tail -n 40 "$folder.log"; fail "$name could not be built"; }
 }
 
-# Two files of C, and no CMake.
-library_hyphen() {
-    local file compiler=x86_64-w64-mingw32-gcc-posix
-    say "Building hyphen for Windows"
-    for file in hyphen hnjalloc; do
-        "$compiler" -O2 -c "$LIBRARY_BUILD/hyphen/$file.c" -o "$LIBRARY_BUILD/$file.o"
+# plain_library NAME SOURCES HEADERS FILE...: a few files and no CMake. They lie in the folder
+# SOURCES, and what is included of them goes to HEADERS.
+plain_library() {
+    local name=$1 sources=$LIBRARY_BUILD/$2 headers=$QT_FOLDER/windows/include/$3 file
+    shift 3
+    say "Building $name for Windows"
+    for file in "$@"; do
+        x86_64-w64-mingw32-gcc-posix -O2 -DHUNSPELL_STATIC -c "$sources/$file" \
+            -o "$sources/${file%.*}.o" || fail "$name could not be built"
     done
-    x86_64-w64-mingw32-ar rcs "$QT_FOLDER/windows/lib/libhyphen.a" \
-        "$LIBRARY_BUILD"/{hyphen,hnjalloc}.o
-    cp "$LIBRARY_BUILD/hyphen/hyphen.h" "$QT_FOLDER/windows/include/"
+    x86_64-w64-mingw32-ar rcs "$QT_FOLDER/windows/lib/lib$name.a" "$sources"/*.o
+    mkdir -p "$headers"
+    find "$sources" -maxdepth 1 \( -name '*.h' -o -name '*.hxx' \) -exec cp -t "$headers" {} +
 }
 
 # libraries_for_windows: a changed script builds them anew.
@@ -50,7 +53,12 @@ libraries_for_windows() {
     library libjpeg-turbo all -DENABLE_SHARED=OFF -DWITH_SIMD=OFF -DWITH_TURBOJPEG=OFF
     LIBRARY_COMPONENT=dev library qpdf libqpdf -DREQUIRE_CRYPTO_NATIVE=ON -DBUILD_DOC=OFF \
         -DUSE_IMPLICIT_CRYPTO=OFF -DCMAKE_CXX_FLAGS="-include cstdint"
-    library_hyphen
+    plain_library hyphen hyphen . hyphen.c hnjalloc.c
+    # Names with letters that the code page of the system lacks it opens for one compiler only.
+    sed -i 's/ && defined(_MSC_VER)//' "$LIBRARY_BUILD/hunspell/src/hunspell/csutil.cxx"
+    plain_library hunspell hunspell/src/hunspell hunspell affentry.cxx affixmgr.cxx csutil.cxx \
+        filemgr.cxx hashmgr.cxx hunspell.cxx hunzip.cxx phonet.cxx replist.cxx suggestmgr.cxx
+    plain_library mythes mythes . mythes.cxx
     unset PKG_CONFIG_LIBDIR
     touch "$stamp"
     rm -rf "$LIBRARY_BUILD"

@@ -58,7 +58,10 @@ ship_licences() {
     cp /usr/share/doc/gcc-mingw-w64-base/copyright "$1/GCC.txt"
     cp /usr/share/doc/mingw-w64-x86-64-dev/copyright "$1/MinGW.txt"
     cp "$2"/windows/licences/*.txt "$1/"
-    cp /usr/share/doc/hyphen-fr/copyright "$1/hyphen-fr.txt"
+    local words
+    for words in hyphen-fr hunspell-fr-comprehensive mythes-fr; do
+        cp "/usr/share/doc/$words/copyright" "$1/$words.txt"
+    done
     cp /usr/share/common-licenses/{LGPL-2.1,LGPL-3,GPL-2,GPL-3} "$1/"
 }
 
@@ -96,6 +99,9 @@ ship() {
     ship_icons "$1/icons"
     mkdir -p "$1/hyphen"
     cp -L /usr/share/hyphen/hyph_fr.dic "$1/hyphen/"
+    mkdir -p "$1/hunspell" "$1/mythes"
+    cp -L /usr/share/hunspell/fr.{aff,dic} "$1/hunspell/"
+    cp -L /usr/share/mythes/thes_fr.{idx,dat} "$1/mythes/"
     ship_licences "$1/licences" "$2"
     cp resources/documents/* "$1/documents/"
     cp -r resources/samples "$1/documents/"
