@@ -2481,10 +2481,6 @@ A workshop for writing gamebooks.</translation>
 <context>
     <name>Spelling</name>
     <message>
-        <source>Cet Usmira est fait sans vérification de l&apos;orthographe.</source>
-        <translation>This Usmira was made without spelling.</translation>
-    </message>
-    <message>
         <source>Le dictionnaire « %1 » n&apos;est pas installé : l&apos;orthographe n&apos;est pas vérifiée.</source>
         <translation>The dictionary “%1” is not installed: spelling is not checked.</translation>
     </message>

@@ -2,7 +2,7 @@
 # once, into the folder of Qt for Windows. Expects scripts/setup.sh, sources.sh and QT_FOLDER.
 
 LIBRARY_PACKAGES=(libz-mingw-w64-dev hyphen-fr hunspell-fr-comprehensive mythes-fr)
-LIBRARIES=(libzip libjpeg-turbo qpdf hyphen hunspell mythes)
+LIBRARIES=(libzip libjpeg-turbo qpdf hyphen hunspell)
 
 # library NAME TARGET CMAKE...: the built library alone, part of the programs that use it.
 library() {
@@ -58,7 +58,6 @@ libraries_for_windows() {
     sed -i 's/ && defined(_MSC_VER)//' "$LIBRARY_BUILD/hunspell/src/hunspell/csutil.cxx"
     plain_library hunspell hunspell/src/hunspell hunspell affentry.cxx affixmgr.cxx csutil.cxx \
         filemgr.cxx hashmgr.cxx hunspell.cxx hunzip.cxx phonet.cxx replist.cxx suggestmgr.cxx
-    plain_library mythes mythes . mythes.cxx
     unset PKG_CONFIG_LIBDIR
     touch "$stamp"
     rm -rf "$LIBRARY_BUILD"

@@ -65,11 +65,6 @@ Dictionary::Dictionary(const DictionaryFiles &files)
 
 Dictionary::~Dictionary() = default;
 
-bool Dictionary::isSupported()
-{
-    return true;
-}
-
 bool Dictionary::has(const QString &word) const
 {
     const std::string bytes = m_library->encoded(word);

@@ -18,9 +18,6 @@ public:
     Dictionary(const Dictionary &) = delete;
     Dictionary &operator=(const Dictionary &) = delete;
 
-    // False: the program was built without the library, and none can be read.
-    static bool isSupported();
-
     bool has(const QString &word) const;
 
     // Words that may have been meant, the likeliest first. May take most of a second.

@@ -65,8 +65,6 @@ bool Spelling::bringUp()
 Spelling::Loaded Spelling::load(const QString &name)
 {
     const std::optional<DictionaryFiles> files = findDictionary(name);
-    if (!Dictionary::isSupported())
-        return {nullptr, tr("Cet Usmira est fait sans vérification de l'orthographe.")};
     if (!files)
         return {nullptr, tr("Le dictionnaire « %1 » n'est pas installé : l'orthographe n'est pas "
                             "vérifiée.")

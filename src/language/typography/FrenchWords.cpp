@@ -37,8 +37,7 @@ private:
 
 std::function<bool(const QString &word)> frenchWords()
 {
-    const auto files =
-        Dictionary::isSupported() ? findDictionary(QStringLiteral("fr")) : std::nullopt;
+    const auto files = findDictionary(QStringLiteral("fr"));
     if (!files)
         return {};
     const auto dictionary = std::make_shared<LaterDictionary>(*files);
