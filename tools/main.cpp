@@ -3,13 +3,15 @@
 //   SOURCES/adventure.txt -> TARGET/samples/<title>.usm
 //   SOURCES/usmira.1.txt, usmira-outil.1.txt -> TARGET/man/man1, and the French ones, *.fr.1.txt,
 //     -> TARGET/man/fr/man1
-// adventure.txt begins with "titre: ..."; "=== 12" begins a paragraph, with "fixe" behind it one
-// that MasterMix leaves alone, with "fin" an ending that the author has accepted. In a manual page
-// "@ TITLE" stands for what the help has under that title.
+// adventure.txt begins with "titre: ..." and "mots: ...", the words that spelling takes as right;
+// "=== 12" begins a paragraph, with "fixe" behind it one that MasterMix leaves alone, with "fin" an
+// ending that the author has accepted, with "juste:MOT" one in which that word is right. In a manual
+// page "@ TITLE" stands for what the help has under that title.
 
 #include "ManPage.h"
 #include "Markup.h"
 #include "check/CheckBook.h"
+#include "language/spelling/Spelling.h"
 #include "platform/Errors.h"
 #include "platform/SafeFile.h"
 #include "richtext/HiddenBox.h"
@@ -75,6 +77,8 @@ public:
         for (const QString &line : lines) {
             if (line.startsWith(QStringLiteral("titre: ")))
                 title = line.mid(7);
+            else if (line.startsWith(QStringLiteral("mots: ")))
+                m_words = line.mid(6).split(u' ');
             else if (line.startsWith(QStringLiteral("=== ")))
                 begin(line.mid(4).split(u' '));
             else
@@ -82,6 +86,9 @@ public:
         }
         end();
         acceptEndings();
+        for (const QString &word : m_words)
+            m_variables.extras = withWord(m_variables.extras, word);
+        m_variables.extras.ignored = m_ignored;
         m_variables.CurrentParagraph = m_variables.LowestWritten;
         writeAdventure(m_variables, folder + u'/' + title + QStringLiteral(".usm"));
     }
@@ -96,6 +103,9 @@ private:
             m_variables.Unmixable.at(words.first().toInt()) = 1;
         if (words.contains(QStringLiteral("fin")))
             m_endings.append(words.first().toInt());
+        for (const QString &word : words)
+            if (word.startsWith(QStringLiteral("juste:")))
+                m_ignored.append({words.first().toInt(), word.mid(6)});
     }
 
     void end()
@@ -121,6 +131,8 @@ private:
     HiddenBox m_box;
     QStringList m_paragraph;
     QList<int> m_endings;
+    QStringList m_words;
+    QList<IgnoredWord> m_ignored;
 };
 
 void makeAll(const QString &sources, const QString &target)

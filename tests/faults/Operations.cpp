@@ -42,6 +42,7 @@ const QList<Operation> &operations()
         changing(QStringLiteral("combler"), QStringLiteral("combler 1 9")),
         changing(QStringLiteral("remplacer"), QStringLiteral("remplacer Allez Va")),
         changing(QStringLiteral("typographie"), QStringLiteral("typographie appliquer")),
+        changing(QStringLiteral("ajouter-mot"), QStringLiteral("ajouter-mot Elric"), true),
         changing(QStringLiteral("uniformiser"), QStringLiteral("uniformiser Arial 14")),
         {QStringLiteral("annuler"), {Edit, Swap, TakeBack, Save}, {}, NextSave},
         {QStringLiteral("rétablir"),

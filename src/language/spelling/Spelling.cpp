@@ -53,7 +53,7 @@ void Spelling::want()
 
 bool Spelling::bringUp()
 {
-    if (m_state != State::Done) {
+    if (!m_speller.hasDictionary()) { // one may have come since
         m_state = State::Loading;
         refreshOwnWords();
         m_thread.waitForDone();
@@ -75,7 +75,8 @@ Spelling::Loaded Spelling::load(const QString &name)
         return {nullptr,
                 failureText(tr("Ce dictionnaire ne peut pas servir : l'orthographe n'est pas "
                                "vérifiée."),
-                            error)};
+                            error),
+                true};
     } catch (const std::exception &) {
         return {nullptr, tr("Il n'y a pas assez de mémoire pour le dictionnaire.")};
     }
@@ -93,7 +94,7 @@ void Spelling::take(const QString &name, const Loaded &loaded)
     m_thesaurus.reset();
     m_trouble = loaded.trouble;
     Q_EMIT changed(false);
-    if (!m_trouble.isEmpty())
+    if (loaded.isDamaged)
         Q_EMIT troubled(m_trouble);
 }
 

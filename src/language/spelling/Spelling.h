@@ -73,13 +73,14 @@ Q_SIGNALS:
     // Other words are doubtful than before; only fewer where nothing has happened but that words
     // were added.
     void changed(bool onlyFewer);
-    // There is no dictionary, for a reason that the author has not been told yet.
+    // The dictionary that is chosen is there and cannot be used.
     void troubled(const QString &frenchText);
 
 private:
     struct Loaded {
         std::shared_ptr<const Dictionary> dictionary;
         QString trouble;
+        bool isDamaged = false;
     };
     static Loaded load(const QString &name);
     void take(const QString &name, const Loaded &loaded);
