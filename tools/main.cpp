@@ -5,8 +5,8 @@
 //     -> TARGET/man/fr/man1
 // adventure.txt begins with "titre: ..." and "mots: ...", the words that spelling takes as right;
 // "=== 12" begins a paragraph, with "fixe" behind it one that MasterMix leaves alone, with "fin" an
-// ending that the author has accepted, with "juste:MOT" one in which that word is right. In a manual
-// page "@ TITLE" stands for what the help has under that title.
+// ending that the author has accepted, with "juste:MOT" one in which that word is right. In a
+// manual page "@ TITLE" stands for what the help has under that title.
 
 #include "ManPage.h"
 #include "Markup.h"

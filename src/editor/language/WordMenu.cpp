@@ -172,7 +172,7 @@ void WordMenu::addSynonyms(QMenu &menu, QAction *before, Range range)
         return;
     auto *submenu = new QMenu(tr("Synonymes"), &menu);
     for (const Thesaurus::Meaning &meaning : meanings.mid(0, MostMeanings)) {
-        submenu->addSection(meaning.kind);
+        inserted(*submenu, nullptr, meaning.kind)->setEnabled(false);
         for (const QString &synonym : meaning.words.mid(0, MostSynonyms))
             connectGuarded(
                 inserted(*submenu, nullptr, synonym), &QAction::triggered, this, m_prompts,
