@@ -335,7 +335,7 @@ void RtfBox::mendLine()
             : QList<Replacement>();
     if (replacements.isEmpty())
         return;
-    document()->setModified(false); // a step of its own
+    document()->setModified(false);      // a step of its own
     QTextCursor replaced = textCursor(); // undo goes back to where the step began
     replaced.beginEditBlock();
     for (qsizetype i = replacements.size() - 1; i >= 0; --i) {
