@@ -125,6 +125,11 @@ private Q_SLOTS:
         QCOMPARE(box.written(), "«~mot");
         box.undo();
         QCOMPARE(box.written(), "«mot");
+        box.setText({});
+        box.type("- Oui.");
+        box.undo();
+        box.type(" Non.");
+        QCOMPARE(box.written(), "- Oui. Non.");
     }
 
     void typingAidsStandAboveTheRules()

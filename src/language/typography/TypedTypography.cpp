@@ -33,6 +33,14 @@ bool isWithinTag(QStringView before)
     return next.isLetter() || next == u'/' || next == u'!';
 }
 
+// The first sentence of a line decides whether somebody says it, and the author has seen what was
+// made of it.
+bool endsSentence(QStringView before)
+{
+    return std::any_of(before.begin(), before.end(),
+                       [](QChar c) { return QStringView(u".!?…").contains(c); });
+}
+
 // A line around the caret as a text for the rules.
 class TypedLine
 {
@@ -92,6 +100,9 @@ QList<TypographyMend> typedMends(const QString &line, qsizetype caret, const QSt
     if (mends.isEmpty())
         return mends;
     const QList<TypographyMend> old = typed.mends(1, rules, kinds);
-    mends.removeIf([&old](const TypographyMend &mend) { return old.contains(mend); });
+    const bool later = endsSentence(QStringView(line).first(caret - 1));
+    mends.removeIf([&](const TypographyMend &mend) {
+        return old.contains(mend) || (later && mend.kind == TypographyKind::Dialogue);
+    });
     return mends;
 }

@@ -4,7 +4,7 @@
 
 // The rules while a line is typed. A key that ends what a rule is about lets the rule act: a space
 // behind a word or a colon, the sign itself for ! and ?, the closing quotation mark for both, the
-// end of the sentence for a line that somebody says.
+// end of its first sentence for a line that somebody says.
 
 // What the key before the caret, in the line, has made necessary of these kinds; nothing that was
 // so before it, which the author may have taken back. previous is the line before; both are without
