@@ -4,7 +4,8 @@
 
 const QList<FuzzTarget> &fuzzTargets()
 {
-    static const QList<FuzzTarget> targets = textTargets() + fileTargets() + sessionTargets();
+    static const QList<FuzzTarget> targets =
+        textTargets() + fileTargets() + sessionTargets() + languageTargets();
     return targets;
 }
 

@@ -19,6 +19,7 @@ const QList<FuzzTarget> &fuzzTargets();
 QList<FuzzTarget> textTargets();
 QList<FuzzTarget> fileTargets();
 QList<FuzzTarget> sessionTargets();
+QList<FuzzTarget> languageTargets();
 
 // Throws std::logic_error when a promise does not hold.
 void promise(bool holds, const char *words);

@@ -44,7 +44,9 @@ const QStringList &wordsBehindPreposition()
             "proximité mesure midi minuit table terre pied cheval genoux tout toute tous toutes "
             "part aucun aucune peu première dessein tâtons court bout voix condition défaut savoir "
             "supposer vrai plus quelques plusieurs certains certaines grand grands grande "
-            "entendre voir en croire coup reculons jeun mi")
+            "entendre voir en croire coup coups reculons jeun mi main mains "
+            "pas petits petite haute basse bas heure bord plat dos perte bonne pleine pleins fond "
+            "intervalles même")
             .split(u' ');
     return words;
 }

@@ -87,6 +87,12 @@ void bookTypography::connectControls()
             chooseKind(*item);
     });
     connect(m_ui->places, &QTreeView::activated, this, &bookTypography::activate);
+    // The key for a box is that of the first column.
+    connect(m_ui->places->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &index) {
+                if (index.column() > TypographyModel::What)
+                    m_ui->places->setCurrentIndex(index.siblingAtColumn(TypographyModel::What));
+            });
     connect(m_ui->optNarrow, &QRadioButton::toggled, this, &bookTypography::takeNarrow);
     connect(m_ui->chkZero, &QCheckBox::toggled, this, [this] { lookAt(0); });
     connect(m_ui->btnApply, &QPushButton::clicked, this, &bookTypography::applyWanted);
