@@ -6,6 +6,7 @@
 #include <QString>
 
 class Prompts;
+class QAction;
 class QContextMenuEvent;
 class QMenu;
 class RtfBox;

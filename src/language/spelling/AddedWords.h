@@ -10,11 +10,14 @@ class AddedWords
 {
 public:
     AddedWords() = default;
-    explicit AddedWords(const QStringList &words);
+    explicit AddedWords(const QStringList &words) : m_list(words) {}
 
     bool has(const QString &word) const;
 
 private:
-    QSet<QString> m_words;
-    QSet<QString> m_capitals; // the same words in capitals
+    void arrange() const;
+
+    mutable QStringList m_list; // until the first word is looked for
+    mutable QSet<QString> m_words;
+    mutable QSet<QString> m_capitals; // the same words in capitals
 };

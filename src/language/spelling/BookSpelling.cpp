@@ -14,7 +14,7 @@ namespace
 // Comparing words letter by letter takes long, so that each is prepared for it once.
 void sortByLetters(QList<DoubtfulWord> &words)
 {
-    QCollator collator(QLocale(QLocale::French));
+    QCollator collator{QLocale(QLocale::French)};
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     std::vector<std::pair<QCollatorSortKey, qsizetype>> keys;
     keys.reserve(static_cast<std::size_t>(words.size()));

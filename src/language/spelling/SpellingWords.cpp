@@ -40,16 +40,14 @@ bool joins(QChar c)
 qsizetype endOfWord(QStringView text, qsizetype at)
 {
     qsizetype end = at;
-    while (at < text.size()) {
+    for (; at < text.size(); ++at) {
         const QChar c = text.at(at);
-        if (isOfWord(c))
-            end = ++at;
-        else if (isUnseen(c))
-            ++at;
-        else if (joins(c) && end == at && at + 1 < text.size() && isOfWord(text.at(at + 1)))
-            ++at;
-        else
+        const bool joined =
+            joins(c) && end == at && at + 1 < text.size() && isOfWord(text.at(at + 1));
+        if (!isOfWord(c) && !isUnseen(c) && !joined)
             break;
+        if (isOfWord(c))
+            end = at + 1;
     }
     return end;
 }

@@ -12,6 +12,7 @@
 
 #include <QHeaderView>
 #include <QHideEvent>
+#include <QLineEdit>
 #include <algorithm>
 
 namespace
