@@ -1,7 +1,9 @@
 #include "language/spelling/Dictionary.h"
 #include "language/spelling/OwnWords.h"
 #include "language/spelling/Speller.h"
+#include "language/spelling/Spelling.h"
 #include "platform/Errors.h"
+#include "store/extras/ExtrasBlock.h"
 #include "support/TestTable.h"
 
 #include <QFile>
@@ -138,6 +140,42 @@ private Q_SLOTS:
         QCOMPARE(doubtsIn(speller, QString(10000, u'e')).size(), 10000);
     }
 
+    void suggestionsAreFewAndLigaturesFirst()
+    {
+        QCOMPARE(suggestionsFor(*french(), "soeur").value(0), "sœur");
+        QCOMPARE(suggestionsFor(*french(), "Oeuvre").value(0), "Œuvre");
+        QVERIFY(suggestionsFor(*french(), "guerier").contains("guerrier"));
+        QVERIFY(suggestionsFor(*french(), "epre").size() <= MostSuggestions);
+        QVERIFY(suggestionsFor(*french(), QString(40, u'e')).isEmpty());
+        QCOMPARE(withApostropheOf("l’epée", "l'épée"), "l’épée");
+    }
+
+    void synonymsAreReadFromTheirFiles()
+    {
+        const QTemporaryDir folder;
+        const QByteArray entries = "UTF-8\népée|2\n(Nom)|glaive|rapière\n-|lame\nmal|9\n";
+        put(folder.filePath("th_fr_FR_v2.dat"), entries);
+        put(folder.filePath("th_fr_FR_v2.idx"),
+            "UTF-8\n3\népée|6\nfaux|900\nmal|" + QByteArray::number(entries.indexOf("mal")));
+        const Thesaurus thesaurus("fr", {"/nowhere", folder.path()});
+        QCOMPARE(thesaurus.meanings("Épée"),
+                 (QList<Thesaurus::Meaning>{{"Nom", {"glaive", "rapière"}}, {"", {"lame"}}}));
+        for (const char *word : {"pée", "faux", "mal", "", "épée\n"})
+            QVERIFY(thesaurus.meanings(QString::fromUtf8(word)).isEmpty());
+        QVERIFY(!Thesaurus("de", {folder.path()}).isThere());
+    }
+
+    void anAdventureTakesSoManyWordsAndNoMore()
+    {
+        AdventureExtras extras = withWord(withWord({}, "orik"), "l’Elric");
+        QCOMPARE(withWord(extras, "orik").words, (QStringList{"l'Elric", "orik"}));
+        QVERIFY_THROWS_EXCEPTION(LimitError, withWord(extras, QString(101, u'x')));
+        for (int i = 0; extras.words.size() < MostAdventureWords; ++i)
+            extras.words.append(QString("zz%1").arg(i, 6, 10, QChar(u'0')));
+        QVERIFY(extrasFrom(bytesOf(extras)) == extras);
+        QVERIFY_THROWS_EXCEPTION(LimitError, withWord(extras, "Elric"));
+    }
+
     void damagedDictionariesAreRefused_data()
     {
         addTable<QByteArray, QByteArray>(
@@ -188,6 +226,10 @@ private Q_SLOTS:
         QVERIFY(one.refresh());
         QVERIFY(one.words().contains("a'b") && one.words().contains("z"));
         QVERIFY(!one.words().contains(QString(200, u'x')));
+        put(path, "\xE9p\xE9iste\némoi\n"); // not by us alone
+        one.add("orik");
+        other.add("Elric");
+        QCOMPARE(other.words(), (QStringList{"Elric", "orik", "émoi", "épéiste"}));
         QVERIFY(QFile::remove(path) && one.refresh() && one.words().isEmpty());
         QVERIFY_THROWS_EXCEPTION(FileError, OwnWords("/nowhere/at/all").add("x"));
     }

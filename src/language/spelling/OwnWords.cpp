@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 #include <QLockFile>
+#include <QStringDecoder>
 #include <algorithm>
 
 namespace
@@ -13,12 +14,20 @@ namespace
 constexpr qint64 LargestFile = 64 * 1024 * 1024;
 constexpr int LongestWait = 2000; // milliseconds, for another program that adds a word
 
+// Another editor may have saved it otherwise than we do.
+QString textOf(const QByteArray &line)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder(line);
+    return decoder.hasError() ? QString::fromLatin1(line) : text;
+}
+
 QStringList wordsIn(const QByteArray &bytes)
 {
     QStringList words;
-    const QStringList lines = QString::fromUtf8(bytes).split(u'\n');
-    for (const QString &line : lines) {
-        const QString word = spellingForm(line.trimmed());
+    const QList<QByteArray> lines = bytes.split('\n');
+    for (const QByteArray &line : lines) {
+        const QString word = spellingForm(textOf(line).trimmed());
         if (!word.isEmpty() && word.size() <= OwnWords::LongestWord &&
             words.size() < OwnWords::MostWords)
             words.append(word);
@@ -35,16 +44,21 @@ bool OwnWords::refresh()
     const qint64 size = file.exists() ? file.size() : -1;
     if (size == m_size && file.lastModified() == m_changed)
         return false;
-    QStringList words;
+    const QStringList before = m_words;
     try {
-        if (size >= 0)
-            words = wordsIn(readWholeFile(m_path, LargestFile));
+        read();
     } catch (const FileError &) {
         return false;
     }
-    m_size = size;
+    return m_words != before;
+}
+
+void OwnWords::read()
+{
+    const QFileInfo file(m_path);
+    m_words = file.exists() ? wordsIn(readWholeFile(m_path, LargestFile)) : QStringList();
+    m_size = file.exists() ? file.size() : -1;
     m_changed = file.lastModified();
-    return std::exchange(m_words, words) != words;
 }
 
 // The lock keeps two programs from reading before and writing behind one another. Where none can be
@@ -54,8 +68,7 @@ void OwnWords::add(const QString &word)
     QLockFile lock(m_path + QStringLiteral(".lock"));
     lock.setStaleLockTime(LongestWait);
     static_cast<void>(lock.tryLock(LongestWait));
-    m_size = -2; // another program may have written within the same instant
-    refresh();
+    read(); // another program may have written within the same instant
     if (m_words.contains(word))
         return;
     if (m_words.size() >= MostWords)
@@ -64,7 +77,5 @@ void OwnWords::add(const QString &word)
     words.insert(std::lower_bound(words.begin(), words.end(), word), word);
     writeWholeFile(m_path, (words.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n")).toUtf8(),
                    Durability::Data, Links::Replace);
-    m_words = words;
-    m_size = -2;
-    refresh();
+    read();
 }

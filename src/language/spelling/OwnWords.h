@@ -19,13 +19,16 @@ public:
     // file that cannot be read leaves the words as they are, one that is gone takes them away.
     bool refresh();
 
-    // Throws FileError (Write), and LimitError above MostWords.
+    // Throws FileError, also where the words that are there cannot be read, and LimitError above
+    // MostWords.
     void add(const QString &word);
 
     static constexpr int MostWords = 100000;
     static constexpr qsizetype LongestWord = 100; // a longer line of the file is none
 
 private:
+    void read();
+
     QString m_path;
     QStringList m_words;
     QDateTime m_changed; // of the file as it was read
