@@ -54,5 +54,5 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "desktop-file-utils, fonts-dejavu-core, fonts-liberation, hicolor-icon-theme, hunspell-fr-comprehensive,\
  hyphen-fr, mythes-fr")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS
-    "bash-completion, hyphen-en-us, qt6-gtk-platformtheme, qt6-wayland")
+    "bash-completion, grammalecte-cli, hyphen-en-us, qt6-gtk-platformtheme, qt6-wayland")
 include(CPack)

@@ -6,11 +6,24 @@
 #include "language/typography/TypedTypography.h"
 #include "store/Variables.h"
 
+#include <QTimer>
+
 TypographyAids::TypographyAids(const Variables &variables, const ComfortKeeper &comfort,
                                RtfBox &box)
     : QObject(&box), m_variables(variables), m_comfort(comfort), m_box(box)
 {
     connect(&comfort, &ComfortKeeper::changed, this, &TypographyAids::follow);
+}
+
+// Behind the first paint, and before a key has to wait for it.
+void TypographyAids::readDictionary()
+{
+    m_rules.isWord = frenchWords();
+    constexpr int later = 500; // milliseconds
+    QTimer::singleShot(later, this, [this] {
+        if (m_rules.isWord)
+            m_rules.isWord(QStringLiteral("a"));
+    });
 }
 
 void TypographyAids::follow()
@@ -22,7 +35,7 @@ void TypographyAids::follow()
         return;
     }
     if (!m_rules.isWord && kinds.test(indexOf(TypographyKind::Capital)))
-        m_rules.isWord = frenchWords();
+        readDictionary();
     m_box.setLineRules(
         [this, kinds](const QString &line, qsizetype caret, const QString &previous) {
             m_rules.phrase = m_variables.TargetPhrase;

@@ -18,6 +18,7 @@ public:
 
 private:
     void follow();
+    void readDictionary();
 
     const Variables &m_variables;
     const ComfortKeeper &m_comfort;
