@@ -74,6 +74,14 @@ int TypographyModel::chosenCount() const
     return chosen;
 }
 
+int TypographyModel::shownCount() const
+{
+    int shown = 0;
+    for (const Shown &group : m_shown)
+        shown += static_cast<int>(group.places.size());
+    return shown;
+}
+
 TypographyCommands::Looks TypographyModel::chosen() const
 {
     TypographyCommands::Looks looks;

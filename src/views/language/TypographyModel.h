@@ -43,6 +43,7 @@ public:
     };
     Count count(TypographyKind kind) const { return m_counts.at(indexOf(kind)); }
     int chosenCount() const;
+    int shownCount() const;
     TypographyCommands::Looks chosen() const;
 
     static bool isGroup(const QModelIndex &index)

@@ -18,6 +18,7 @@ namespace
 {
 constexpr qint64 AtATime = 20;  // milliseconds of looking between two looks at the keyboard
 constexpr int WidthOfWhat = 36; // characters
+constexpr int MostUnfolded = 20000;
 constexpr int KindRole = Qt::UserRole;
 
 // By which a place is known again: what is mended beside it changes no letters.
@@ -52,6 +53,7 @@ bookTypography::bookTypography(const Variables &variables, const TypographyComma
     for (const int words : {TypographyModel::Before, TypographyModel::After})
         header.setSectionResizeMode(words, QHeaderView::Stretch);
     addKinds();
+    showCounts();
     connectControls();
     follow();
 }
@@ -225,10 +227,19 @@ void bookTypography::showGroups()
         groups.append(group);
     const int scrolled = m_ui->places->verticalScrollBar()->value();
     m_model.setGroups(std::move(groups));
-    m_ui->places->expandAll();
+    unfold();
     m_ui->places->verticalScrollBar()->setValue(scrolled);
     if (!m_ui->places->currentIndex().isValid())
         m_ui->places->setCurrentIndex(m_model.index(0, 0));
+}
+
+// Of very many places only the paragraphs: unfolding them all would take seconds.
+void bookTypography::unfold()
+{
+    if (m_model.shownCount() <= MostUnfolded)
+        m_ui->places->expandAll();
+    else
+        m_ui->places->expand(m_model.index(0, 0));
 }
 
 void bookTypography::showCounts()
@@ -288,7 +299,7 @@ void bookTypography::showKind(int row)
 {
     const int kind = row < 1 ? -1 : m_ui->kinds->item(row)->data(KindRole).toInt();
     m_model.show(kind < 0 ? std::nullopt : std::optional(static_cast<TypographyKind>(kind)));
-    m_ui->places->expandAll();
+    unfold();
     m_ui->places->setCurrentIndex(m_model.index(0, 0));
 }
 

@@ -57,6 +57,7 @@ private:
     bool isChosen(const TypographyGroup *before, const TypographyGroup &group,
                   const TypographyMend &mend) const;
     void showGroups();
+    void unfold();
     void showCounts();
     void showCount(QListWidgetItem &item, TypographyKind kind);
     void showState();
