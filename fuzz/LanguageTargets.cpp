@@ -1,6 +1,7 @@
 #include "Targets.h"
 
 #include "check/GrammarTexts.h"
+#include "language/spelling/SpellingWords.h"
 #include "language/typography/TypedTypography.h"
 #include "richtext/HiddenBox.h"
 #include "store/ReferenceIndex.h"
@@ -45,6 +46,39 @@ void typography(const QByteArray &bytes)
                 "typing mends what stands before the caret");
 }
 
+// Whatever is read again of a line is read as the whole line is.
+void words(const QByteArray &bytes)
+{
+    const QString line = QString::fromUtf8(bytes).section(u'\n', 0, 0);
+    const WordsAndCode whole = spellingWords(line);
+    qsizetype end = 0;
+    for (const SpellingWord &word : whole.words) {
+        promise(word.position >= end && word.length > 0 && !word.text.isEmpty(),
+                "words are no empty ones, in their order");
+        end = word.position + word.length;
+    }
+    promise(end <= line.size(), "words lie in their text");
+    for (qsizetype at = 0; at <= line.size(); at += 7) {
+        const TextRange part = wordsAround(line, {at, at + 2});
+        QList<SpellingWord> inside = whole.words;
+        inside.removeIf([&part](const SpellingWord &word) {
+            return word.position < part.begin || word.position + word.length > part.end;
+        });
+        QList<SpellingWord> read =
+            spellingWords(QStringView(line).mid(part.begin, part.end - part.begin)).words;
+        for (SpellingWord &word : read)
+            word.position += part.begin;
+        promise(read == inside, "a part of a line has the words that the line has there");
+    }
+}
+
+QList<QByteArray> wordSeeds()
+{
+    return {"L'\xC3\xA9p\xC3\xA9"
+            "e <b>d\xE2\x80\x99or</b>, va-t'en \xC2\xAD au 26 !",
+            "moi@ici.fr <img src=x alt='a > b'> https://x.y/<z a\xCC\x81,b"};
+}
+
 QList<QByteArray> typographySeeds()
 {
     return {" au \nAllez  au 12 ! \"Oui\", dit l'ours... - Bah -- A l'aube, coeur",
@@ -79,6 +113,7 @@ QList<QByteArray> grammarSeeds()
 
 QList<FuzzTarget> languageTargets()
 {
-    return {{"typographie", &typography, &typographySeeds, LongestText},
+    return {{"mots", &words, &wordSeeds, LongestText},
+            {"typographie", &typography, &typographySeeds, LongestText},
             {"grammaire", &grammar, &grammarSeeds, LongestText}};
 }
