@@ -20,30 +20,7 @@
 #include <QPointer>
 #include <QTextBlock>
 #include <QTextLayout>
-#include <algorithm>
 #include <utility>
-
-namespace
-{
-// Pixels. What the page's margin is more than the document's is painted around the viewport.
-constexpr int largestPadding = 24;
-constexpr int narrowestPadded = 240; // a box as narrow as this has no padding to spare
-constexpr int largestGapAbove = 12;
-
-// The page's colour moved a little towards that of its text, so that the two differ in light and
-// dark palettes alike.
-QColor surroundings(const QPalette &palette)
-{
-    constexpr double share = 0.07;
-    const QColor page = palette.color(QPalette::Base);
-    const QColor text = palette.color(QPalette::Text);
-    const auto mixed = [](int from, int towards) {
-        return qRound(from + (towards - from) * share);
-    };
-    return {mixed(page.red(), text.red()), mixed(page.green(), text.green()),
-            mixed(page.blue(), text.blue())};
-}
-} // namespace
 
 RtfBox::RtfBox(QWidget *parent) : QTextEdit(parent), m_device(*viewport())
 {
@@ -390,24 +367,18 @@ bool RtfBox::breaksEmptyLine(const QKeyEvent &event) const
 // change of it from within its resize event is lost while the box is being shown.
 void RtfBox::centrePage()
 {
-    const int room = contentsRect().width();
-    m_padding = std::clamp((room - narrowestPadded) / 8, 0, largestPadding);
     const double column =
         QFontMetricsF(font()).averageCharWidth() * m_pageWidth * m_device.percent() / 100;
-    const int page = qRound(column) + 2 * (qRound(m_page->documentMargin()) + m_padding);
-    const int side = std::max(0, (room - page) / 2);
-    const int above = std::min(side, largestGapAbove);
-    const QMargins margins(side + m_padding, above + m_padding, side + m_padding, 0);
-    if (viewportMargins() == margins)
+    m_frame =
+        PageFrame(contentsRect().width(), qRound(column) + 2 * qRound(m_page->documentMargin()));
+    if (viewportMargins() == m_frame.margins())
         return;
-    setViewportMargins(margins);
+    setViewportMargins(m_frame.margins());
     update(); // around the page as well
 }
 
 void RtfBox::paintPage()
 {
-    const QRect page = viewport()->geometry().adjusted(-m_padding, -m_padding, m_padding, 0);
     QPainter painter(this);
-    painter.fillRect(rect(), surroundings(palette()));
-    painter.fillRect(page, palette().color(QPalette::Base));
+    m_frame.paint(painter, rect(), viewport()->geometry(), palette());
 }

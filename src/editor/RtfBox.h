@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/PageFrame.h"
 #include "editor/TypingAids.h"
 #include "editor/TypingRun.h"
 #include "editor/options/ZoomedDevice.h"
@@ -114,5 +115,5 @@ private:
     bool m_reporting = false;
     ZoomedDevice m_device;
     int m_pageWidth = 72;
-    int m_padding = 0; // pixels of the page on each side of the viewport and above it
+    PageFrame m_frame;
 };
