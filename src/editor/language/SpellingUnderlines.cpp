@@ -16,10 +16,11 @@
 
 namespace
 {
-constexpr qint64 AtATime = 4;       // milliseconds of reading between two looks at the keyboard
-constexpr int Chunk = 1000;         // characters read at once
-constexpr int SoonRead = 2 * Chunk; // what a key leaves to be read before it is painted
-constexpr int LongestTyped = 100;   // characters in which the caret may still be in the same word
+constexpr qint64 AtATime = 4;        // milliseconds of reading between two looks at the keyboard
+constexpr int AfterFirstPaint = 200; // milliseconds before the dictionary is read
+constexpr int Chunk = 1000;          // characters read at once
+constexpr int SoonRead = 2 * Chunk;  // what a key leaves to be read before it is painted
+constexpr int LongestTyped = 100;    // characters in which the caret may still be in the same word
 
 QColor wrongColour(const QPalette &palette)
 {
@@ -90,8 +91,9 @@ void SpellingUnderlines::begin()
 // What is underlined stays so until it is read.
 void SpellingUnderlines::readAgain()
 {
-    if (m_document)
-        m_marks.forget({0, m_document->characterCount()});
+    if (!m_document)
+        return;
+    m_marks.forget({0, m_document->characterCount()});
     m_idle.start(0);
 }
 
@@ -138,7 +140,7 @@ void SpellingUnderlines::readFor(qint64 milliseconds)
     if (!isActive())
         return;
     if (!m_spelling.speller().hasDictionary()) {
-        m_spelling.want();
+        QTimer::singleShot(AfterFirstPaint, &m_spelling, &Spelling::want);
         return;
     }
     follow();
