@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QStringList>
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -126,8 +127,11 @@ std::optional<Finding> GrammarTexts::finding(const Line &line, const QJsonObject
 QList<Finding> stillThere(const QList<Finding> &findings, const PlainTexts &texts)
 {
     QList<Finding> there;
+    int number = -1; // those of a paragraph follow one another
+    QString text;
     for (Finding finding : findings) {
-        const QString text = onOneLine(texts.texts.at(finding.number));
+        if (std::exchange(number, finding.number) != finding.number)
+            text = onOneLine(texts.texts.at(finding.number));
         const qsizetype before = finding.position - finding.placeInAround;
         const bool same =
             QStringView(text).mid(std::max<qsizetype>(before, 0)).startsWith(finding.around);

@@ -17,6 +17,7 @@ struct Variables;
 //   Usmira Mise en Pages.xyz           how the pages of a printed book look
 //   Usmira Mots.xyz                    words that the author's spelling takes as right
 //   Usmira Documents.xyz               which documents were delivered, by their checksums
+//   Grammaire.txt.usmira-part          the texts, while another program looks at their grammar
 //   Copyright.rtf and the like         documents, which the author may replace
 //   Session/Journal.xyz                a change of many paragraphs that counts
 //   Session/Etat.xyz                   what is unsaved
