@@ -9,6 +9,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <functional>
 #include <memory>
 
 namespace
@@ -49,7 +50,7 @@ void printKey(const TypographyRules &rules)
 void printTypographyFigures(const QString &path, const QString &folder)
 {
     std::unique_ptr<BenchEditor> editor;
-    const auto isWord = frenchWords();
+    std::function<bool(const QString &)> isWord;
     TypographyCommands::Looks looks;
     const auto look = [&] {
         QList<int> unreadable;
@@ -59,6 +60,9 @@ void printTypographyFigures(const QString &path, const QString &folder)
     // The adventure is without faults: some come in.
     const auto spoil = [&] {
         editor = opened(path, folder);
+        isWord = frenchWords(editor->variables);
+        if (isWord)
+            isWord(QStringLiteral("a")); // the dictionary is read
         SearchCommands(editor->variables, editor->prompts, editor->view, editor->view)
             .replaceAll({QStringLiteral(". "), {}}, QStringLiteral("!  "),
                         SearchCommands::Where::Everywhere);

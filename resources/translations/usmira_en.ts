@@ -3604,6 +3604,10 @@ A workshop for writing gamebooks.</translation>
         <source>Paragraphes illisibles : %1</source>
         <translation>Unreadable paragraphs: %1</translation>
     </message>
+    <message>
+        <source>Par quoi remplacer ce mot ?</source>
+        <translation>Replace this word with what?</translation>
+    </message>
 </context>
 <context>
     <name>bookTypography</name>

@@ -60,10 +60,10 @@ void GrammarCheck::start(const PlainTexts &texts)
     environment.insert(QStringLiteral("PYTHONIOENCODING"), QStringLiteral("utf-8"));
     m_process.setProcessEnvironment(environment);
     m_process.setStandardErrorFile(QProcess::nullDevice());
-    m_process.start(m_program, {QStringLiteral("-f"), m_file, QStringLiteral("-j")});
-    m_process.closeWriteChannel();
     m_silence.start();
     say(tr("Grammaire : %1 %").arg(0));
+    m_process.start(m_program, {QStringLiteral("-f"), m_file, QStringLiteral("-j")}); // may fail
+    m_process.closeWriteChannel();
 }
 
 void GrammarCheck::stop()

@@ -57,7 +57,7 @@ QByteArray typographie(CommandServices &script, const QStringList &arguments)
     const Wanted wanted = wantedBy(arguments);
     TypographyCommands commands(script.variables, script.view, script.view);
     QList<int> unreadable;
-    const TypographyRules rules = commands.rules(wanted.narrow, frenchWords());
+    const TypographyRules rules = commands.rules(wanted.narrow, frenchWords(script.variables));
     auto looks = commands.lookAtAll(rules, wanted.withZero, unreadable);
     tellUnreadable(unreadable, script.prompts);
     for (auto &[number, look] : looks)

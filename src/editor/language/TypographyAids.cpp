@@ -18,7 +18,7 @@ TypographyAids::TypographyAids(const Variables &variables, const ComfortKeeper &
 // Behind the first paint, and before a key has to wait for it.
 void TypographyAids::readDictionary()
 {
-    m_rules.isWord = frenchWords();
+    m_rules.isWord = frenchWords(m_variables);
     constexpr int later = 500; // milliseconds
     QTimer::singleShot(later, this, [this] {
         if (m_rules.isWord)

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStringDecoder>
 #include <QStringEncoder>
 #include <hunspell/hunspell.hxx>
@@ -14,7 +15,8 @@ namespace
 std::string nameOf(const QString &path)
 {
 #ifdef Q_OS_WIN
-    return (QStringLiteral("\\\\?\\") + QDir::toNativeSeparators(QDir(path).absolutePath()))
+    return (QStringLiteral("\\\\?\\") +
+            QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath()))
         .toStdString();
 #else
     return QFile::encodeName(path).toStdString();

@@ -2,6 +2,8 @@
 
 #include "language/spelling/Dictionary.h"
 
+#include <QRegularExpression>
+#include <QStringList>
 #include <algorithm>
 #include <array>
 
@@ -56,6 +58,26 @@ bool isWronglyElided(const QString &word)
             return before.compare(e, Qt::CaseInsensitive) == 0;
         });
     return strict && word.at(length).isLetter() && !isVowelOrH(word.at(length));
+}
+
+// What inversions and elisions are mistaken for, though each of their parts is a word: "va-t'il",
+// "dit-t-il", "jusqu'a".
+bool isMisjoined(const QString &word)
+{
+    static const QRegularExpression mistaken(
+        QStringLiteral("-t'(?:ils?|elles?|on)$|[td]-t-(?:ils?|elles?|on)$|^jusqu'a$"),
+        QRegularExpression::CaseInsensitiveOption);
+    return (word.contains(u'\'') || word.contains(u'-')) && mistaken.match(word).hasMatch();
+}
+
+// Right, and in no dictionary.
+bool isShortened(const QString &word)
+{
+    static const QStringList words =
+        QStringLiteral(
+            "v'là v'lan m'sieur m'dame m'man p'pa grand'rue grand'place grand'chose grand'messe")
+            .split(u' ');
+    return word.contains(u'\'') && words.contains(word, Qt::CaseInsensitive);
 }
 
 // The accents that a capital may stand without.
@@ -167,6 +189,8 @@ Speller::Parts Speller::judge(const QString &word) const
 {
     if (isRight(word))
         return {};
+    if (isMisjoined(word))
+        return {{0, word.size()}};
     const qsizetype elision = elisionLength(word);
     if (elision > 0 && (isVowelOrH(word.at(elision)) || isSkipped(word.sliced(elision))))
         return judgeRest(word, elision);
@@ -200,7 +224,8 @@ bool Speller::isRight(const QString &word) const
     if (isSkipped(word))
         return true;
     return word.size() <= LongestWord && word.count(u'-') <= MostHyphens &&
-           (hasLiterally(word) || isRightWithAccents(word)) && !isWronglyElided(word);
+           (hasLiterally(word) || isRightWithAccents(word) || isShortened(word)) &&
+           !isWronglyElided(word) && !isMisjoined(word);
 }
 
 bool Speller::isSkipped(const QString &word) const

@@ -60,6 +60,17 @@ bool isAddress(QStringView run)
             run.at(at + 1).isLetterOrNumber());
 }
 
+// The length of an "&eacute;" or "&#233;", or 0.
+qsizetype entityLength(QStringView text, qsizetype at)
+{
+    constexpr qsizetype longest = 32;
+    qsizetype end = at + 1;
+    while (end < text.size() && end - at < longest &&
+           (text.at(end).isLetterOrNumber() || text.at(end) == u'#'))
+        ++end;
+    return end > at + 1 && end < text.size() && text.at(end) == u';' ? end + 1 - at : 0;
+}
+
 // The length of the code that begins at a '<', or 0: "5 < 6" is none.
 qsizetype codeLength(QStringView text, qsizetype at)
 {
@@ -100,7 +111,7 @@ void addWords(QStringView text, qsizetype begin, qsizetype end, QList<SpellingWo
 // What is no part of a word, for texts in which there are no blanks.
 bool parts(QChar c)
 {
-    return c == u',' || c == u';' || c == u'!' || c == u'(' || c == u')' || c == u'\u2026';
+    return c == u',' || c == u'!' || c == u'(' || c == u')' || c == u'\u2026';
 }
 
 // The code that a place lies within, or the place alone.
@@ -144,14 +155,15 @@ WordsAndCode spellingWords(QStringView text)
     while (at < text.size()) {
         const QChar c = text.at(at);
         const qsizetype code = c == u'<' ? codeLength(text, at) : 0;
-        if (code == 0 && !isBlank(c)) {
+        const qsizetype passed = c == u'&' ? entityLength(text, at) : code;
+        if (passed == 0 && !isBlank(c)) {
             ++at;
             continue;
         }
         endRun();
         if (code > 0)
             found.code.append({at, code});
-        at += std::max<qsizetype>(code, 1);
+        at += std::max<qsizetype>(passed, 1);
         begin = at;
     }
     endRun();

@@ -46,7 +46,8 @@ const QStringList &wordsBehindPreposition()
             "supposer vrai plus quelques plusieurs certains certaines grand grands grande "
             "entendre voir en croire coup coups reculons jeun mi main mains "
             "pas petits petite haute basse bas heure bord plat dos perte bonne pleine pleins fond "
-            "intervalles même")
+            "intervalles même suivre contrecœur rebours quand mort tire tue compter onze douze "
+            "treize quinze seize vingt trente")
             .split(u' ');
     return words;
 }
@@ -66,7 +67,7 @@ QChar accentedCapital(const QString &word, const std::function<bool(const QStrin
     const auto knows = [&](const QString &small) {
         return isWord ? isWord(small) : knownWords().contains(small);
     };
-    if (knows(word.toLower()))
+    if (knows(word.toLower()) || knows(word)) // the latter is a name
         return {};
     QChar found;
     for (const QChar accented : capital->accented) {

@@ -3,7 +3,10 @@
 #include <QString>
 #include <functional>
 
-// Whether a word is in the French dictionary that is installed, letter for letter; an empty
-// function where there is none. The dictionary is read when the first word is asked about, which
-// takes some 50 ms, and kept for as long as the function; a damaged one has no words.
-std::function<bool(const QString &word)> frenchWords();
+struct Variables;
+
+// Whether a word is in the French dictionary that is installed, letter for letter, or one that the
+// author has added to it or to the adventure; an empty function where there is no dictionary. It is
+// read when the first word is asked about, which takes some 50 ms, and kept for as long as the
+// function; a damaged one has no words. variables must outlive the function.
+std::function<bool(const QString &word)> frenchWords(const Variables &variables);

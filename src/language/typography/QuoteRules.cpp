@@ -49,8 +49,13 @@ private:
     void takeStraight(qsizetype at)
     {
         const bool inside = m_straight > 0;
-        const bool couldOpen = opensAfter(m_source.at(at - 1)) && hasWordBehind(at);
+        const QChar before = m_source.at(at - 1);
+        const bool behindTag = before == u'>' && m_source.isKept(at - 1);
         const bool wordFollows = !m_source.at(at + 1).isSpace();
+        const bool behindSign =
+            !inside && m_source.at(at + 1).isLetter() && QStringView(u",;.…!?").contains(before);
+        const bool couldOpen =
+            (opensAfter(before) || (behindTag && !inside) || behindSign) && hasWordBehind(at);
         if (couldOpen && (wordFollows || !inside)) {
             m_open.append({at, true});
             ++m_straight;

@@ -17,12 +17,14 @@ bool isRun(const TypographySource &source, qsizetype at, QChar sign, qsizetype l
     return true;
 }
 
-// A foot or a quotation mark has no letter on one of its sides.
+// A foot or a quotation mark has no letter on one of its sides. A word may begin with the author's
+// own HTML.
 void mendApostrophe(TypographySource &source, qsizetype at)
 {
     const QChar next = source.at(at + 1);
     if (source.at(at - 1).isLetter() &&
-        (next.isLetterOrNumber() || QStringView(u"«“\"").contains(next)))
+        (next.isLetterOrNumber() || QStringView(u"«“\"").contains(next) ||
+         (next == u'<' && source.isKept(at + 1))))
         source.mend({TypographyKind::Apostrophe, at, 1, QStringLiteral("’")}, u'’');
 }
 

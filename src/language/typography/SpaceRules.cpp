@@ -89,7 +89,7 @@ private:
         const QChar next = m_source.at(at + 1);
         if (next == u'-')
             return !m_source.at(at + 2).isSpace();
-        return isOneOf(next, u")(") ||
+        return isOneOf(next, u")(") || (next == u'\'' && isOneOf(m_source.at(at + 2), u")(")) ||
                (isOneOf(next, u"DPp/|*o") && !m_source.at(at + 2).isLetterOrNumber());
     }
 
@@ -107,8 +107,8 @@ private:
         const bool ends = next.isSpace() || isOneOf(next, strong ? u"»”\")]’…,." : u"«»”\")");
         const bool follows =
             left.isLetterOrNumber() || left.isMark() || isOneOf(left, u")]»”%°€…’.");
-        const bool drive =
-            sign == u':' && left.isUpper() && !m_source.at(at - 2).isLetterOrNumber();
+        const bool drive = sign == u':' && left.isUpper() && !next.isSpace() &&
+                           !m_source.at(at - 2).isLetterOrNumber();
         if (ends && follows && !drive && !isSmiley(at))
             insert(at, before(sign));
     }

@@ -7,8 +7,8 @@ namespace
 constexpr qsizetype Before = 400; // characters of the line that count
 constexpr qsizetype Behind = 40;
 
-// What is taken for the rest of a line that ends at the caret. The author goes on: a word may become
-// longer, a colon a face and two hyphens three, and a mark behind a space opens.
+// What is taken for the rest of a line that ends at the caret. The author goes on: a word may
+// become longer, a colon a face and two hyphens three, and a mark behind a space opens.
 QString expectedBehind(const QString &before)
 {
     const QChar last = before.back();

@@ -3,6 +3,7 @@
 #include "language/typography/CapitalWords.h"
 #include "language/typography/LigatureWords.h"
 #include "language/typography/TypographySource.h"
+#include "platform/Ascii.h"
 
 namespace
 {
@@ -59,15 +60,29 @@ private:
         const qsizetype behind = at + word.size();
         if (word.size() > 1)
             return accentedCapital(word, m_isWord);
-        const bool blank = isPlainBlank(m_source.at(behind));
-        const QString next = blank ? wordAt(behind + 1) : QString();
+        if (word != u"A" || !isPlainBlank(m_source.at(behind)))
+            return {};
+        if (isHour(behind + 1))
+            return u'À';
+        const QString next = wordAt(behind + 1);
         const QChar sign = m_source.at(behind + 1 + next.size());
         const bool elided = sign == u'\'' || sign == u'’';
-        return word == u"A" && followsPreposition(next, elided) ? QChar(u'À') : QChar();
+        return followsPreposition(next, elided) ? QChar(u'À') : QChar();
     }
 
-    // At the start of a line, behind the end of another sentence, or where somebody begins to
-    // speak.
+    // "5 heures", "17 h" and "17h30".
+    bool isHour(qsizetype at) const
+    {
+        qsizetype end = at;
+        while (isAsciiDigit(m_source.at(end)))
+            ++end;
+        const qsizetype unit = isPlainBlank(m_source.at(end)) ? end + 1 : end;
+        const QString word = wordAt(unit);
+        return end > at && (word == u"h" || word == u"heure" || word == u"heures");
+    }
+
+    // At the start of a line, behind the end of another sentence, in quotation marks or not, or
+    // where somebody begins to speak.
     bool startsSentence(qsizetype at) const
     {
         bool blank = false;
@@ -78,7 +93,8 @@ private:
                 return true;
             blank |= c.isSpace();
             speech |= QStringView(u"«“—").contains(c);
-            if (!c.isSpace() && !QStringView(u"«“([—–-•").contains(c))
+            const bool closes = blank && QStringView(u"»”").contains(c);
+            if (!c.isSpace() && !closes && !QStringView(u"«“([—–-•").contains(c))
                 return QStringView(u".!?…").contains(c) ? blank || speech : speech && c == u':';
         }
     }

@@ -57,7 +57,6 @@ void bookSpelling::connectControls()
     });
     connect(m_ui->places->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &bookSpelling::showButtons);
-    connect(m_ui->comboBy, &QComboBox::editTextChanged, this, &bookSpelling::showButtons);
     connect(m_ui->btnReplace, &QPushButton::clicked, this, [this] { replace(false); });
     connect(m_ui->btnReplaceAll, &QPushButton::clicked, this, [this] { replace(true); });
     connect(m_ui->btnAddToAdventure, &QPushButton::clicked, this, [this] {
@@ -221,9 +220,8 @@ void bookSpelling::showButtons()
 {
     const bool word = !m_shown.isEmpty();
     const bool places = m_ui->places->selectionModel()->hasSelection();
-    const bool by = !m_ui->comboBy->currentText().isEmpty();
-    m_ui->btnReplace->setEnabled(word && places && by);
-    m_ui->btnReplaceAll->setEnabled(word && by);
+    m_ui->btnReplace->setEnabled(word && places);
+    m_ui->btnReplaceAll->setEnabled(word);
     m_ui->btnAddToAdventure->setEnabled(word);
     m_ui->btnAddToOwn->setEnabled(word);
     m_ui->btnIgnore->setEnabled(word && places);
@@ -242,6 +240,11 @@ QList<WordPlace> bookSpelling::chosenPlaces() const
 
 void bookSpelling::replace(bool everywhere)
 {
+    if (m_ui->comboBy->currentText().isEmpty()) {
+        m_ui->lblState->setText(tr("Par quoi remplacer ce mot ?"));
+        m_ui->comboBy->setFocus();
+        return;
+    }
     Q_EMIT replaceWanted({m_shown, m_ui->comboBy->currentText(), everywhere,
                           everywhere ? QList<WordPlace>() : chosenPlaces()});
 }

@@ -145,7 +145,7 @@ void bookTypography::hideEvent(QHideEvent *event)
 
 void bookTypography::lookAgain()
 {
-    m_rules = m_commands.rules(m_comfort.comfort().narrowSpaces, frenchWords());
+    m_rules = m_commands.rules(m_comfort.comfort().narrowSpaces, frenchWords(m_variables));
     for (int n = 0; n <= Variables::LastParagraph; ++n)
         if (m_variables.Written.at(n) == 1 || m_found.count(n) > 0)
             m_unread.insert(n);
