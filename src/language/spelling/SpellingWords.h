@@ -6,8 +6,8 @@
 
 // What spelling looks up in a text. A word is a run of letters, digits and accents; apostrophes and
 // hyphens within it belong to it, so that "l'épée", "aujourd'hui" and "donne-moi" are one each.
-// What the author has put between < and > is his own code; entities (&eacute;) and addresses such as
-// https://... and name@place are no words.
+// What the author has put between < and > is his own code; entities (&eacute;) and addresses such
+// as https://... and name@place are no words.
 
 struct SpellingWord {
     qsizetype position;
