@@ -6,6 +6,9 @@
 #include "store/ParagraphStore.h"
 
 #include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <memory>
 
 // The whole editor but its window, with its working folder in folder.
 struct BenchEditor {
@@ -31,3 +34,15 @@ struct BenchEditor {
     HeadlessView view{variables};
     AdventureCommands commands{variables, prompts, view, view};
 };
+
+// An editor on a copy of the adventure at path, with what it works with below folder.
+inline std::unique_ptr<BenchEditor> editorOnCopy(const QString &path, const QString &folder)
+{
+    QTemporaryDir copy(folder + QStringLiteral("/copy"));
+    copy.setAutoRemove(false);
+    const QString own = copy.path() + u'/';
+    QFile::copy(path, own + QStringLiteral("Copie.usm"));
+    auto editor = std::make_unique<BenchEditor>(own + QStringLiteral("work"));
+    editor->commands.OpenAdventure(own + QStringLiteral("Copie.usm"));
+    return editor;
+}

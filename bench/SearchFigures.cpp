@@ -7,25 +7,11 @@
 #include "editor/search/MatchFinder.h"
 #include "editor/search/SearchCommands.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <memory>
 
 namespace
 {
 constexpr int Runs = 5;
-
-// An editor on a copy of its own.
-std::unique_ptr<BenchEditor> opened(const QString &path, const QString &folder)
-{
-    QTemporaryDir copy(folder + QStringLiteral("/search"));
-    copy.setAutoRemove(false);
-    const QString own = copy.path() + u'/';
-    QFile::copy(path, own + QStringLiteral("Copie.usm"));
-    auto editor = std::make_unique<BenchEditor>(own + QStringLiteral("work"));
-    editor->commands.OpenAdventure(own + QStringLiteral("Copie.usm"));
-    return editor;
-}
 
 void printFigureOf(const char *name, const std::function<void()> &prepare,
                    const std::function<void()> &action)
@@ -50,7 +36,7 @@ void printList(const char *name, const BenchEditor &editor, const SearchCommands
 
 void printSearchFigures(const QString &path, const QString &folder)
 {
-    std::unique_ptr<BenchEditor> editor = opened(path, folder);
+    std::unique_ptr<BenchEditor> editor = editorOnCopy(path, folder);
     SearchCommands search(editor->variables, editor->prompts, editor->view, editor->view);
     printFigureOf(
         "search 2000 paragraphs to the end", [] {},
@@ -62,7 +48,7 @@ void printSearchFigures(const QString &path, const QString &folder)
     printList("list them without accents", *editor, search, {word, {}, false, true});
     printList("list them by a regular expression", *editor, search,
               {QStringLiteral("\\brendez-\\w+ au (\\d+)"), {}, true, false});
-    const auto reopen = [&] { editor = opened(path, folder); };
+    const auto reopen = [&] { editor = editorOnCopy(path, folder); };
     printFigureOf("replace in 2000 paragraphs", reopen, [&] {
         SearchCommands replacing(editor->variables, editor->prompts, editor->view, editor->view);
         replacing.replaceAll({word, {}}, QStringLiteral("Allez"),

@@ -7,8 +7,6 @@
 #include "language/typography/FrenchWords.h"
 #include "language/typography/TypedTypography.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <functional>
 #include <memory>
 
@@ -21,18 +19,6 @@ void print(const char *name, const std::function<void()> &prepare,
 {
     printFigure(QString::fromUtf8(name), medianMilliseconds(Runs, prepare, action),
                 QStringLiteral("ms"));
-}
-
-// An editor on a copy of its own.
-std::unique_ptr<BenchEditor> opened(const QString &path, const QString &folder)
-{
-    QTemporaryDir copy(folder + QStringLiteral("/typography"));
-    copy.setAutoRemove(false);
-    const QString own = copy.path() + u'/';
-    QFile::copy(path, own + QStringLiteral("Copie.usm"));
-    auto editor = std::make_unique<BenchEditor>(own + QStringLiteral("work"));
-    editor->commands.OpenAdventure(own + QStringLiteral("Copie.usm"));
-    return editor;
 }
 
 void printKey(const TypographyRules &rules)
@@ -59,7 +45,7 @@ void printTypographyFigures(const QString &path, const QString &folder)
     };
     // The adventure is without faults: some come in.
     const auto spoil = [&] {
-        editor = opened(path, folder);
+        editor = editorOnCopy(path, folder);
         isWord = frenchWords(editor->variables);
         if (isWord)
             isWord(QStringLiteral("a")); // the dictionary is read
