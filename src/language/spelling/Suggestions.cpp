@@ -33,8 +33,8 @@ QString withLigatures(QString word)
 {
     word.replace(QStringLiteral("oe"), QStringLiteral("œ"));
     word.replace(QStringLiteral("oe"), QStringLiteral("Œ"), Qt::CaseInsensitive);
-    word.replace(QStringLiteral("ae"), QStringLiteral("æ"));
-    word.replace(QStringLiteral("ae"), QStringLiteral("Æ"), Qt::CaseInsensitive);
+    word.replace(QStringLiteral("ae"), QString(u'æ'));
+    word.replace(QStringLiteral("ae"), QString(u'Æ'), Qt::CaseInsensitive);
     return word;
 }
 } // namespace
