@@ -31,8 +31,8 @@ constexpr qsizetype MostKnown = 2000;
 
 QString withLigatures(QString word)
 {
-    word.replace(QStringLiteral("oe"), QStringLiteral("œ"));
-    word.replace(QStringLiteral("oe"), QStringLiteral("Œ"), Qt::CaseInsensitive);
+    word.replace(QStringLiteral("oe"), QString(u'œ'));
+    word.replace(QStringLiteral("oe"), QString(u'Œ'), Qt::CaseInsensitive);
     word.replace(QStringLiteral("ae"), QString(u'æ'));
     word.replace(QStringLiteral("ae"), QString(u'Æ'), Qt::CaseInsensitive);
     return word;
