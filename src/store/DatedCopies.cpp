@@ -55,8 +55,7 @@ CopyNames namesFor(const QString &adventurePath)
 
 QString copiesFolder(const Variables &variables)
 {
-    const QString &main = variables.MainFolder;
-    return WorkingFiles(main.isEmpty() ? variables.WorkingFolder : main).copies();
+    return WorkingFiles::shared(variables).copies();
 }
 
 // Later than all others, also after a second save within a second, and when the clock was put back:

@@ -43,6 +43,12 @@ WorkingFiles::WorkingFiles(const Variables &variables)
 {
 }
 
+WorkingFiles WorkingFiles::shared(const Variables &variables)
+{
+    const QString &main = variables.MainFolder;
+    return WorkingFiles(main.isEmpty() ? variables.WorkingFolder : main);
+}
+
 QString WorkingFiles::text(int n) const
 {
     return numberedText(m_folder + m_filePrefix, n);

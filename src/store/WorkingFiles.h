@@ -38,6 +38,8 @@ public:
     explicit WorkingFiles(const QString &folder, const QString &filePrefix = {});
     // Those of the open adventure.
     explicit WorkingFiles(const Variables &variables);
+    // Those that programs with working folders of their own share.
+    static WorkingFiles shared(const Variables &variables);
 
     const QString &folder() const { return m_folder; }
 

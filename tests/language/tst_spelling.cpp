@@ -3,6 +3,7 @@
 #include "language/spelling/Speller.h"
 #include "language/spelling/Spelling.h"
 #include "platform/Errors.h"
+#include "store/Variables.h"
 #include "store/extras/ExtrasBlock.h"
 #include "support/TestTable.h"
 
@@ -234,6 +235,11 @@ private Q_SLOTS:
         QCOMPARE(other.words(), (QStringList{"Elric", "orik", "émoi", "épéiste"}));
         QVERIFY(QFile::remove(path) && one.refresh() && one.words().isEmpty());
         QVERIFY_THROWS_EXCEPTION(FileError, OwnWords("/nowhere/at/all").add("x"));
+        Variables second; // program, with a working folder within the first one's
+        second.MainFolder = folder.path() + '/';
+        second.WorkingFolder = folder.filePath("2/");
+        Spelling(second).addToOwnWords("orik");
+        QVERIFY(one.refresh() && one.words().contains("orik"));
     }
 };
 

@@ -156,7 +156,7 @@ QList<SpellingWord> Spelling::doubtsIn(int n, const QString &text) const
 OwnWords &Spelling::ownWords()
 {
     if (!m_ownWords)
-        m_ownWords.emplace(WorkingFiles(m_variables).ownWords());
+        m_ownWords.emplace(WorkingFiles::shared(m_variables).ownWords());
     return *m_ownWords;
 }
 

@@ -34,7 +34,7 @@ public:
 private:
     void read()
     {
-        OwnWords own(WorkingFiles(m_variables).ownWords());
+        OwnWords own(WorkingFiles::shared(m_variables).ownWords());
         own.refresh();
         m_ownWords = AddedWords(own.words());
         try {

@@ -240,13 +240,15 @@ QList<WordPlace> bookSpelling::chosenPlaces() const
 
 void bookSpelling::replace(bool everywhere)
 {
-    if (m_ui->comboBy->currentText().isEmpty()) {
+    // What was pasted may have ends of lines, which the box shows as blanks.
+    const QString by = m_ui->comboBy->currentText().simplified();
+    if (by.isEmpty()) {
         m_ui->lblState->setText(tr("Par quoi remplacer ce mot ?"));
         m_ui->comboBy->setFocus();
         return;
     }
-    Q_EMIT replaceWanted({m_shown, m_ui->comboBy->currentText(), everywhere,
-                          everywhere ? QList<WordPlace>() : chosenPlaces()});
+    Q_EMIT replaceWanted(
+        {m_shown, by, everywhere, everywhere ? QList<WordPlace>() : chosenPlaces()});
 }
 
 // A word is ignored in the whole of a paragraph.
