@@ -11,14 +11,14 @@ constexpr int Gap = 4; // pixels
 } // namespace
 
 TypographyDelegate::TypographyDelegate(const TypographyModel &model, QObject *parent)
-    : QStyledItemDelegate(parent), m_model(model)
+    : CheckDelegate(parent), m_model(model)
 {
 }
 
 void TypographyDelegate::initStyleOption(QStyleOptionViewItem *option,
                                          const QModelIndex &index) const
 {
-    QStyledItemDelegate::initStyleOption(option, index);
+    CheckDelegate::initStyleOption(option, index);
     option->font.setBold(TypographyModel::isGroup(index));
     option->fontMetrics = QFontMetrics(option->font);
 }
@@ -27,7 +27,7 @@ void TypographyDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
                                const QModelIndex &index) const
 {
     if (TypographyModel::isGroup(index) || index.column() == TypographyModel::What) {
-        QStyledItemDelegate::paint(painter, option, index);
+        CheckDelegate::paint(painter, option, index);
         return;
     }
     QStyleOptionViewItem cell = option;

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "widgets/CheckDelegate.h"
 
 class TypographyModel;
 
 // Paints a place of the list: the words as they are and as they would be, with what changes in
 // bold. Paragraphs are in bold over the whole width.
-class TypographyDelegate : public QStyledItemDelegate
+class TypographyDelegate : public CheckDelegate
 {
     Q_OBJECT
 

@@ -7,6 +7,7 @@
 #include "ui_bookTypography.h"
 #include "views/language/TypographyDelegate.h"
 #include "views/language/TypographyWords.h"
+#include "widgets/CheckDelegate.h"
 
 #include <QElapsedTimer>
 #include <QHeaderView>
@@ -77,6 +78,7 @@ void bookTypography::addKinds()
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(m_kinds.test(indexOf(kind)) ? Qt::Checked : Qt::Unchecked);
     }
+    m_ui->kinds->setItemDelegate(new CheckDelegate(m_ui->kinds));
     m_ui->kinds->setCurrentRow(0);
 }
 
