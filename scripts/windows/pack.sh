@@ -101,7 +101,7 @@ ship() {
     cp -L /usr/share/hyphen/hyph_fr.dic "$1/hyphen/"
     mkdir -p "$1/hunspell" "$1/mythes"
     cp -L /usr/share/hunspell/fr.{aff,dic} "$1/hunspell/"
-    cp -L /usr/share/mythes/thes_fr.{idx,dat} "$1/mythes/"
+    cp -L /usr/share/mythes/th_fr_FR_v2.{idx,dat} "$1/mythes/"
     ship_licences "$1/licences" "$2"
     cp resources/documents/* "$1/documents/"
     cp -r resources/samples "$1/documents/"
