@@ -1,20 +1,17 @@
 #include "views/check/FindingDelegate.h"
 
 #include "views/check/FindingModel.h"
-#include "widgets/BoldWords.h"
 #include "widgets/Shade.h"
 
-#include <QPainter>
 #include <algorithm>
 
 namespace
 {
-constexpr int Gap = 4;           // pixels
 constexpr double Faint = 0.68;   // of the text's colour: lighter, and still easy to read
 constexpr qsizetype Before = 24; // characters of the sentence that stand before the place
 
 // The words around the place, cut at the start so that a narrow column shows the place too.
-BoldWords wordsOf(const Finding &finding)
+BoldWords wordsAround(const Finding &finding)
 {
     QString text = finding.around;
     text.replace(u'\t', u' ');
@@ -29,13 +26,13 @@ BoldWords wordsOf(const Finding &finding)
 } // namespace
 
 FindingDelegate::FindingDelegate(const FindingModel &model, QObject *parent)
-    : QStyledItemDelegate(parent), m_model(model)
+    : WordsDelegate(parent), m_model(model)
 {
 }
 
 void FindingDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
-    QStyledItemDelegate::initStyleOption(option, index);
+    WordsDelegate::initStyleOption(option, index);
     if (FindingModel::isGroup(index)) {
         option->font.setBold(true);
         option->fontMetrics = QFontMetrics(option->font);
@@ -47,22 +44,9 @@ void FindingDelegate::initStyleOption(QStyleOptionViewItem *option, const QModel
         option->palette.setColor(QPalette::Text, shade(option->palette, Faint));
 }
 
-void FindingDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
-                            const QModelIndex &index) const
+std::optional<BoldWords> FindingDelegate::wordsOf(const QModelIndex &index) const
 {
-    if (FindingModel::isGroup(index) || index.column() != FindingModel::Words) {
-        QStyledItemDelegate::paint(painter, option, index);
-        return;
-    }
-    QStyleOptionViewItem cell = option;
-    initStyleOption(&cell, index);
-    painter->save();
-    paintCell(*painter, cell);
-    paintWords(*painter, cell.rect.adjusted(Gap, 0, -Gap, 0), wordsOf(m_model.at(index).finding));
-    painter->restore();
-}
-
-QSize FindingDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
-{
-    return {0, option.fontMetrics.height() + 2 * Gap};
+    if (FindingModel::isGroup(index) || index.column() != FindingModel::Words)
+        return std::nullopt;
+    return wordsAround(m_model.at(index).finding);
 }

@@ -1,24 +1,21 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "widgets/WordsDelegate.h"
 
 class FindingModel;
 
 // Paints a list of findings: groups in bold over the whole width, the place of a finding in bold
 // among the words around it, what was accepted paler.
-class FindingDelegate : public QStyledItemDelegate
+class FindingDelegate : public WordsDelegate
 {
     Q_OBJECT
 
 public:
     FindingDelegate(const FindingModel &model, QObject *parent);
 
-    void paint(QPainter *painter, const QStyleOptionViewItem &option,
-               const QModelIndex &index) const override;
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+    std::optional<BoldWords> wordsOf(const QModelIndex &index) const override;
 
 private:
     const FindingModel &m_model;
